@@ -1,0 +1,20 @@
+#include "core/clock.h"
+
+#include "core/random.h"
+
+namespace core {
+
+void seedByClock(RandomSource& random, const Clock& clock)
+{
+    const double seconds = clock.timeOfDay().second();
+    const double minutes = clock.timeOfDay().minute();
+    const double hours = clock.timeOfDay().hour();
+    random.seed((seconds + 1) * (minutes + 1) * (hours + 1));
+}
+
+void seedByTimer(RandomSource& random, const Clock& clock)
+{
+    random.seed(clock.timeOfDay().msecsSinceStartOfDay() / 1000.0);
+}
+
+} // namespace core

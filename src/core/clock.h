@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QTime>
+
+namespace core {
+
+class RandomSource;
+
+/// The time of day.
+class Clock {
+public:
+    virtual ~Clock() = default;
+
+    /// The local time of day now, to the millisecond.
+    virtual QTime timeOfDay() const = 0;
+};
+
+class SystemClock final : public Clock {
+public:
+    QTime timeOfDay() const override { return QTime::currentTime(); }
+};
+
+/// Seeds with (seconds + 1) × (minutes + 1) × (hours + 1), each read separately, in that
+/// order.
+void seedByClock(RandomSource& random, const Clock& clock);
+
+/// Seeds with the seconds since midnight, fraction included.
+void seedByTimer(RandomSource& random, const Clock& clock);
+
+} // namespace core

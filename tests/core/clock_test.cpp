@@ -1,0 +1,40 @@
+#include "core/clock.h"
+
+#include "support/fake_clock.h"
+#include "support/scripted_random.h"
+
+#include <QtTest>
+
+class ClockTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void seedByClockReadsSecondsMinutesHoursSeparately()
+    {
+        FakeClock clock;
+        clock.readings = {QTime(1, 2, 59), QTime(1, 3, 0), QTime(4, 0, 0)};
+        ScriptedRandom random;
+        core::seedByClock(random, clock);
+        QCOMPARE(random.seeds, std::vector<double>{60.0 * 4 * 5});
+        QVERIFY(clock.readings.empty());
+    }
+
+    void largestClockSeedDoesNotOverflow()
+    {
+        FakeClock clock(QTime(23, 59, 59));
+        ScriptedRandom random;
+        core::seedByClock(random, clock);
+        QCOMPARE(random.seeds, std::vector<double>{86400.0});
+    }
+
+    void seedByTimerKeepsTheFraction()
+    {
+        FakeClock clock(QTime(0, 1, 1, 250));
+        ScriptedRandom random;
+        core::seedByTimer(random, clock);
+        QCOMPARE(random.seeds, std::vector<double>{61.25});
+    }
+};
+
+QTEST_GUILESS_MAIN(ClockTest)
+#include "clock_test.moc"
