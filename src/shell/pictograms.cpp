@@ -1,0 +1,256 @@
+#include "shell/pictograms.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
+namespace shell {
+
+namespace {
+
+// Every picture is drawn on a square of this side. Whole coordinates fall between two pixels
+// at 32 px, where straight strokes are then sharpest.
+constexpr qreal Grid = 32;
+constexpr qreal StrokeWidth = 2.2;
+constexpr QColor Ink(0x16, 0x20, 0x2B);
+constexpr QColor DisabledInk(0x55, 0x61, 0x6E);
+
+void drawDot(QPainter& painter, QPointF centre, qreal radius)
+{
+    painter.save();
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(centre, radius, radius);
+    painter.restore();
+}
+
+void drawPlus(QPainter& painter, QPointF centre, qreal arm)
+{
+    painter.drawLine(centre - QPointF(arm, 0), centre + QPointF(arm, 0));
+    painter.drawLine(centre - QPointF(0, arm), centre + QPointF(0, arm));
+}
+
+void drawTimes(QPainter& painter, QPointF centre, qreal arm)
+{
+    painter.drawLine(centre - QPointF(arm, arm), centre + QPointF(arm, arm));
+    painter.drawLine(centre - QPointF(arm, -arm), centre + QPointF(arm, -arm));
+}
+
+// Digits are strokes too, 6 wide and 10 high, so that they weigh as much as the lines
+// beside them whatever fonts the desktop has.
+void drawTwo(QPainter& painter, QPointF topLeft)
+{
+    QPainterPath path(QPointF(0, 3));
+    path.cubicTo(0, -1, 6, -1, 6, 3);
+    path.cubicTo(6, 5.5, 3, 7, 0, 10);
+    path.lineTo(6, 10);
+    painter.drawPath(path.translated(topLeft));
+}
+
+void drawFour(QPainter& painter, QPointF topLeft)
+{
+    QPainterPath path(QPointF(4, 10));
+    path.lineTo(4, 0);
+    path.lineTo(0, 7);
+    path.lineTo(6, 7);
+    painter.drawPath(path.translated(topLeft));
+}
+
+void drawRepeatedSum(QPainter& painter)
+{
+    drawFour(painter, {3, 4});
+    drawPlus(painter, {16, 9}, 3);
+    drawFour(painter, {23, 4});
+    drawPlus(painter, {16, 23}, 3);
+    drawFour(painter, {23, 18});
+}
+
+void drawTables(QPainter& painter)
+{
+    painter.drawRoundedRect(QRectF(2, 2, 28, 28), 2, 2);
+    for (const qreal at : {14, 22}) {
+        painter.drawLine(QPointF(at, 2), QPointF(at, 30));
+        painter.drawLine(QPointF(2, at), QPointF(30, at));
+    }
+    drawTimes(painter, {8, 8}, 2.5);
+}
+
+void drawQuickTables(QPainter& painter)
+{
+    painter.drawEllipse(QPointF(16, 18), 11, 11);
+    painter.drawLine(QPointF(16, 3), QPointF(16, 7));
+    painter.drawLine(QPointF(13, 3), QPointF(19, 3));
+    painter.drawLine(QPointF(25, 7), QPointF(27, 9));
+    painter.drawLine(QPointF(16, 18), QPointF(20, 13));
+    drawDot(painter, {16, 18}, 2);
+}
+
+void drawGap(QPainter& painter)
+{
+    drawTimes(painter, {4.5, 16}, 2.5);
+    painter.drawLine(QPointF(27, 14), QPointF(30, 14));
+    painter.drawLine(QPointF(27, 18), QPointF(30, 18));
+
+    // Pen dashes are counted in stroke widths. Two periods fill the width and three the
+    // height, so that each corner is the middle of a dash.
+    constexpr qreal Period = 6;
+    constexpr qreal Dash = 1.4;
+    QPen pen = painter.pen();
+    pen.setDashPattern({Dash / StrokeWidth, (Period - Dash) / StrokeWidth});
+    pen.setDashOffset(Dash / 2 / StrokeWidth);
+    painter.setPen(pen);
+    painter.drawRect(QRectF(11, 7, 2 * Period, 3 * Period));
+}
+
+void drawMultiples(QPainter& painter)
+{
+    for (const qreal top : {3, 18}) {
+        painter.drawRoundedRect(QRectF(2, top, 28, 11), 5.5, 5.5);
+        for (const qreal x : {8, 16, 24})
+            drawDot(painter, {x, top + 5.5}, 2);
+    }
+}
+
+void drawMultiplication(QPainter& painter)
+{
+    drawTwo(painter, {14, 2});
+    drawFour(painter, {23, 2});
+    drawTimes(painter, {7, 20}, 3);
+    drawTwo(painter, {23, 15});
+    painter.drawLine(QPointF(3, 29), QPointF(29, 29));
+}
+
+void drawDivision(QPainter& painter)
+{
+    drawFour(painter, {3, 4});
+    painter.drawPolyline(QPolygonF{{15, 3}, {15, 17}, {29, 17}});
+    drawTwo(painter, {19, 4});
+    drawTwo(painter, {19, 20});
+}
+
+void drawProblems(QPainter& painter)
+{
+    QPainterPath bubble;
+    bubble.addRoundedRect(QRectF(2, 2, 28, 21), 5, 5);
+    QPainterPath tail(QPointF(8, 22));
+    tail.lineTo(8, 30);
+    tail.lineTo(15, 22);
+    painter.drawPath(bubble.united(tail));
+
+    QPainterPath question(QPointF(12, 9));
+    question.cubicTo(12, 4, 20, 4, 20, 9);
+    question.cubicTo(20, 12, 16, 11, 16, 15);
+    painter.drawPath(question);
+    drawDot(painter, {16, 19}, 1.5);
+}
+
+void drawCombined(QPainter& painter)
+{
+    QPainterPath left(QPointF(8, 4));
+    left.cubicTo(2, 10, 2, 22, 8, 28);
+    painter.drawPath(left);
+    QPainterPath right(QPointF(24, 4));
+    right.cubicTo(30, 10, 30, 22, 24, 28);
+    painter.drawPath(right);
+    drawPlus(painter, {16, 16}, 5);
+}
+
+void drawDrop(QPainter& painter, QPointF tip)
+{
+    QPainterPath path(QPointF(0, 0));
+    path.cubicTo(1.5, 3, 4, 5, 4, 8);
+    path.cubicTo(4, 13.3, -4, 13.3, -4, 8);
+    path.cubicTo(-4, 5, -1.5, 3, 0, 0);
+    painter.drawPath(path.translated(tip));
+}
+
+void drawRain(QPainter& painter)
+{
+    drawDrop(painter, {7, 3});
+    drawDrop(painter, {25, 6});
+    drawDrop(painter, {16, 17});
+}
+
+void drawRace(QPainter& painter)
+{
+    const QPolygonF body{{5, 24}, {2, 24}, {2, 17}, {9, 15}, {14, 7}, {24, 7}, {28, 15}, {30, 17},
+        {30, 24}, {28, 24}};
+    painter.drawPolyline(body);
+    painter.drawLine(QPointF(13, 24), QPointF(20, 24));
+    painter.drawLine(QPointF(9, 15), QPointF(28, 15));
+    painter.drawLine(QPointF(19, 7), QPointF(19, 15));
+    painter.drawEllipse(QPointF(9, 24), 3.5, 3.5);
+    painter.drawEllipse(QPointF(24, 24), 3.5, 3.5);
+}
+
+void drawExit(QPainter& painter)
+{
+    painter.drawPolygon(QPolygonF{{3, 2}, {12, 6}, {12, 30}, {3, 26}});
+    painter.drawPolyline(QPolygonF{{3, 2}, {19, 2}, {19, 9}});
+    painter.drawPolyline(QPolygonF{{12, 26}, {19, 26}, {19, 21}});
+    drawDot(painter, {8, 17}, 1.5);
+    painter.drawLine(QPointF(17, 15), QPointF(30, 15));
+    painter.drawPolyline(QPolygonF{{26, 11}, {30, 15}, {26, 19}});
+}
+
+void draw(QPainter& painter, Pictogram pictogram)
+{
+    using Drawing = void (*)(QPainter&);
+    constexpr Drawing InOrderOfTheEnum[]{drawRepeatedSum, drawTables, drawQuickTables, drawGap,
+        drawMultiples, drawMultiplication, drawDivision, drawProblems, drawCombined, drawRain,
+        drawRace, drawExit};
+    static_assert(std::size(InOrderOfTheEnum) == static_cast<std::size_t>(Pictogram::Exit) + 1);
+    InOrderOfTheEnum[static_cast<std::size_t>(pictogram)](painter);
+}
+
+class PictogramEngine : public QIconEngine {
+public:
+    explicit PictogramEngine(Pictogram pictogram)
+        : m_pictogram(pictogram)
+    {
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const qreal side = std::min(rect.width(), rect.height());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(
+            rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2);
+        painter->scale(side / Grid, side / Grid);
+        painter->setPen(QPen(mode == QIcon::Disabled ? DisabledInk : Ink, StrokeWidth,
+            Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->setBrush(Qt::NoBrush);
+        draw(*painter, m_pictogram);
+        painter->restore();
+    }
+
+    // The inherited one paints on a pixmap that nobody cleared.
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine* clone() const override { return new PictogramEngine(*this); }
+
+private:
+    Pictogram m_pictogram;
+};
+
+} // namespace
+
+QIcon pictogramIcon(Pictogram pictogram)
+{
+    return QIcon(new PictogramEngine(pictogram));
+}
+
+} // namespace shell

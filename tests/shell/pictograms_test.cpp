@@ -1,0 +1,117 @@
+#include "shell/pictograms.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+#include <utility>
+
+using namespace shell;
+
+namespace {
+
+constexpr int Count = static_cast<int>(Pictogram::Exit) + 1;
+
+QImage image(const QIcon& icon, int side, QIcon::Mode mode = QIcon::Normal)
+{
+    return icon.pixmap(side, mode).toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+/// The pixels that a pictogram covers wholly, each with its colour.
+QList<QColor> solidPixels(const QImage& picture)
+{
+    QList<QColor> solid;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (const QColor colour = picture.pixelColor(x, y); colour.alpha() == 255)
+                solid.append(colour);
+        }
+    }
+    return solid;
+}
+
+/// Paints in the middle third of a canvas and clears that third: what is left was cut off.
+QImage strayInk(const QIcon& icon, int side)
+{
+    QImage canvas(3 * side, 3 * side, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    const QRect middle(side, side, side, side);
+    QPainter painter(&canvas);
+    icon.paint(&painter, middle);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(middle, Qt::transparent);
+    return canvas;
+}
+
+} // namespace
+
+class PictogramsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void paintsInItsInkAndNothingElse_data() { everyPictogram(); }
+    void paintsInItsInkAndNothingElse()
+    {
+        QFETCH(Pictogram, pictogram);
+        const QIcon icon = pictogramIcon(pictogram);
+        for (const auto& [mode, ink] : {std::pair(QIcon::Normal, QColor(0x16, 0x20, 0x2B)),
+                 std::pair(QIcon::Disabled, QColor(0x55, 0x61, 0x6E))}) {
+            const QList<QColor> solid = solidPixels(image(icon, 128, mode));
+            QVERIFY(solid.size() > 128 * 128 / 20);
+            QVERIFY(solid.size() < 128 * 128 / 2);
+            QCOMPARE(solid.count(ink), solid.size());
+        }
+    }
+
+    void staysInsideItsSquare_data() { everyPictogram(); }
+    void staysInsideItsSquare()
+    {
+        QFETCH(Pictogram, pictogram);
+        for (const int side : {24, 32, 64, 128}) {
+            const QImage stray = strayInk(pictogramIcon(pictogram), side);
+            QImage empty(stray.size(), stray.format());
+            empty.fill(Qt::transparent);
+            QCOMPARE(stray, empty);
+        }
+    }
+
+    void isPaintedAnewAtEveryPixelRatio()
+    {
+        const QIcon icon = pictogramIcon(Pictogram::Race);
+        QPixmap fine = icon.pixmap(QSize(32, 32), 2);
+        QCOMPARE(fine.size(), QSize(64, 64));
+        fine.setDevicePixelRatio(1);
+        QCOMPARE(fine.toImage().convertToFormat(QImage::Format_ARGB32), image(icon, 64));
+    }
+
+    void noTwoAreAlike()
+    {
+        for (int i = 0; i < Count; ++i) {
+            for (int j = 0; j < i; ++j)
+                QVERIFY(image(pictogramIcon(Pictogram(i)), 32)
+                    != image(pictogramIcon(Pictogram(j)), 32));
+        }
+    }
+
+    void isCentredInARectThatIsNotSquare()
+    {
+        QImage wide(96, 32, QImage::Format_ARGB32);
+        wide.fill(Qt::transparent);
+        QPainter painter(&wide);
+        const QIcon icon = pictogramIcon(Pictogram::Tables);
+        icon.paint(&painter, wide.rect());
+        painter.end();
+        QCOMPARE(wide.copy(32, 0, 32, 32), image(icon, 32));
+    }
+
+private:
+    static void everyPictogram()
+    {
+        QTest::addColumn<Pictogram>("pictogram");
+        for (int i = 0; i < Count; ++i)
+            QTest::addRow("%d", i) << Pictogram(i);
+    }
+};
+
+QTEST_MAIN(PictogramsTest)
+#include "pictograms_test.moc"
