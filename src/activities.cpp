@@ -1,0 +1,52 @@
+#include "activities.h"
+
+#include "tables/multiplication_tables_screen.h"
+#include "ui/screens.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Stands in for a screen that does not exist yet.
+class Placeholder final : public ui::Screen {
+public:
+    Placeholder(ui::Screens& screens, const QString& name)
+        : Screen(screens, name, name, 6000, 4500)
+    {
+    }
+};
+
+} // namespace
+
+std::vector<shell::Activity> activities()
+{
+    using enum shell::Activity::Shown;
+    return {
+        {u"&Suma repetida"_s, u"Form4"_s, Modal},
+        {u"&Tablas de multiplicar"_s, u"Form2"_s, Modal},
+        {u"T&ablas rápidas"_s, u"Form8"_s, Modal},
+        {u"&Completa el hueco"_s, u"FrmMultHuecos"_s, Modal},
+        {u"&Múltiplos y divisores"_s, u"FrmMultidivi"_s, Modal},
+        {u"&Multiplicaciones"_s, u"Form3"_s, Modal},
+        {u"&Divisiones"_s, u"Form6"_s, Modal},
+        {u"&Problemas"_s, u"FormProblemas"_s, Modeless},
+        {u"&Operaciones combinadas"_s, u"FRMCombi"_s, Modal},
+        {u"&Lluvia de números"_s, u"Form5"_s, Modal},
+        {u"&La gran carrera"_s, u"FrmCarrera"_s, Modal},
+    };
+}
+
+void addScreens(ui::Screens& screens)
+{
+    for (const shell::Activity& activity : activities()) {
+        screens.add(activity.screen, [name = activity.screen](ui::Screens& set) -> ui::Screen* {
+            return new Placeholder(set, name);
+        });
+    }
+    screens.add(shell::Form1::screenName(), [](ui::Screens& set) -> ui::Screen* {
+        const auto entries = activities();
+        return new shell::Form1(set, entries);
+    });
+    screens.setMainScreen(shell::Form1::screenName());
+    screens.add<tables::Form2>();
+}

@@ -1,0 +1,38 @@
+#include "shell/exercise_screen.h"
+
+using namespace Qt::StringLiterals;
+
+namespace shell {
+
+QString ExerciseScreen::defaultSolutionCaption()
+{
+    return u"&Ver solución"_s;
+}
+
+void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& solutionCaption)
+{
+    Command1 = button(u"Command1"_s, u"&Hecho"_s, places.check, ui::look::Yellow);
+    on(Command1, &QPushButton::clicked, &ExerciseScreen::Command1_Click);
+
+    Command2 = {button(u"Command2(0)"_s, u"&Continuar"_s, places.next, ui::look::Cyan),
+        button(u"Command2(1)"_s, u"&Borrar"_s, places.clear, ui::look::Green),
+        button(u"Command2(2)"_s, solutionCaption, places.solution, ui::look::Red)};
+    for (int i = 0; i < 3; ++i)
+        on(Command2.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
+            &ExerciseScreen::Command2_Click, i);
+}
+
+void ExerciseScreen::enterChecks(QWidget* answerBox)
+{
+    onEnter(answerBox, [this] { Command1_Click(); });
+}
+
+bool ExerciseScreen::askToRepeat()
+{
+    return ui::MessageBox::ask(*this,
+        u"La actividad está terminada. Si deseas repetirla pulsa en sí, en caso contrario "
+        "pulsa No y entra en el menú opciones para elegir una actividad nueva"_s,
+        u"Actividad terminada"_s);
+}
+
+} // namespace shell

@@ -1,0 +1,90 @@
+#include "shell/main_menu_screen.h"
+
+#include "shell/main_menu.h"
+#include "shell/pictograms.h"
+#include "ui/screens.h"
+
+#include <QAction>
+
+using namespace Qt::StringLiterals;
+using ui::look::Family;
+
+namespace shell {
+
+namespace {
+
+constexpr double MenuBarTwips = ui::look::MenuBarHeight * ui::TwipsPerPixel;
+constexpr double ClientHeight = MainMenuLayout::WindowHeight - MenuBarTwips;
+// The right margin equals the left one.
+constexpr double ClientWidth = 2 * (MainMenuLayout::ButtonWidth + MainMenuLayout::LeftMargin);
+constexpr ui::look::Font ButtonFont{Family::Arial, 16}; // 12 points
+
+} // namespace
+
+QString Form1::screenName()
+{
+    return u"Form1"_s;
+}
+
+Form1::Form1(ui::Screens& screens, std::span<const Activity> activities)
+    : Screen(screens, screenName(), u"PIZARRIN"_s, ClientWidth, ClientHeight)
+    , m_activities(activities.begin(), activities.end())
+{
+    QAction* about = barItem(u"MnuAce"_s, u"Acerca de..."_s);
+    on(about, &QAction::triggered, &Form1::MnuAce_Click);
+}
+
+void Form1::Form_Load()
+{
+    const int count = static_cast<int>(m_activities.size()) + 1;
+    const MainMenuLayout layout(count, static_cast<int>(ClientHeight));
+    for (int i = 0; i < count; ++i) {
+        const auto index = static_cast<std::size_t>(i);
+        const bool isExit = i == count - 1;
+        const auto& place = layout.places().at(index);
+        ui::Button* button = this->button(u"Command1(%1)"_s.arg(i),
+            isExit ? u"&Salir"_s : m_activities.at(index).caption,
+            {place.left, place.top, place.width, place.height},
+            isExit ? ui::look::Red : ui::look::Green, ButtonFont);
+        button->setIcon(pictogramIcon(isExit ? Pictogram::Exit : static_cast<Pictogram>(i)));
+        on(button, &QPushButton::clicked, &Form1::Command1_Click, i);
+        Command1.push_back(button);
+    }
+    Command1.front()->setFocus();
+}
+
+void Form1::Command1_Click(int Index)
+{
+    if (Index == static_cast<int>(Command1.size()) - 1) {
+        exitProgram();
+        return;
+    }
+    const Activity& activity = m_activities.at(static_cast<std::size_t>(Index));
+    if (activity.shown == Activity::Shown::Modal)
+        screens().showModal(activity.screen, *this);
+    else
+        screens().show(activity.screen);
+}
+
+void Form1::exitProgram()
+{
+    for (const QString& name : {u"FormProblemas"_s, u"Form8"_s, u"Form6"_s, u"Form5"_s,
+             u"Form4"_s, u"Form3"_s, u"Form2"_s})
+        screens().unload(name);
+    unload();
+}
+
+void Form1::Form_QueryUnload()
+{
+    for (const QString& name : {u"Dialog"_s, u"Form3"_s, u"Form2"_s})
+        screens().unload(name);
+}
+
+void Form1::MnuAce_Click()
+{
+    ui::MessageBox::show(*this,
+        u"Pizarrin: multiplicar y dividir en la escuela primaria.\r\n"
+        "Hecho por sus autores para todas las aulas, con licencia libre."_s);
+}
+
+} // namespace shell

@@ -1,0 +1,106 @@
+#include "tables/multiplication_tables.h"
+
+#include "core/random.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace tables {
+
+namespace {
+
+constexpr int Shuffled = 2;
+constexpr int Swaps = 100;
+
+QString activityName(int activity)
+{
+    switch (activity) {
+    case 0:
+        return u"Ver tabla"_s;
+    case 1:
+        return u"Repasar tabla en orden"_s;
+    default:
+        return u"repasar tabla salteada"_s;
+    }
+}
+
+std::size_t at(int index)
+{
+    return static_cast<std::size_t>(index);
+}
+
+} // namespace
+
+MultiplicationTables::MultiplicationTables(core::RandomSource& random)
+    : m_random(random)
+{
+}
+
+int MultiplicationTables::tableAt(int index) const
+{
+    return Tablas.at(at(index)).value();
+}
+
+int MultiplicationTables::nextTable() const
+{
+    return (TablaActual.value() + 1) % Tables;
+}
+
+int MultiplicationTables::nextActivity() const
+{
+    return (ActividadActual.value() + 1) % Activities;
+}
+
+QString MultiplicationTables::caption() const
+{
+    return u"Tabla del %1 - %2"_s.arg(table()).arg(activityName(ActividadActual.value()));
+}
+
+QString MultiplicationTables::tableText(int half) const
+{
+    // The products of the second half may have three digits, so their sign gives way.
+    const QString line = half == 0 ? u"%1x%2 = %3\r\n"_s : u"%1x%2 =%3\r\n"_s;
+    const int productWidth = half == 0 ? 2 : 3;
+    QString text;
+    for (int k = 5 * half + 1; k <= 5 * half + 5; ++k)
+        text += line.arg(table(), 2).arg(k, 2).arg(table() * k, productWidth);
+    return text;
+}
+
+void MultiplicationTables::EmpiezaRepaso()
+{
+    Pregunta = 1;
+    for (int i = 0; i < 10; ++i)
+        Orden.at(at(i)) = i + 1;
+    if (ActividadActual == Shuffled)
+        shuffle();
+    ErroresRepaso = 0;
+}
+
+void MultiplicationTables::shuffle()
+{
+    for (int swap = 0; swap < Swaps; ++swap) {
+        const int r = core::drawInteger(m_random, 9, 1).value();
+        std::swap(Orden.at(at(r - 1)), Orden.at(at(r)));
+    }
+}
+
+int MultiplicationTables::multiplier() const
+{
+    return Pregunta < Over ? Orden.at(at(Pregunta.value() - 1)).value() : 0;
+}
+
+MultiplicationTables::Verdict MultiplicationTables::check(double answer)
+{
+    if (Pregunta >= Over)
+        return Verdict::AlreadyOver;
+    if (answer != product()) {
+        ++ErroresRepaso;
+        return Verdict::Wrong;
+    }
+    ++Pregunta;
+    return Pregunta < Over ? Verdict::Right : Verdict::SeriesOver;
+}
+
+} // namespace tables

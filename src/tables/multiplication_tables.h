@@ -1,0 +1,76 @@
+#pragma once
+
+#include "core/int16.h"
+
+#include <QString>
+
+#include <array>
+
+namespace core {
+class RandomSource;
+}
+
+namespace tables {
+
+/// The rules of the multiplication tables: ten tables to study, or to review in a series of
+/// ten questions, in order or shuffled. Shows nothing; the screen asks what the pupil is
+/// asked about.
+class MultiplicationTables {
+public:
+    enum class Verdict {
+        Wrong, ///< the same question stands
+        Right, ///< the next question is up
+        SeriesOver, ///< right, and it was the last question
+        AlreadyOver ///< nothing was checked: the series had ended before
+    };
+
+    static constexpr int Tables = 10;
+    static constexpr int Activities = 3;
+
+    /// random must outlive the model.
+    explicit MultiplicationTables(core::RandomSource& random);
+
+    /// The table number behind a menu item, 0 to 9.
+    int tableAt(int index) const;
+    int table() const { return tableAt(TablaActual.value()); }
+
+    int currentTable() const { return TablaActual.value(); } ///< menu index, 0 to 9
+    int currentActivity() const { return ActividadActual.value(); } ///< 0 to 2
+    int nextTable() const; ///< menu index behind the current one, back to 0
+    int nextActivity() const;
+    void chooseTable(int index) { TablaActual = index; }
+    void chooseActivity(int index) { ActividadActual = index; }
+    bool isReview() const { return ActividadActual != 0; }
+
+    /// "Tabla del 7 - Ver tabla"
+    QString caption() const;
+    /// Rows 1 to 5 (half 0) or 6 to 10 (half 1) of the table, ten characters a line.
+    QString tableText(int half) const;
+
+    /// Starts or restarts the series of the current table.
+    void EmpiezaRepaso();
+
+    /// Number of the question, 1 to 10; 11 when the series is over.
+    int question() const { return Pregunta.value(); }
+    int multiplier() const; ///< 1 to 10; 0 when the series is over
+    int product() const { return table() * multiplier(); }
+    int seriesErrors() const { return ErroresRepaso.value(); }
+
+    /// Checks an answer, read as a number.
+    Verdict check(double answer);
+
+private:
+    static constexpr int Over = 11;
+
+    void shuffle();
+
+    core::RandomSource& m_random;
+    std::array<core::Int16, Tables> Tablas{1, 2, 5, 10, 3, 4, 6, 7, 8, 9};
+    std::array<core::Int16, 10> Orden{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    core::Int16 TablaActual;
+    core::Int16 ActividadActual;
+    core::Int16 Pregunta = 1;
+    core::Int16 ErroresRepaso;
+};
+
+} // namespace tables

@@ -1,0 +1,150 @@
+#include "ui/boxes.h"
+
+#include "ui/look.h"
+#include "ui/screen.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+namespace {
+
+constexpr double InputWidth = 420; // pixels at factor 1
+
+/// A message box that is left only by one of its buttons when it asks a question: a stray
+/// Escape must not answer "No".
+class Box final : public QMessageBox {
+public:
+    Box(QWidget* parent, bool question)
+        : QMessageBox(parent)
+        , m_question(question)
+    {
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (m_question && event->matches(QKeySequence::Cancel))
+            event->ignore();
+        else
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (m_question)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool m_question;
+};
+
+QMessageBox::Icon toQtIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QWidget* parentOf(Screen& owner)
+{
+    return owner.isVisible() ? &owner : QApplication::activeWindow();
+}
+
+/// Runs a box as owner's and returns whether it was accepted. The box lives on the heap:
+/// it is deleted with its parent when that is unloaded behind it.
+int run(Screen& owner, const QPointer<QDialog>& box)
+{
+    const Screen::Waiting waiting(owner, box);
+    const int result = box->exec();
+    if (box)
+        box->deleteLater();
+    return result;
+}
+
+QPointer<Box> makeBox(Screen& owner, const QString& text, const QString& title, bool question)
+{
+    QPointer<Box> box(new Box(parentOf(owner), question));
+    box->setFont(look::scaled(look::Instruction, owner.factor()));
+    box->setWindowTitle(title);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text);
+    return box;
+}
+
+QPushButton* addButton(QMessageBox& box, const QString& caption, QMessageBox::ButtonRole role)
+{
+    QPushButton* button = box.addButton(caption, role);
+    button->setIcon({});
+    return button;
+}
+
+} // namespace
+
+QString MessageBox::programTitle()
+{
+    return u"Pizarrin"_s;
+}
+
+void MessageBox::show(Screen& owner, const QString& text, const QString& title, Icon icon)
+{
+    const QPointer<Box> box = makeBox(owner, text, title, false);
+    box->setIcon(toQtIcon(icon));
+    box->setDefaultButton(addButton(*box, u"Aceptar"_s, QMessageBox::AcceptRole));
+    run(owner, box.data());
+}
+
+bool MessageBox::ask(Screen& owner, const QString& text, const QString& title)
+{
+    const QPointer<Box> box = makeBox(owner, text, title, true);
+    QPushButton* yes = addButton(*box, u"Sí"_s, QMessageBox::YesRole);
+    addButton(*box, u"No"_s, QMessageBox::NoRole);
+    box->setDefaultButton(yes);
+    bool answer = false;
+    QObject::connect(yes, &QPushButton::clicked, yes, [&answer] { answer = true; });
+    run(owner, box.data());
+    return answer;
+}
+
+QString InputBox::ask(Screen& owner, const QString& prompt, const QString& title)
+{
+    const QPointer<QInputDialog> box(new QInputDialog(parentOf(owner)));
+    box->setFont(look::scaled(look::Instruction, owner.factor()));
+    box->setWindowTitle(title);
+    box->setOkButtonText(u"Aceptar"_s);
+    box->setCancelButtonText(u"Cancelar"_s);
+    box->setLabelText(prompt);
+    box->resize(qRound(InputWidth * owner.factor()), box->height());
+    if (auto* label = box->findChild<QLabel*>()) {
+        label->setBuddy(nullptr); // else an "&1" in the prompt would be an access key
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    if (auto* edit = box->findChild<QLineEdit*>())
+        edit->setAccessibleName(prompt.isEmpty() ? title : prompt);
+    QString answer;
+    QObject::connect(box, &QInputDialog::textValueSelected, box,
+        [&answer](const QString& text) { answer = text; });
+    run(owner, box.data());
+    return answer;
+}
+
+} // namespace ui

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace ui {
+
+class Screen;
+
+enum class Icon { None, Information, Exclamation, Critical };
+
+/// Boxes of a screen, with Spanish buttons. Each waits for its answer in an event loop of
+/// its own; while it waits, no other handler of the screen starts and its timers' ticks are
+/// dropped. When the screen was unloaded meanwhile, ScreenUnloaded is thrown: a handler
+/// never goes on behind a box on a screen that is gone.
+class MessageBox {
+public:
+    /// Shows a text, exactly as given, with "Aceptar".
+    static void show(Screen& owner, const QString& text, const QString& title = programTitle(),
+        Icon icon = Icon::None);
+
+    /// Asks with "Sí" and "No"; true for "Sí". There is no way out but an answer.
+    static bool ask(Screen& owner, const QString& text, const QString& title = programTitle());
+
+    static QString programTitle();
+};
+
+class InputBox {
+public:
+    /// Asks for a text with "Aceptar" and "Cancelar"; empty when cancelled.
+    static QString ask(Screen& owner, const QString& prompt, const QString& title);
+};
+
+/// Thrown through a handler whose screen was unloaded while it waited; never shown.
+class ScreenUnloaded { };
+
+} // namespace ui

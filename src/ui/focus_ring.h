@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+namespace ui {
+
+/// The ring around the control that has the focus, drawn outside its edge. Stands on a
+/// screen's canvas, above the controls, and follows the focus by itself.
+class FocusRing : public QWidget {
+public:
+    explicit FocusRing(QWidget* canvas);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void follow(QWidget* focused);
+    void surround();
+
+    QPointer<QWidget> m_focused;
+};
+
+} // namespace ui

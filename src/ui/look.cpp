@@ -1,0 +1,124 @@
+#include "ui/look.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace ui::look {
+
+namespace {
+
+constexpr double ReadableContrast = 4.5;
+
+QStringList families(Family family)
+{
+    switch (family) {
+    case Family::CourierNew:
+        return {u"Courier New"_s, u"Liberation Mono"_s, u"monospace"_s};
+    case Family::Verdana:
+        return {u"Verdana"_s, u"DejaVu Sans"_s, u"sans-serif"_s};
+    case Family::Arial:
+        break;
+    }
+    return {u"Arial"_s, u"Liberation Sans"_s, u"sans-serif"_s};
+}
+
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+        + 0.0722 * linear(colour.blueF());
+}
+
+QColor mixedWithPaper(const QColor& fill)
+{
+    const QColor paper(Paper);
+    return QColor((fill.red() + paper.red()) / 2, (fill.green() + paper.green()) / 2,
+        (fill.blue() + paper.blue()) / 2);
+}
+
+} // namespace
+
+QFont scaled(const Font& font, double factor)
+{
+    QFont result(families(font.family));
+    // Cut, not rounded: a text that fits at factor 1 then fits at every factor.
+    result.setPixelSize(std::max(1, static_cast<int>(font.pixels * factor + 0.001)));
+    result.setBold(font.bold);
+    if (font.family == Family::CourierNew)
+        result.setStyleHint(QFont::Monospace);
+    return result;
+}
+
+QPalette palette()
+{
+    const QColor ink(Ink);
+    const QColor quiet(Quiet);
+    const QColor paper(Paper);
+    const QColor card(Card);
+    const QColor line(Line);
+
+    QPalette palette(ink, paper, card, line.darker(150), line, ink, card, card, paper);
+    palette.setColor(QPalette::AlternateBase, paper);
+    palette.setColor(QPalette::Button, QColor(0xFFECE6D8));
+    palette.setColor(QPalette::Highlight, QColor(Focus));
+    palette.setColor(QPalette::HighlightedText, card);
+    palette.setColor(QPalette::Link, QColor(Focus));
+    palette.setColor(QPalette::LinkVisited, QColor(Focus));
+    palette.setColor(QPalette::ToolTipBase, card);
+    palette.setColor(QPalette::ToolTipText, ink);
+    palette.setColor(QPalette::PlaceholderText, quiet);
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, quiet);
+    palette.setColor(QPalette::Disabled, QPalette::Base, paper);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, line);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ink);
+    return palette;
+}
+
+QPalette displayed()
+{
+    QPalette result = palette();
+    result.setColor(QPalette::Base, Qt::transparent);
+    result.setColor(QPalette::Text, QColor(Ink));
+    result.setColor(QPalette::Highlight, QColor(Shown));
+    result.setColor(QPalette::HighlightedText, QColor(Ink));
+    return result;
+}
+
+QPalette filled(const QColor& fill)
+{
+    QPalette result = palette();
+    result.setColor(QPalette::Button, fill);
+    result.setColor(QPalette::ButtonText, inkOn(fill));
+    const QColor faded = mixedWithPaper(fill);
+    const QColor quiet(Quiet);
+    result.setColor(QPalette::Disabled, QPalette::Button, faded);
+    result.setColor(QPalette::Disabled, QPalette::ButtonText,
+        contrast(quiet, faded) >= ReadableContrast ? quiet : inkOn(faded));
+    return result;
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+QColor inkOn(const QColor& fill)
+{
+    const QColor ink(Ink);
+    if (contrast(ink, fill) >= ReadableContrast)
+        return ink;
+    const QColor black(Qt::black);
+    const QColor white(Qt::white);
+    return contrast(black, fill) >= contrast(white, fill) ? black : white;
+}
+
+} // namespace ui::look

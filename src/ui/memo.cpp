@@ -1,0 +1,37 @@
+#include "ui/memo.h"
+
+#include "ui/look.h"
+
+namespace ui {
+
+namespace {
+
+constexpr double CornerMargin = 3; // keeps the text's background off the rounded corners
+
+} // namespace
+
+Memo::Memo(Kind kind, QWidget* parent)
+    : QPlainTextEdit(parent)
+    , m_kind(kind)
+{
+    setTabChangesFocus(true);
+    if (m_kind == Kind::Entry)
+        return;
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::NoTextInteraction);
+    setFocusPolicy(Qt::NoFocus);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setPalette(look::displayed());
+}
+
+void Memo::setFactor(double factor)
+{
+    const bool entry = m_kind == Kind::Entry;
+    const int corner = entry ? qRound(CornerMargin * factor) : 0;
+    setViewportMargins(corner, corner, corner, corner);
+    document()->setDocumentMargin(entry ? (look::BoxMargin - CornerMargin) * factor : 0);
+}
+
+} // namespace ui

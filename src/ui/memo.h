@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/placement.h"
+
+#include <QPlainTextEdit>
+
+namespace ui {
+
+/// A text box of several lines: an entry box, or a text that is only shown. A selected text
+/// stays highlighted without the focus.
+class Memo : public QPlainTextEdit, public Scalable {
+public:
+    enum class Kind {
+        Entry, ///< framed, typed into; Tab leaves it
+        Display ///< no frame, no fill, read-only, not in the tab order, deaf to the mouse
+    };
+
+    Memo(Kind kind, QWidget* parent);
+
+    void setFactor(double factor) override;
+
+private:
+    Kind m_kind;
+};
+
+} // namespace ui

@@ -1,0 +1,538 @@
+#include "ui/screen.h"
+
+#include "core/errors.h"
+#include "ui/focus_ring.h"
+#include "ui/screens.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+namespace {
+
+constexpr double MenuHeight = 8700 / TwipsPerPixel; // what the factor of all screens goes by
+constexpr double SmallestFactor = 0.5;
+
+/// Runs a callback when the watched control gets the focus.
+class FocusFilter final : public QObject {
+public:
+    FocusFilter(QObject* control, std::function<void()> handler)
+        : QObject(control)
+        , m_handler(std::move(handler))
+    {
+        control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            m_handler();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> m_handler;
+};
+
+} // namespace
+
+Screen::Screen(
+    Screens& screens, const QString& name, const QString& caption, double width, double height)
+    : m_screens(screens)
+    , m_canvas(new QWidget(this))
+    , m_designWidth(width)
+    , m_designHeight(height)
+{
+    setObjectName(name);
+    setWindowTitle(caption);
+    new FocusRing(m_canvas);
+    auto* close = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_F4), this);
+    connect(close, &QShortcut::activated, this, [this] { this->close(); });
+}
+
+Screen::~Screen()
+{
+    m_unloaded = true; // no handler starts while the controls go
+    delete m_canvas; // while the entries of its controls are still there to be erased
+}
+
+const Screen* Screen::of(const QWidget* widget)
+{
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (const auto* screen = dynamic_cast<const Screen*>(widget))
+            return screen;
+    }
+    return nullptr;
+}
+
+double Screen::factorOf(const QWidget* widget)
+{
+    const Screen* screen = of(widget);
+    return screen != nullptr ? screen->factor() : 1;
+}
+
+// --- life
+
+void Screen::unload()
+{
+    if (m_unloaded)
+        return;
+    run([this] { Form_QueryUnload(); }); // also while a handler waits
+    leave();
+}
+
+void Screen::leave()
+{
+    if (m_unloaded) // a handler of QueryUnload was faster
+        return;
+    m_unloaded = true;
+    for (QTimer* timer : findChildren<QTimer*>())
+        timer->stop();
+    if (m_box)
+        m_box->done(QDialog::Rejected);
+    hide();
+    m_screens.forget(*this);
+    if (m_runningHandlers == 0) {
+        tellClosed();
+        deleteLater();
+    }
+}
+
+void Screen::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    if (!m_unloaded)
+        closeRequested();
+}
+
+void Screen::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_activated || event->spontaneous())
+        return;
+    m_activated = true;
+    QMetaObject::invokeMethod(
+        this, [this] { guarded([this] { Form_Activate(); }); }, Qt::QueuedConnection);
+}
+
+void Screen::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous() && m_runningHandlers == 0 && !m_unloaded)
+        tellClosed();
+}
+
+void Screen::tellClosed()
+{
+    if (const auto told = std::exchange(m_whenClosed, {}))
+        told();
+}
+
+// --- handlers
+
+void Screen::guarded(const std::function<void()>& body)
+{
+    if (!m_unloaded && m_waiting == 0)
+        run(body);
+}
+
+void Screen::run(const std::function<void()>& body)
+{
+    QString text;
+    ++m_runningHandlers;
+    try {
+        body();
+    } catch (const ScreenUnloaded&) {
+        // The screen went while its handler waited: there is nothing left to tell.
+    } catch (const core::Error& error) {
+        text = error.text();
+    } catch (const std::exception& error) {
+        text = u"Error interno: %1"_s.arg(QString::fromUtf8(error.what()));
+    } catch (...) {
+        text = u"Error interno"_s;
+    }
+    if (!text.isEmpty()) // behind the catch blocks: the box runs an event loop of its own
+        report(text);
+    endHandler();
+}
+
+void Screen::endHandler()
+{
+    if (--m_runningHandlers > 0)
+        return;
+    if (!isVisible())
+        tellClosed();
+    if (m_unloaded)
+        deleteLater();
+}
+
+void Screen::report(const QString& text)
+{
+    if (m_unloaded || std::exchange(m_reporting, true))
+        return;
+    try {
+        MessageBox::show(*this, text);
+    } catch (const ScreenUnloaded&) {
+        return;
+    }
+    m_reporting = false;
+}
+
+void Screen::letEventsRun()
+{
+    QCoreApplication::processEvents();
+    if (m_unloaded)
+        throw ScreenUnloaded();
+}
+
+Screen::Waiting::Waiting(Screen& screen, QDialog* box)
+    : m_screen(screen)
+    , m_exceptions(std::uncaught_exceptions())
+{
+    m_screen.m_box = box;
+    ++m_screen.m_waiting;
+    ++m_screen.m_runningHandlers; // the screen must outlive the box whoever opened it
+}
+
+Screen::Waiting::~Waiting() noexcept(false)
+{
+    --m_screen.m_waiting;
+    const bool gone = m_screen.isUnloaded();
+    m_screen.endHandler();
+    if (gone && std::uncaught_exceptions() == m_exceptions)
+        throw ScreenUnloaded();
+}
+
+KeyFilter* Screen::keyFilter(QWidget* control)
+{
+    KeyFilter*& filter = m_keyFilters[control];
+    if (filter == nullptr) {
+        filter = new KeyFilter(control);
+        connect(
+            control, &QObject::destroyed, this, [this, control] { m_keyFilters.erase(control); });
+    }
+    return filter;
+}
+
+KeyResult Screen::guardedKey(const std::function<KeyResult()>& body)
+{
+    KeyResult result = KeyResult::Swallow; // what a failed handler leaves behind
+    guarded([&] { result = body(); });
+    return result;
+}
+
+void Screen::onKeyDown(QWidget* control, KeyFilter::DownHandler handler)
+{
+    keyFilter(control)->down = [this, handler = std::move(handler)](
+                                   int code, Qt::KeyboardModifiers modifiers) {
+        return guardedKey([&] { return handler(code, modifiers); });
+    };
+}
+
+void Screen::onKeyPress(QWidget* control, KeyFilter::PressHandler handler)
+{
+    keyFilter(control)->press = [this, handler = std::move(handler)](QChar character) {
+        return guardedKey([&] { return handler(character); });
+    };
+}
+
+void Screen::onKeyUp(QWidget* control, KeyFilter::UpHandler handler)
+{
+    keyFilter(control)->up = [this, handler = std::move(handler)](
+                                 int code, Qt::KeyboardModifiers modifiers) {
+        guarded([&] { handler(code, modifiers); });
+    };
+}
+
+void Screen::onEnter(QWidget* control, std::function<void()> handler)
+{
+    onKeyPress(control, [handler = std::move(handler)](QChar character) {
+        if (character != QChar(key::Enter))
+            return KeyResult::Pass;
+        handler();
+        return KeyResult::Swallow;
+    });
+}
+
+void Screen::onGotFocus(QWidget* control, std::function<void()> handler)
+{
+    new FocusFilter(control, [this, handler = std::move(handler)] { guarded(handler); });
+}
+
+// --- size
+
+double Screen::menuBarPixels() const
+{
+    return m_menuBar != nullptr ? look::MenuBarHeight : 0;
+}
+
+void Screen::setDesignSize(double width, double height)
+{
+    m_designWidth = width;
+    m_designHeight = height;
+    if (isMaximized() || isFullScreen())
+        layOut();
+    else
+        resizeToDesign(m_factor);
+}
+
+void Screen::comeUp()
+{
+    const QRect available = screen()->availableGeometry();
+    resizeToDesign(Screens::initialFactor(MenuHeight, available.height()));
+    move(available.center() - rect().center());
+}
+
+void Screen::resizeToDesign(double factor)
+{
+    const double width = m_designWidth / TwipsPerPixel;
+    const double height = m_designHeight / TwipsPerPixel + menuBarPixels();
+    const QSize available = screen()->availableGeometry().size();
+    const double fitting = std::min({factor, available.width() / width,
+        (available.height() - Screens::FrameHeight) / height});
+    const auto pixels = [](double length) { return static_cast<int>(std::ceil(length)); };
+    setMinimumSize(pixels(width * SmallestFactor), pixels(height * SmallestFactor));
+    resize(pixels(width * fitting), pixels(height * fitting));
+    layOut(); // the size may be the same, the design not
+}
+
+void Screen::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layOut();
+}
+
+void Screen::layOut()
+{
+    const double designWidth = m_designWidth / TwipsPerPixel;
+    const double designHeight = m_designHeight / TwipsPerPixel + menuBarPixels();
+    double factor = std::min(width() / designWidth, height() / designHeight);
+    // Whole pixels hardly ever give a round factor: within a pixel of one, it is meant.
+    const double quarter = std::round(factor * 4) / 4;
+    if (std::abs(factor - quarter) * std::max(designWidth, designHeight) < 1.5)
+        factor = quarter;
+    scaleTo(factor);
+
+    const int barHeight = static_cast<int>(std::lround(menuBarPixels() * factor));
+    if (m_menuBar != nullptr)
+        m_menuBar->setGeometry(0, 0, width(), barHeight);
+    QRect area = toPixels({0, 0, m_designWidth, m_designHeight}, factor);
+    area.moveTo(std::max(0, (width() - area.width()) / 2),
+        barHeight + std::max(0, (height() - barHeight - area.height()) / 2));
+    m_canvas->setGeometry(area);
+}
+
+void Screen::scaleTo(double factor)
+{
+    if (factor == m_factor)
+        return;
+    m_factor = factor;
+    for (const auto& [control, entry] : m_controls)
+        applyPlace(const_cast<QWidget*>(control), entry);
+    if (m_menuBar == nullptr)
+        return;
+    const QFont font = look::scaled(look::Instruction, factor);
+    m_menuBar->setFont(font);
+    for (QMenu* menu : m_menuBar->findChildren<QMenu*>())
+        menu->setFont(font);
+}
+
+void Screen::applyPlace(QWidget* control, const Control& entry) const
+{
+    control->setFont(look::scaled(entry.font, m_factor));
+    if (auto* scalable = dynamic_cast<Scalable*>(control))
+        scalable->setFactor(m_factor);
+    control->setGeometry(toPixels(entry.place, m_factor));
+}
+
+// --- controls
+
+void Screen::addControl(
+    QWidget* control, const QString& name, const TwipRect& place, const look::Font& font)
+{
+    control->setObjectName(name);
+    const auto& entry = m_controls[control] = {place, font};
+    connect(control, &QObject::destroyed, this, [this, control] { m_controls.erase(control); });
+    applyPlace(control, entry);
+    if (isVisible())
+        control->show();
+}
+
+TwipRect Screen::placeOf(const QWidget* control) const
+{
+    return m_controls.at(control).place;
+}
+
+void Screen::place(QWidget* control, const TwipRect& place)
+{
+    Control& entry = m_controls.at(control);
+    entry.place = place;
+    control->setGeometry(toPixels(place, m_factor));
+}
+
+void Screen::moveTo(QWidget* control, double left, double top)
+{
+    TwipRect moved = placeOf(control);
+    moved.left = left;
+    moved.top = top;
+    place(control, moved);
+}
+
+void Screen::setControlFont(QWidget* control, const look::Font& font)
+{
+    Control& entry = m_controls.at(control);
+    entry.font = font;
+    applyPlace(control, entry);
+}
+
+TextBox* Screen::entryBox(const QString& name, const TwipRect& place, const look::Font& font,
+    const QString& accessibleName)
+{
+    auto* box = add(new TextBox(TextBox::Kind::Entry, m_canvas), name, place, font);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
+TextBox* Screen::displayBox(const QString& name, const TwipRect& place, const look::Font& font,
+    const QString& accessibleName, const QString& text)
+{
+    auto* box = add(new TextBox(TextBox::Kind::Display, m_canvas), name, place, font);
+    box->setAccessibleName(accessibleName);
+    box->setText(text);
+    return box;
+}
+
+VerdictBox* Screen::verdictBox(
+    const QString& name, const TwipRect& place, const QString& accessibleName)
+{
+    auto* box = add(new VerdictBox(m_canvas), name, place, look::Verdict);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
+Memo* Screen::memo(const QString& name, const TwipRect& place, const look::Font& font,
+    const QString& accessibleName)
+{
+    auto* box = add(new Memo(Memo::Kind::Entry, m_canvas), name, place, font);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
+Memo* Screen::displayMemo(const QString& name, const TwipRect& place, const look::Font& font,
+    const QString& accessibleName, const QString& text)
+{
+    auto* box = add(new Memo(Memo::Kind::Display, m_canvas), name, place, font);
+    box->setAccessibleName(accessibleName);
+    box->setPlainText(text);
+    return box;
+}
+
+Button* Screen::button(const QString& name, const QString& caption, const TwipRect& place,
+    const QColor& fill, const look::Font& font)
+{
+    return add(new Button(caption, fill, m_canvas), name, place, font);
+}
+
+QLabel* Screen::label(const QString& name, const QString& caption, const TwipRect& place,
+    const look::Font& font, QWidget* buddy)
+{
+    auto* label = add(new QLabel(m_canvas), name, place, font);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(caption);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QTimer* Screen::timer(const QString& name, int milliseconds)
+{
+    auto* timer = new QTimer(this);
+    timer->setObjectName(name);
+    timer->setInterval(milliseconds);
+    return timer;
+}
+
+// --- menus
+
+QMenuBar* Screen::menuBar()
+{
+    if (m_menuBar == nullptr) {
+        m_menuBar = new QMenuBar(this);
+        m_menuBar->setNativeMenuBar(false);
+        m_menuBar->setFont(look::scaled(look::Instruction, m_factor));
+    }
+    return m_menuBar;
+}
+
+template <> QMenu* Screen::named(QMenu* menu, const QString& name)
+{
+    menu->setObjectName(name);
+    menu->menuAction()->setObjectName(name);
+    menu->setFont(look::scaled(look::Instruction, m_factor));
+    return menu;
+}
+
+template <> QAction* Screen::named(QAction* action, const QString& name)
+{
+    action->setObjectName(name);
+    return action;
+}
+
+QMenu* Screen::menu(const QString& name, const QString& caption)
+{
+    return named(menuBar()->addMenu(caption), name);
+}
+
+QMenu* Screen::submenu(QMenu* parent, const QString& name, const QString& caption)
+{
+    return named(parent->addMenu(caption), name);
+}
+
+QAction* Screen::item(QMenu* parent, const QString& name, const QString& caption)
+{
+    return named(parent->addAction(caption), name);
+}
+
+QAction* Screen::barItem(const QString& name, const QString& caption)
+{
+    return named(menuBar()->addAction(caption), name);
+}
+
+QAction* Screen::checkItem(QMenu* parent, const QString& name, const QString& caption)
+{
+    QAction* action = item(parent, name, caption);
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, this,
+        [action](bool checked) { action->setChecked(!checked); });
+    return action;
+}
+
+MenuList Screen::menuList(QMenu* parent, const QString& name, const QStringList& captions)
+{
+    std::vector<QAction*> items;
+    for (qsizetype i = 0; i < captions.size(); ++i)
+        items.push_back(checkItem(parent, u"%1(%2)"_s.arg(name).arg(i), captions.at(i)));
+    MenuList list(std::move(items));
+    list.check(0);
+    return list;
+}
+
+QStringList Screen::numberedCaptions(int first, int last)
+{
+    QStringList captions;
+    for (int number = first; number <= last; ++number)
+        captions << u"&%1"_s.arg(number);
+    return captions;
+}
+
+} // namespace ui

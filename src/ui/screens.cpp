@@ -1,0 +1,117 @@
+#include "ui/screens.h"
+
+#include "ui/screen.h"
+
+#include <QCoreApplication>
+#include <QWindow>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace ui {
+
+namespace {
+
+constexpr double LargestShare = 0.85; // of the display's free height, for the menu
+
+} // namespace
+
+Screens::Screens(core::RandomSource& random, const core::Clock& clock, QString resources)
+    : m_random(random)
+    , m_clock(clock)
+    , m_resources(std::move(resources))
+{
+}
+
+Screens::~Screens()
+{
+    for (const QPointer<Screen>& screen : m_loaded)
+        delete screen.data();
+}
+
+void Screens::add(const QString& name, Factory factory)
+{
+    m_factories[name] = std::move(factory);
+}
+
+Screen* Screens::loaded(const QString& name) const
+{
+    for (const QPointer<Screen>& screen : m_loaded) {
+        if (screen && screen->objectName() == name)
+            return screen;
+    }
+    return nullptr;
+}
+
+Screen& Screens::load(const QString& name)
+{
+    if (Screen* screen = loaded(name))
+        return *screen;
+    std::unique_ptr<Screen> screen(m_factories.at(name)(*this));
+    screen->Form_Load();
+    screen->comeUp();
+    m_loaded.emplace_back(screen.get());
+    return *screen.release();
+}
+
+void Screens::show(const QString& name)
+{
+    Screen& screen = load(name);
+    screen.show();
+    screen.raise();
+    screen.activateWindow();
+}
+
+void Screens::showModal(const QString& name, Screen& owner, std::function<void()> then)
+{
+    Screen& screen = load(name);
+    const QPointer<Screen> waiter(&owner);
+    screen.m_whenClosed = [waiter, then = std::move(then)] {
+        if (waiter && then)
+            waiter->guarded(then);
+    };
+    screen.setWindowModality(Qt::ApplicationModal);
+    screen.winId(); // makes the window, so that it can be tied to its owner's
+    owner.winId();
+    screen.windowHandle()->setTransientParent(owner.windowHandle());
+    screen.show();
+    screen.activateWindow();
+}
+
+void Screens::unload(const QString& name)
+{
+    if (Screen* screen = loaded(name))
+        screen->unload();
+}
+
+void Screens::forget(Screen& screen)
+{
+    std::erase_if(m_loaded, [&](const auto& entry) { return !entry || entry == &screen; });
+    if (screen.objectName() != m_mainScreen)
+        return;
+    unloadRest();
+    QCoreApplication::quit();
+}
+
+void Screens::unloadRest()
+{
+    while (!m_loaded.empty()) {
+        if (m_loaded.back())
+            m_loaded.back()->unload();
+        else
+            m_loaded.pop_back();
+    }
+}
+
+double Screens::initialFactor(double windowHeight, double freeHeight)
+{
+    const double quarters = std::floor(4 * LargestShare * freeHeight / windowHeight);
+    if (quarters >= 4)
+        return quarters / 4;
+    // Down in steps of 5 %, so that the fonts keep even sizes.
+    const double fitting = std::floor(20 * freeHeight / (windowHeight + FrameHeight)) / 20;
+    return std::clamp(fitting, 0.5, 1.0);
+}
+
+} // namespace ui

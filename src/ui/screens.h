@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace core {
+class Clock;
+class RandomSource;
+} // namespace core
+
+namespace ui {
+
+class Screen;
+
+/// The set of the program's screens, each made on first use, one instance of each. Also
+/// hands every screen what it may not own: the random source, the clock, the folder of the
+/// problem bank and the pictures.
+class Screens {
+public:
+    using Factory = std::function<Screen*(Screens&)>;
+
+    /// random and clock must outlive the set. resources is the path of the folder
+    /// "Recursos".
+    Screens(core::RandomSource& random, const core::Clock& clock, QString resources);
+    ~Screens();
+    Screens(const Screens&) = delete;
+    Screens& operator=(const Screens&) = delete;
+
+    core::RandomSource& random() const { return m_random; }
+    const core::Clock& clock() const { return m_clock; }
+    QString resources() const { return m_resources; }
+
+    /// Makes a screen known by its name; it is not made yet.
+    void add(const QString& name, Factory factory);
+    template <typename S> void add()
+    {
+        add(S::screenName(), [](Screens& screens) -> Screen* { return new S(screens); });
+    }
+
+    /// The screen, when it is loaded; nullptr otherwise.
+    Screen* loaded(const QString& name) const;
+
+    /// The screen, made and filled if it is not loaded yet. What its Form_Load throws comes
+    /// through, and the screen is not loaded then.
+    Screen& load(const QString& name);
+    template <typename S> S& load() { return static_cast<S&>(load(S::screenName())); }
+
+    /// Shows a screen beside the others.
+    void show(const QString& name);
+
+    /// Shows a screen that blocks all others until it is closed or hidden; then runs `then`
+    /// as a handler of owner, unless owner is gone.
+    void showModal(const QString& name, Screen& owner, std::function<void()> then = {});
+
+    /// Closes a screen and drops its state; nothing when it is not loaded.
+    void unload(const QString& name);
+
+    /// Unloading this screen unloads all others and ends the program.
+    void setMainScreen(const QString& name) { m_mainScreen = name; }
+
+    /// Room for a window manager's title bar and edges, in pixels.
+    static constexpr double FrameHeight = 40;
+
+    /// The factor at which screens come up: the largest multiple of a quarter, from 1, at
+    /// which a window of this height (pixels at factor 1) takes at most 85 % of the free
+    /// height; less than 1 only where 1 does not fit.
+    static double initialFactor(double windowHeight, double freeHeight);
+
+private:
+    friend class Screen;
+
+    void forget(Screen& screen);
+    void unloadRest();
+
+    core::RandomSource& m_random;
+    const core::Clock& m_clock;
+    QString m_resources;
+    QString m_mainScreen;
+    std::map<QString, Factory> m_factories;
+    std::vector<QPointer<Screen>> m_loaded; ///< in the order of loading
+};
+
+} // namespace ui

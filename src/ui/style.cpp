@@ -1,0 +1,160 @@
+#include "ui/style.h"
+
+#include "ui/look.h"
+#include "ui/screen.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+namespace {
+
+constexpr double ButtonRadius = 8;
+constexpr double BoxRadius = 6;
+constexpr int IconSize = 32;
+constexpr int IconMargin = 14; // left of a button's icon and between it and the caption
+
+void drawRounded(QPainter* painter, const QRect& rect, const QBrush& fill, const QColor& edge,
+    double penWidth, double radius)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(edge, penWidth));
+    painter->setBrush(fill);
+    const double inset = penWidth / 2;
+    painter->drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter->restore();
+}
+
+void drawButton(QPainter* painter, const QStyleOption& option, double factor, bool ringInside)
+{
+    const bool down = option.state & (QStyle::State_Sunken | QStyle::State_On);
+    const bool hover = option.state & QStyle::State_MouseOver;
+    const bool enabled = option.state & QStyle::State_Enabled;
+    QColor fill = option.palette.color(QPalette::Button);
+    const QColor edge = fill.darker(166);
+    if (down)
+        fill = fill.darker(115);
+    QRect rect = option.rect;
+    if (down)
+        rect.translate(0, 1);
+    const double pen = (hover && enabled ? 2 : 1) * factor;
+    drawRounded(painter, rect, fill, edge, pen, ButtonRadius * factor);
+    if (ringInside && (option.state & QStyle::State_HasFocus))
+        drawRounded(painter, rect, Qt::NoBrush, QColor(look::Focus), look::RingWidth * factor,
+            ButtonRadius * factor);
+}
+
+void drawButtonLabel(QPainter* painter, const QStyleOptionButton& option, double factor)
+{
+    QRect rect = option.rect;
+    if (option.state & QStyle::State_Sunken)
+        rect.translate(0, 1);
+    const int flags = Qt::AlignVCenter | Qt::TextShowMnemonic
+        | (option.icon.isNull() ? Qt::AlignHCenter : Qt::AlignLeft);
+    if (!option.icon.isNull()) {
+        const int margin = qRound(IconMargin * factor);
+        const int size = qRound(IconSize * factor);
+        const QRect icon(
+            rect.left() + margin, rect.top() + (rect.height() - size) / 2, size, size);
+        option.icon.paint(painter, icon, Qt::AlignCenter,
+            option.state & QStyle::State_Enabled ? QIcon::Normal : QIcon::Disabled);
+        rect.setLeft(icon.right() + margin);
+    }
+    painter->setPen(option.palette.color(QPalette::ButtonText));
+    painter->drawText(rect, flags, option.text);
+}
+
+} // namespace
+
+Style::Style()
+    : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
+{
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+    const QWidget* widget) const
+{
+    const double factor = Screen::factorOf(widget);
+    switch (element) {
+    case PE_PanelLineEdit: {
+        const auto* box = qobject_cast<const QLineEdit*>(widget);
+        if (box == nullptr || box->hasFrame())
+            drawRounded(painter, option->rect, option->palette.brush(QPalette::Base),
+                QColor(look::Line), factor, BoxRadius * factor);
+        return;
+    }
+    case PE_Frame:
+        drawRounded(painter, option->rect, option->palette.brush(QPalette::Base),
+            QColor(look::Line), factor, BoxRadius * factor);
+        return;
+    case PE_FrameFocusRect:
+        if (Screen::of(widget) != nullptr && widget->window() == Screen::of(widget))
+            return; // the screen's ring shows the focus
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+    const QWidget* widget) const
+{
+    const double factor = Screen::factorOf(widget);
+    if (element == CE_PushButtonBevel) {
+        const bool onScreen = widget != nullptr && widget->window() == Screen::of(widget);
+        drawButton(painter, *option, factor, !onScreen);
+        return;
+    }
+    if (element == CE_PushButtonLabel) {
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+            drawButtonLabel(painter, *button, factor);
+            return;
+        }
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+int Style::pixelMetric(
+    PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const int plain = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+    case PM_ScrollBarExtent:
+    case PM_ScrollBarSliderMin:
+    case PM_TextCursorWidth:
+    case PM_MenuButtonIndicator:
+        return qRound(plain * Screen::factorOf(widget));
+    default:
+        return plain;
+    }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+    QStyleHintReturn* returnData) const
+{
+    switch (hint) {
+    case SH_UnderlineShortcut:
+        return 1;
+    case SH_BlinkCursorWhenTextSelected:
+        return 0;
+    case SH_RequestSoftwareInputPanel:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+} // namespace ui

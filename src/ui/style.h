@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace ui {
+
+/// Fusion with the program's own buttons, boxes and measures, which follow the factor of
+/// the screen that a control stands on.
+class Style : public QProxyStyle {
+public:
+    Style();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget) const override;
+    int pixelMetric(
+        PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+        QStyleHintReturn* returnData) const override;
+};
+
+} // namespace ui

@@ -1,0 +1,157 @@
+#include "ui/text_box.h"
+
+#include "ui/look.h"
+#include "ui/screen.h"
+
+#include <QAccessible>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+constexpr double MarkSize = 18; // pixels at factor 1
+constexpr double MarkGap = 8;
+
+void drawTick(QPainter& painter, const QRectF& square)
+{
+    QPainterPath path(QPointF(square.left() + square.width() * 0.08, square.center().y()));
+    path.lineTo(square.left() + square.width() * 0.38, square.bottom() - square.height() * 0.16);
+    path.lineTo(square.right() - square.width() * 0.06, square.top() + square.height() * 0.14);
+    painter.drawPath(path);
+}
+
+void drawCross(QPainter& painter, const QRectF& square)
+{
+    const double inset = square.width() * 0.16;
+    const QRectF inner = square.adjusted(inset, inset, -inset, -inset);
+    painter.drawLine(inner.topLeft(), inner.bottomRight());
+    painter.drawLine(inner.topRight(), inner.bottomLeft());
+}
+
+} // namespace
+
+TextBox::TextBox(Kind kind, QWidget* parent)
+    : QLineEdit(parent)
+    , m_kind(kind)
+{
+    if (m_kind == Kind::Display) {
+        setReadOnly(true);
+        setFrame(false);
+        setFocusPolicy(Qt::NoFocus);
+        setCursor(Qt::ArrowCursor);
+        setPalette(look::displayed());
+    }
+}
+
+void TextBox::setFactor(double factor)
+{
+    m_factor = factor;
+    const double inner = m_kind == Kind::Entry ? look::BoxMargin : 0;
+    setTextMargins(
+        qRound((inner + m_extraLeft) * factor), 0, qRound((inner + m_extraRight) * factor), 0);
+}
+
+void TextBox::setExtraMargins(double left, double right)
+{
+    m_extraLeft = left;
+    m_extraRight = right;
+    setFactor(m_factor);
+}
+
+bool TextBox::event(QEvent* event)
+{
+    // QLineEdit would drop the highlight of a box without focus here.
+    if (event->type() == QEvent::WindowActivate)
+        return QWidget::event(event);
+    return QLineEdit::event(event);
+}
+
+void TextBox::focusOutEvent(QFocusEvent* event)
+{
+    const int start = selectionStart();
+    const auto length = static_cast<int>(selectedText().size());
+    const int caret = cursorPosition();
+    QLineEdit::focusOutEvent(event);
+    if (start < 0)
+        return;
+    // The caret stays at the end of the selection at which it stood.
+    if (caret == start)
+        setSelection(start + length, -length);
+    else
+        setSelection(start, length);
+}
+
+void TextBox::mousePressEvent(QMouseEvent* event)
+{
+    if (focusPolicy() == Qt::NoFocus)
+        event->ignore();
+    else
+        QLineEdit::mousePressEvent(event);
+}
+
+void TextBox::mouseMoveEvent(QMouseEvent* event)
+{
+    if (focusPolicy() == Qt::NoFocus)
+        event->ignore();
+    else
+        QLineEdit::mouseMoveEvent(event);
+}
+
+void TextBox::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (focusPolicy() == Qt::NoFocus)
+        event->ignore();
+    else
+        QLineEdit::mouseDoubleClickEvent(event);
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (focusPolicy() == Qt::NoFocus)
+        event->ignore();
+    else
+        QLineEdit::contextMenuEvent(event);
+}
+
+VerdictBox::VerdictBox(QWidget* parent)
+    : TextBox(Kind::Display, parent)
+{
+    setExtraMargins(MarkSize + MarkGap, 0);
+}
+
+void VerdictBox::setVerdict(const QString& text, Mark mark)
+{
+    m_mark = mark;
+    setText(text);
+    update();
+    if (!text.isEmpty()) {
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+void VerdictBox::paintEvent(QPaintEvent* event)
+{
+    TextBox::paintEvent(event);
+    if (m_mark == Mark::None || text().isEmpty())
+        return;
+    const double factor = Screen::factorOf(this);
+    const double size = std::min(MarkSize * factor, height() - 2.0);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor colour(m_mark == Mark::Right ? look::Right : look::Wrong);
+    painter.setPen(QPen(colour, 3.2 * factor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QRectF square(2 * factor, (height() - size) / 2, size, size);
+    if (m_mark == Mark::Right)
+        drawTick(painter, square);
+    else
+        drawCross(painter, square);
+}
+
+} // namespace ui

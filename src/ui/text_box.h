@@ -1,0 +1,61 @@
+#pragma once
+
+#include "ui/placement.h"
+
+#include <QLineEdit>
+
+namespace ui {
+
+/// A line of text: an entry box, or a text that is only shown. A selected text stays
+/// highlighted while the box has no focus and while its window is not the active one.
+class TextBox : public QLineEdit, public Scalable {
+public:
+    enum class Kind {
+        Entry, ///< framed, typed into
+        Display ///< no frame, no fill, read-only, not in the tab order, deaf to the mouse
+    };
+
+    TextBox(Kind kind, QWidget* parent);
+
+    void setFactor(double factor) override;
+
+    /// Highlights the whole text, for as long as it is not changed or deselected.
+    void showSelected() { selectAll(); }
+
+protected:
+    bool event(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+    /// Space for text, in pixels at factor 1, beyond the usual margin.
+    void setExtraMargins(double left, double right);
+
+private:
+    Kind m_kind;
+    double m_factor = 1;
+    double m_extraLeft = 0;
+    double m_extraRight = 0;
+};
+
+/// The line that says how a check came out: a tick or a cross at its left, and the text
+/// exactly as given. A change is announced to assistive tools.
+class VerdictBox : public TextBox {
+public:
+    enum class Mark { None, Right, Wrong };
+
+    explicit VerdictBox(QWidget* parent);
+
+    void setVerdict(const QString& text, Mark mark);
+    Mark mark() const { return m_mark; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Mark m_mark = Mark::None;
+};
+
+} // namespace ui
