@@ -1,8 +1,9 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <limits>
+
+#include <compare> // behind the others: the toolkit's moc cannot read it first
 
 namespace core {
 

@@ -17,7 +17,7 @@ constexpr double MenuBarTwips = ui::look::MenuBarHeight * ui::TwipsPerPixel;
 constexpr double ClientHeight = MainMenuLayout::WindowHeight - MenuBarTwips;
 // The right margin equals the left one.
 constexpr double ClientWidth = 2 * (MainMenuLayout::ButtonWidth + MainMenuLayout::LeftMargin);
-constexpr ui::look::Font ButtonFont{Family::Arial, 16}; // 12 points
+constexpr ui::look::Font ButtonFont{Family::Arial, 16, true}; // 12 points
 
 } // namespace
 

@@ -74,9 +74,9 @@ void Form2::makeMenu()
 void Form2::makeBoxes()
 {
     TbTabla1 =
-        memo(u"TbTabla1"_s, {400, 450, 2490, 3300}, TableFont, u"Primera mitad de la tabla"_s);
+        memo(u"TbTabla1"_s, {410, 700, 2490, 2760}, TableFont, u"Primera mitad de la tabla"_s);
     TbTabla2 =
-        memo(u"TbTabla2"_s, {3010, 450, 2490, 3300}, TableFont, u"Segunda mitad de la tabla"_s);
+        memo(u"TbTabla2"_s, {3000, 700, 2490, 2760}, TableFont, u"Segunda mitad de la tabla"_s);
     for (ui::Memo* table : {TbTabla1, TbTabla2}) {
         table->setReadOnly(true);
         table->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -100,7 +100,7 @@ void Form2::makeBoxes()
     onKeyDown(TbOperación[4],
         [this](int keyCode, Qt::KeyboardModifiers) { return TbOperación_KeyDown(keyCode); });
 
-    Text1 = verdictBox(u"Text1"_s, {1600, 1650, 2900, 450}, u"Resultado"_s);
+    Text1 = verdictBox(u"Text1"_s, {1150, 1650, 3600, 450}, u"Resultado"_s);
 }
 
 void Form2::Form_Load()

@@ -41,6 +41,12 @@ void drawButton(QPainter* painter, const QStyleOption& option, double factor, bo
     if (down)
         fill = fill.darker(115);
     QRect rect = option.rect;
+    if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+        button != nullptr && !button->icon.isNull()) {
+        // The menu's columns touch: a gap in the painting sets them apart.
+        const int gap = qRound(look::RingWidth * factor);
+        rect.adjust(gap, 0, -gap, 0);
+    }
     if (down)
         rect.translate(0, 1);
     const double pen = (hover && enabled ? 2 : 1) * factor;

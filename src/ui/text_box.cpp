@@ -64,6 +64,13 @@ void TextBox::setExtraMargins(double left, double right)
     setFactor(m_factor);
 }
 
+void TextBox::showSelected()
+{
+    // From the end: with the caret in front, a long text shows its beginning.
+    const auto length = static_cast<int>(text().size());
+    setSelection(length, -length);
+}
+
 bool TextBox::event(QEvent* event)
 {
     // QLineEdit would drop the highlight of a box without focus here.

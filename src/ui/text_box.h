@@ -20,7 +20,7 @@ public:
     void setFactor(double factor) override;
 
     /// Highlights the whole text, for as long as it is not changed or deselected.
-    void showSelected() { selectAll(); }
+    void showSelected();
 
 protected:
     bool event(QEvent* event) override;

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "support/box_answerer.h"
+#include "support/fake_clock.h"
+#include "support/scripted_random.h"
+#include "ui/application.h"
+#include "ui/screen.h"
+#include "ui/screens.h"
+
+#include <QAction>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstdio>
+#include <cstdlib>
+
+/// What a screen under test stands on: scripted draws, a clock that stands, an empty folder
+/// for the bank and the pictures, and the set of screens.
+class ScreenBench {
+public:
+    ScreenBench()
+        : screens(random, clock, folder.path())
+    {
+    }
+
+    /// Loads, shows and activates a screen.
+    template <typename S> S& open()
+    {
+        screens.add<S>();
+        screens.show(S::screenName());
+        auto& screen = *screens.loaded(S::screenName());
+        [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&screen);
+        m_screen = &screen;
+        return static_cast<S&>(screen);
+    }
+
+    /// A control or menu item of the opened screen by its object name; ends the test program
+    /// with the name when there is none of this kind.
+    template <typename T> T& control(const QString& name) const
+    {
+        return find<T>(*m_screen, name);
+    }
+
+    template <typename T> static T& find(const QObject& parent, const QString& name)
+    {
+        if (auto* found = parent.findChild<T*>(name))
+            return *found;
+        std::fprintf(stderr, "no control %s\n", qPrintable(name));
+        std::abort();
+    }
+
+    void click(const QString& name) const
+    {
+        QTest::mouseClick(&control<QPushButton>(name), Qt::LeftButton);
+    }
+    /// Picks a menu item.
+    void pick(const QString& name) const { control<QAction>(name).trigger(); }
+    QString text(const QString& name) const { return control<QLineEdit>(name).text(); }
+    void type(const QString& name, const QString& keys) const
+    {
+        QTest::keyClicks(&control<QLineEdit>(name), keys);
+    }
+    void key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(&control<QWidget>(name), key, modifiers);
+    }
+    /// Lets a timer of the screen fire once, now.
+    void tick(const QString& name) const
+    {
+        QMetaObject::invokeMethod(&control<QTimer>(name), "timeout", Qt::DirectConnection);
+    }
+    QString focusName() const
+    {
+        const QWidget* focus = QApplication::focusWidget();
+        return focus != nullptr ? focus->objectName() : QString();
+    }
+
+    QTemporaryDir folder;
+    ScriptedRandom random;
+    FakeClock clock;
+    ui::Screens screens;
+
+private:
+    QPointer<ui::Screen> m_screen;
+};
+
+/// main() of a screen test: the application is dressed as the program's is.
+#define PIZARRIN_SCREEN_TEST_MAIN(TestClass)                                                     \
+    int main(int argc, char* argv[])                                                             \
+    {                                                                                            \
+        ui::prepareApplication();                                                                \
+        QApplication application(argc, argv);                                                    \
+        ui::dress(application);                                                                  \
+        TestClass test;                                                                          \
+        return QTest::qExec(&test, argc, argv);                                                  \
+    }
