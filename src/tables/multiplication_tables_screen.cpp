@@ -74,12 +74,15 @@ void Form2::makeMenu()
 void Form2::makeBoxes()
 {
     TbTabla1 =
-        memo(u"TbTabla1"_s, {410, 700, 2490, 2760}, TableFont, u"Primera mitad de la tabla"_s);
+        memo(u"TbTabla1"_s, {410, 750, 2490, 2500}, TableFont, u"Primera mitad de la tabla"_s);
     TbTabla2 =
-        memo(u"TbTabla2"_s, {3000, 700, 2490, 2760}, TableFont, u"Segunda mitad de la tabla"_s);
+        memo(u"TbTabla2"_s, {3000, 750, 2490, 2500}, TableFont, u"Segunda mitad de la tabla"_s);
     for (ui::Memo* table : {TbTabla1, TbTabla2}) {
         table->setReadOnly(true);
         table->setLineWrapMode(QPlainTextEdit::NoWrap);
+        // The text ends with a line end: only an empty line may be cut off.
+        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
 
     constexpr double Top = 900;

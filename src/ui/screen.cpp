@@ -302,7 +302,8 @@ void Screen::resizeToDesign(double factor)
     const double fitting = std::min({factor, available.width() / width,
         (available.height() - Screens::FrameHeight) / height});
     const auto pixels = [](double length) { return static_cast<int>(std::ceil(length)); };
-    setMinimumSize(pixels(width * SmallestFactor), pixels(height * SmallestFactor));
+    const double smallest = std::min(SmallestFactor, fitting);
+    setMinimumSize(pixels(width * smallest), pixels(height * smallest));
     resize(pixels(width * fitting), pixels(height * fitting));
     layOut(); // the size may be the same, the design not
 }

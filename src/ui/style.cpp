@@ -16,6 +16,7 @@ namespace {
 
 constexpr double ButtonRadius = 8;
 constexpr double BoxRadius = 6;
+constexpr QSize SmallestButton(96, 34); // where a layout decides, as in boxes
 constexpr int IconSize = 32;
 constexpr int IconMargin = 14; // left of a button's icon and between it and the caption
 
@@ -146,6 +147,15 @@ int Style::pixelMetric(
     default:
         return plain;
     }
+}
+
+QSize Style::sizeFromContents(
+    ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const
+{
+    const QSize plain = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type != CT_PushButton)
+        return plain;
+    return plain.expandedTo(SmallestButton * Screen::factorOf(widget));
 }
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/typing.h"
+
 #include <QApplication>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -52,7 +54,7 @@ public:
     QList<QMessageBox::Icon> icons;
     QStringList buttons; ///< captions of the last box, from left to right
 
-    /// Called while a box is open, before it is answered.
+    /// Called while a box is open, before it is answered; may answer or close it itself.
     std::function<void(QDialog&)> whileOpen;
 
 private:
@@ -65,6 +67,11 @@ private:
         keep(*box);
         if (whileOpen)
             whileOpen(*box);
+        if (!m_answered || !box->isVisible()) {
+            if (!m_answers.empty())
+                m_answers.pop_front(); // whileOpen answered it
+            return;
+        }
         if (m_answers.empty()) {
             QTest::qFail(qPrintable(QStringLiteral("an unasked box: ") + texts.constLast()),
                 __FILE__, __LINE__);
@@ -74,7 +81,7 @@ private:
         const Answer answer = m_answers.front();
         m_answers.pop_front();
         if (auto* edit = box->findChild<QLineEdit*>())
-            QTest::keyClicks(edit, answer.typed);
+            typeInto(edit, answer.typed);
         press(*box, answer.button);
     }
 

@@ -8,6 +8,7 @@
 #include "ui/screens.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -58,7 +59,7 @@ public:
     QString text(const QString& name) const { return control<QLineEdit>(name).text(); }
     void type(const QString& name, const QString& keys) const
     {
-        QTest::keyClicks(&control<QLineEdit>(name), keys);
+        typeInto(&control<QWidget>(name), keys);
     }
     void key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
     {

@@ -1,0 +1,93 @@
+#include "gallery.h"
+
+#include "activities.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QInputDialog>
+#include <QPushButton>
+#include <QtTest>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace gallery {
+
+Stage::Stage(const QString& screen, const QString& resources, double factor)
+    : m_screens(m_random, m_clock, resources)
+{
+    addScreens(m_screens);
+    m_screens.show(screen);
+    m_screen = m_screens.loaded(screen);
+    const double enlarge = factor / m_screen->factor();
+    m_screen->resize((QSizeF(m_screen->size()) * enlarge).toSize());
+    [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(m_screen);
+}
+
+void Stage::click(const QString& button) const
+{
+    QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton);
+}
+
+void Stage::pick(const QString& menuItem) const
+{
+    control<QAction>(menuItem).trigger();
+}
+
+void Stage::type(const QString& box, const QString& keys) const
+{
+    QTest::keyClicks(&control<QWidget>(box), keys);
+}
+
+void Stage::press(const QString& box, Qt::Key key) const
+{
+    QTest::keyClick(&control<QWidget>(box), key);
+}
+
+QString Stage::text(const QString& box) const
+{
+    return control<QLineEdit>(box).text();
+}
+
+void Stage::photographBox(const std::function<void()>& opens, const QString& answer)
+{
+    QTimer camera;
+    QObject::connect(&camera, &QTimer::timeout, &camera, [&] {
+        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (box == nullptr || !box->isVisible())
+            return;
+        camera.stop();
+        picture = box->grab();
+        for (QPushButton* button : box->findChildren<QPushButton*>()) {
+            if (button->text() == answer)
+                button->click();
+        }
+    });
+    camera.start(20);
+    opens();
+}
+
+Gallery::Gallery(QString folder, const QString& resources)
+    : m_folder(std::move(folder))
+{
+    QDir().mkpath(m_folder);
+    for (const QFileInfo& file : QDir(resources).entryInfoList(QDir::Files))
+        QFile::copy(file.filePath(), m_resources.filePath(file.fileName()));
+}
+
+void Gallery::add(const QString& name, const QString& screen, const State& state)
+{
+    for (int factor : {1, 2}) {
+        Stage stage(screen, m_resources.path(), factor);
+        if (state)
+            state(stage);
+        QTest::qWait(20); // fonts and animations come to rest
+        const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
+        const QString suffix = factor == 1 ? QString() : u"@2"_s;
+        picture.save(u"%1/%2%3.png"_s.arg(m_folder, name, suffix));
+    }
+}
+
+} // namespace gallery

@@ -1,0 +1,23 @@
+#include "gallery.h"
+#include "pictures.h"
+
+#include "ui/application.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    ui::prepareApplication();
+    QApplication application(argc, argv);
+    ui::dress(application);
+
+    const QStringList arguments = QApplication::arguments();
+    gallery::Gallery gallery(
+        arguments.value(1, u"gallery"_s), QString::fromUtf8(PIZARRIN_RESOURCES));
+    gallery::addMenu(gallery);
+    gallery::addMultiplicationTables(gallery);
+    return 0;
+}

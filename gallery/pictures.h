@@ -1,0 +1,11 @@
+#pragma once
+
+namespace gallery {
+
+class Gallery;
+
+// One function an activity, in a file of its own.
+void addMenu(Gallery& gallery);
+void addMultiplicationTables(Gallery& gallery);
+
+} // namespace gallery

@@ -1,0 +1,117 @@
+#include "activities.h"
+
+#include "core/random.h"
+#include "support/screen_bench.h"
+
+using namespace Qt::StringLiterals;
+
+/// The whole program as main() puts it together.
+class ActivitiesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
+        addScreens(*screens);
+        screens->show(u"Form1"_s);
+        menu = screens->loaded(u"Form1"_s);
+        QVERIFY(QTest::qWaitForWindowActive(menu));
+    }
+    void cleanup() { screens.reset(); }
+
+    void menuHasItsCaptionsInTheirOrder()
+    {
+        const QStringList captions{u"&Suma repetida"_s, u"&Tablas de multiplicar"_s,
+            u"T&ablas rápidas"_s, u"&Completa el hueco"_s, u"&Múltiplos y divisores"_s,
+            u"&Multiplicaciones"_s, u"&Divisiones"_s, u"&Problemas"_s,
+            u"&Operaciones combinadas"_s, u"&Lluvia de números"_s, u"&La gran carrera"_s,
+            u"&Salir"_s};
+        for (int i = 0; i < captions.size(); ++i)
+            QCOMPARE(button(i).text(), captions.at(i));
+        QCOMPARE(menu->findChild<QPushButton*>(u"Command1(12)"_s), nullptr);
+    }
+
+    void everyButtonOpensItsScreen_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("screen");
+        const QStringList names{u"Form4"_s, u"Form2"_s, u"Form8"_s, u"FrmMultHuecos"_s,
+            u"FrmMultidivi"_s, u"Form3"_s, u"Form6"_s, u"FormProblemas"_s, u"FRMCombi"_s,
+            u"Form5"_s, u"FrmCarrera"_s};
+        for (int i = 0; i < names.size(); ++i)
+            QTest::newRow(qPrintable(names.at(i))) << i << names.at(i);
+    }
+    void everyButtonOpensItsScreen()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, screen);
+        QTest::mouseClick(&button(index), Qt::LeftButton);
+        ui::Screen* opened = screens->loaded(screen);
+        QVERIFY(opened);
+        QVERIFY(opened->isVisible());
+        QCOMPARE(opened->isModal(), screen != u"FormProblemas"_s);
+    }
+
+    void accessKeysOpenOrWalkTheirButtons_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<QList<int>>("buttons");
+        QTest::newRow("A") << Qt::Key_A << QList<int>{2};
+        QTest::newRow("C") << Qt::Key_C << QList<int>{3};
+        QTest::newRow("D") << Qt::Key_D << QList<int>{6};
+        QTest::newRow("L") << Qt::Key_L << QList<int>{9, 10};
+        QTest::newRow("M") << Qt::Key_M << QList<int>{4, 5};
+        QTest::newRow("O") << Qt::Key_O << QList<int>{8};
+        QTest::newRow("P") << Qt::Key_P << QList<int>{7};
+        QTest::newRow("S") << Qt::Key_S << QList<int>{0, 11};
+        QTest::newRow("T") << Qt::Key_T << QList<int>{1};
+    }
+    void accessKeysOpenOrWalkTheirButtons()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(QList<int>, buttons);
+        QTest::keyClick(menu, key, Qt::AltModifier);
+        if (buttons.size() == 1) {
+            QVERIFY(screens->loaded(
+                activities().at(static_cast<std::size_t>(buttons.first())).screen));
+            return;
+        }
+        // A key that two captions share moves the focus from one to the other.
+        QSet<QString> walked{QApplication::focusWidget()->objectName()};
+        QTest::keyClick(menu, key, Qt::AltModifier);
+        walked << QApplication::focusWidget()->objectName();
+        QSet<QString> expected;
+        for (int index : buttons)
+            expected << button(index).objectName();
+        QCOMPARE(walked, expected);
+    }
+
+    void everyScreenClosesAndReopens()
+    {
+        for (int i = 0; i < 11; ++i) {
+            const QString name = activities().at(static_cast<std::size_t>(i)).screen;
+            for (int time = 0; time < 2; ++time) {
+                QTest::mouseClick(&button(i), Qt::LeftButton);
+                QVERIFY(screens->loaded(name));
+                screens->loaded(name)->close();
+                QVERIFY2(!screens->loaded(name), qPrintable(name));
+            }
+        }
+    }
+
+private:
+    QPushButton& button(int index) const
+    {
+        return ScreenBench::find<QPushButton>(*menu, u"Command1(%1)"_s.arg(index));
+    }
+
+    core::SeededRandom random;
+    FakeClock clock;
+    QTemporaryDir folder;
+    std::unique_ptr<ui::Screens> screens;
+    ui::Screen* menu = nullptr;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(ActivitiesTest)
+#include "activities_test.moc"

@@ -1,0 +1,143 @@
+#include "shell/main_menu_screen.h"
+
+#include "support/screen_bench.h"
+
+using namespace Qt::StringLiterals;
+using shell::Activity;
+using shell::Form1;
+
+namespace {
+
+/// Stands for an activity and writes down when it goes.
+class Spy final : public ui::Screen {
+public:
+    Spy(ui::Screens& screens, const QString& name, QStringList& log)
+        : Screen(screens, name, name, 3000, 3000)
+        , m_log(log)
+    {
+    }
+
+protected:
+    void Form_QueryUnload() override { m_log << objectName(); }
+
+private:
+    QStringList& m_log;
+};
+
+const QList<Activity> Entries{
+    {u"&Suma repetida"_s, u"Form4"_s},
+    {u"&Tablas de multiplicar"_s, u"Form2"_s},
+    {u"&Problemas"_s, u"FormProblemas"_s, Activity::Shown::Modeless},
+};
+
+const QStringList SpiedScreens{u"Form2"_s, u"Form3"_s, u"Form4"_s, u"Form5"_s, u"Form6"_s,
+    u"Form8"_s, u"FormProblemas"_s, u"Dialog"_s, u"FrmCarrera"_s};
+
+} // namespace
+
+class MainMenuScreenTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        bench = std::make_unique<ScreenBench>();
+        log.clear();
+        for (const QString& name : SpiedScreens) {
+            bench->screens.add(name, [this, name](ui::Screens& screens) -> ui::Screen* {
+                return new Spy(screens, name, log);
+            });
+        }
+        bench->screens.add(u"Form1"_s,
+            [](ui::Screens& screens) -> ui::Screen* { return new Form1(screens, Entries); });
+        bench->screens.setMainScreen(u"Form1"_s);
+        bench->screens.show(u"Form1"_s);
+        menu = bench->screens.loaded(u"Form1"_s);
+        QVERIFY(QTest::qWaitForWindowActive(menu));
+    }
+    void cleanup() { bench.reset(); }
+
+    void highestButtonIsRedAndTheOthersGreen()
+    {
+        for (int i = 0; i < 4; ++i) {
+            const QPalette palette = button(i).palette();
+            QCOMPARE(palette.color(QPalette::Active, QPalette::Button),
+                i < 3 ? QColor(0, 255, 0) : QColor(255, 0, 0));
+        }
+        QCOMPARE(button(3).text(), u"&Salir"_s);
+        QCOMPARE(button(0).text(), u"&Suma repetida"_s);
+        QCOMPARE(menu->windowTitle(), u"PIZARRIN"_s);
+        QCOMPARE(button(0).font().pixelSize(), 16); // 12 points
+    }
+
+    void windowIs8700TwipsHigh()
+    {
+        QCOMPARE(menu->factor(), 1.0);
+        QCOMPARE(menu->height(), 580);
+        QCOMPARE(menu->width(), 733 + 1); // 11000 twips, in whole pixels
+    }
+
+    void activitiesOpenModallyAndProblemsBeside()
+    {
+        QTest::mouseClick(&button(0), Qt::LeftButton);
+        QVERIFY(bench->screens.loaded(u"Form4"_s)->isModal());
+        bench->screens.unload(u"Form4"_s);
+        QTest::mouseClick(&button(2), Qt::LeftButton);
+        ui::Screen* problems = bench->screens.loaded(u"FormProblemas"_s);
+        QVERIFY(problems->isVisible() && !problems->isModal());
+        QTest::mouseClick(&button(2), Qt::LeftButton);
+        QCOMPARE(bench->screens.loaded(u"FormProblemas"_s), problems);
+    }
+
+    void exitUnloadsTheScreensInTheirOrder()
+    {
+        for (const QString& name : SpiedScreens)
+            bench->screens.show(name);
+        QTimer::singleShot(0, [&] { QTest::mouseClick(&button(3), Qt::LeftButton); });
+        QCOMPARE(QApplication::exec(), 0);
+        // The dialog is unloaded by the menu's own unloading, the last one by the program's end.
+        QCOMPARE(log,
+            (QStringList{u"FormProblemas"_s, u"Form8"_s, u"Form6"_s, u"Form5"_s, u"Form4"_s,
+                u"Form3"_s, u"Form2"_s, u"Dialog"_s, u"FrmCarrera"_s}));
+    }
+
+    void closeBoxUnloadsThreeInTheirOrderAndEndsTheProgram()
+    {
+        for (const QString& name : {u"Form2"_s, u"Form3"_s, u"Dialog"_s, u"FormProblemas"_s})
+            bench->screens.show(name);
+        QTimer::singleShot(0, [&] { menu->close(); });
+        QCOMPARE(QApplication::exec(), 0);
+        QCOMPARE(log, (QStringList{u"Dialog"_s, u"Form3"_s, u"Form2"_s, u"FormProblemas"_s}));
+    }
+
+    void aboutBoxHasTwoLinesAndNoVersion()
+    {
+        BoxAnswerer boxes(u"Aceptar"_s);
+        menu->findChild<QAction*>(u"MnuAce"_s)->trigger();
+        QCOMPARE(boxes.titles, {u"Pizarrin"_s});
+        QCOMPARE(boxes.texts.first().count(u"\r\n"_s), 1);
+        QVERIFY(!boxes.texts.first().contains(QRegularExpression(u"[0-9]"_s)));
+        QCOMPARE(boxes.icons, {QMessageBox::NoIcon});
+        QCOMPARE(boxes.buttons, {u"Aceptar"_s});
+    }
+
+    void aboutItemStandsAlone()
+    {
+        const auto* about = menu->findChild<QAction*>(u"MnuAce"_s);
+        QCOMPARE(about->text(), u"Acerca de..."_s);
+        QCOMPARE(about->menu(), nullptr);
+    }
+
+private:
+    QPushButton& button(int index) const
+    {
+        return ScreenBench::find<QPushButton>(*menu, u"Command1(%1)"_s.arg(index));
+    }
+
+    std::unique_ptr<ScreenBench> bench;
+    ui::Screen* menu = nullptr;
+    QStringList log;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(MainMenuScreenTest)
+#include "main_menu_screen_test.moc"

@@ -1,0 +1,158 @@
+#include "support/sample_screen.h"
+#include "support/screen_bench.h"
+#include "ui/boxes.h"
+
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+class BoxesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        bench = std::make_unique<ScreenBench>();
+        screen = &bench->open<SampleScreen>();
+    }
+    void cleanup() { bench.reset(); }
+
+    void messageHasTheTextAsWrittenAndOneSpanishButton()
+    {
+        const QString text = u"hasta   que se  <b>pulse</b> &1\r\nfin "_s;
+        BoxAnswerer boxes(u"Aceptar"_s);
+        ui::MessageBox::show(*screen, text);
+        QCOMPARE(boxes.texts, {text});
+        QCOMPARE(boxes.titles, {u"Pizarrin"_s});
+        QCOMPARE(boxes.buttons, {u"Aceptar"_s});
+        QCOMPARE(boxes.icons, {QMessageBox::NoIcon});
+    }
+
+    void messageHasItsTitleAndIcon()
+    {
+        BoxAnswerer boxes({u"Aceptar"_s, u"Aceptar"_s, u"Aceptar"_s});
+        ui::MessageBox::show(*screen, u"a"_s, u"Atención"_s, ui::Icon::Information);
+        ui::MessageBox::show(*screen, u"b"_s, u"Pizarrin"_s, ui::Icon::Exclamation);
+        ui::MessageBox::show(*screen, u"c"_s, u"Error"_s, ui::Icon::Critical);
+        QCOMPARE(boxes.titles, (QStringList{u"Atención"_s, u"Pizarrin"_s, u"Error"_s}));
+        QCOMPARE(boxes.icons,
+            (QList<QMessageBox::Icon>{
+                QMessageBox::Information, QMessageBox::Warning, QMessageBox::Critical}));
+    }
+
+    void escapeClosesAMessage()
+    {
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+        ui::MessageBox::show(*screen, u"a"_s); // comes back
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+
+    void questionIsAnsweredYesOrNo()
+    {
+        BoxAnswerer boxes({u"Sí"_s, u"No"_s});
+        QVERIFY(ui::MessageBox::ask(*screen, u"¿Otra vez?"_s, u"GAME OVER"_s));
+        QVERIFY(!ui::MessageBox::ask(*screen, u"¿Otra vez?"_s, u"GAME OVER"_s));
+        QCOMPARE(boxes.buttons.size(), 2);
+        QVERIFY(boxes.buttons.contains(u"Sí"_s) && boxes.buttons.contains(u"No"_s));
+        QCOMPARE(boxes.icons.first(), QMessageBox::NoIcon);
+    }
+
+    void questionIsNotAnsweredByEscapeOrTheCloseBox()
+    {
+        BoxAnswerer boxes(u"Sí"_s);
+        boxes.whileOpen = [](QDialog& box) {
+            QTest::keyClick(&box, Qt::Key_Escape);
+            box.close();
+            QVERIFY(box.isVisible());
+        };
+        QVERIFY(ui::MessageBox::ask(*screen, u"¿Otra vez?"_s));
+    }
+
+    void enterAnswersYes()
+    {
+        BoxAnswerer boxes(u"Sí"_s);
+        bool stillOpen = true;
+        boxes.whileOpen = [&](QDialog& box) {
+            QTest::keyClick(&box, Qt::Key_Return);
+            stillOpen = box.isVisible();
+        };
+        QVERIFY(ui::MessageBox::ask(*screen, u"¿Otra vez?"_s));
+        QVERIFY(!stillOpen);
+    }
+
+    void inputGivesWhatWasTyped()
+    {
+        BoxAnswerer boxes({{u"3 ñ"_s, u"Aceptar"_s}});
+        QCOMPARE(ui::InputBox::ask(*screen, u"valor mínimo posible: "_s, u"Insertar dato"_s),
+            u"3 ñ"_s);
+        QCOMPARE(boxes.texts, {u"valor mínimo posible: "_s});
+        QCOMPARE(boxes.titles, {u"Insertar dato"_s});
+        QVERIFY(boxes.buttons.contains(u"Aceptar"_s) && boxes.buttons.contains(u"Cancelar"_s));
+        QCOMPARE(boxes.buttons.size(), 2);
+    }
+
+    void cancelledInputIsEmpty()
+    {
+        BoxAnswerer boxes({{u"3"_s, u"Cancelar"_s}});
+        QCOMPARE(ui::InputBox::ask(*screen, u"valor"_s, u"título"_s), QString());
+    }
+
+    void promptShowsAnAmpersandAsWritten()
+    {
+        BoxAnswerer boxes({{u""_s, u"Aceptar"_s}});
+        boxes.whileOpen = [](QDialog& box) {
+            auto& label = ScreenBench::find<QLabel>(box, QString());
+            QCOMPARE(label.buddy(), nullptr);
+            QCOMPARE(label.text(), u"Utilice &1 para el primero"_s);
+        };
+        ui::InputBox::ask(*screen, u"Utilice &1 para el primero"_s, u"título"_s);
+    }
+
+    void noHandlerStartsBehindABox()
+    {
+        int clicks = 0;
+        int ticks = 0;
+        screen->whenClicked = [&] { ++clicks; };
+        screen->whenTicked = [&] { ++ticks; };
+        screen->clock->start();
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog&) {
+            screen->command->click();
+            QMetaObject::invokeMethod(screen->clock, "timeout", Qt::DirectConnection);
+            QCOMPARE(clicks, 0);
+            QCOMPARE(ticks, 0);
+        };
+        ui::MessageBox::show(*screen, u"a"_s);
+        screen->command->click();
+        QCOMPARE(clicks, 1);
+    }
+
+    void handlerEndsBehindABoxWhenItsScreenWentAway()
+    {
+        bool wentOn = false;
+        const QPointer<SampleScreen> alive(screen);
+        screen->whenClicked = [&] {
+            ui::MessageBox::show(*screen, u"a"_s);
+            wentOn = true;
+        };
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog& box) {
+            screen->unload();
+            QVERIFY(!box.isVisible());
+            QVERIFY(alive); // its handler is still running
+        };
+        QTest::qWait(1);
+        QTimer::singleShot(0, screen, [this] { screen->command->click(); });
+        QTRY_VERIFY(!alive);
+        QVERIFY(!wentOn);
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+
+private:
+    std::unique_ptr<ScreenBench> bench;
+    SampleScreen* screen = nullptr;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(BoxesTest)
+#include "boxes_test.moc"

@@ -1,0 +1,73 @@
+#include "ui/look.h"
+
+#include "ui/placement.h"
+
+#include <QtTest>
+
+namespace look = ui::look;
+
+class LookTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void contrastIsTheKnownRatio()
+    {
+        QCOMPARE(look::contrast(Qt::black, Qt::white), 21.0);
+        QCOMPARE(look::contrast(Qt::white, Qt::black), 21.0);
+        QCOMPARE(look::contrast(Qt::red, Qt::red), 1.0);
+    }
+
+    void captionsAreReadableOnEveryFill()
+    {
+        for (QRgb fill : {look::Red, look::Green, look::Yellow, look::Cyan}) {
+            const QPalette palette = look::filled(QColor(fill));
+            for (QPalette::ColorGroup group :
+                {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+                const double ratio = look::contrast(palette.color(group, QPalette::Button),
+                    palette.color(group, QPalette::ButtonText));
+                QVERIFY2(ratio >= 4.5, qPrintable(QString::number(ratio)));
+            }
+            QCOMPARE(palette.color(QPalette::Active, QPalette::Button), QColor(fill));
+        }
+    }
+
+    void textsAreReadable()
+    {
+        const QPalette palette = look::palette();
+        const auto ratio = [&](QPalette::ColorGroup group, QPalette::ColorRole text,
+                               QPalette::ColorRole ground) {
+            return look::contrast(palette.color(group, text), palette.color(group, ground));
+        };
+        for (QPalette::ColorGroup group :
+            {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            QVERIFY(ratio(group, QPalette::WindowText, QPalette::Window) >= 4.5);
+            QVERIFY(ratio(group, QPalette::Text, QPalette::Base) >= 4.5);
+            QVERIFY(ratio(group, QPalette::ButtonText, QPalette::Button) >= 4.5);
+            QVERIFY(ratio(group, QPalette::HighlightedText, QPalette::Highlight) >= 4.5);
+        }
+        QVERIFY(look::contrast(QColor(look::Ink), QColor(look::Shown)) >= 4.5);
+    }
+
+    void fontsFollowTheFactor()
+    {
+        QCOMPARE(look::scaled(look::Operation, 1).pixelSize(), 28);
+        QCOMPARE(look::scaled(look::Operation, 2).pixelSize(), 56);
+        QCOMPARE(look::scaled(look::Counters, 1.3).pixelSize(), 15); // 15.6, cut
+        QCOMPARE(look::scaled(look::Counters, 0.01).pixelSize(), 1);
+    }
+
+    void touchingPlacesTouchInPixels()
+    {
+        for (double factor : {0.8, 1.0, 1.25, 1.37, 2.0, 4.0}) {
+            const QRect upper = ui::toPixels({100, 100, 500, 500}, factor);
+            const QRect lower = ui::toPixels({100, 600, 500, 500}, factor);
+            QCOMPARE(upper.bottom() + 1, lower.top());
+            QCOMPARE(upper.left(), lower.left());
+        }
+        QCOMPARE(ui::toPixels({150, 300, 1500, 450}, 1), QRect(10, 20, 100, 30));
+        QCOMPARE(ui::toPixels({150, 300, 1500, 450}, 2), QRect(20, 40, 200, 60));
+    }
+};
+
+QTEST_GUILESS_MAIN(LookTest)
+#include "look_test.moc"

@@ -1,0 +1,162 @@
+#include "support/sample_screen.h"
+#include "support/screen_bench.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A screen that writes down when it is made and unloaded.
+class LoggingScreen final : public ui::Screen {
+public:
+    LoggingScreen(ui::Screens& screens, const QString& name, QStringList& log)
+        : Screen(screens, name, name, 3000, 3000)
+        , m_log(log)
+    {
+        m_log << u"made "_s + name;
+    }
+
+protected:
+    void Form_QueryUnload() override { m_log << u"unload "_s + objectName(); }
+
+private:
+    QStringList& m_log;
+};
+
+} // namespace
+
+class ScreensTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        bench = std::make_unique<ScreenBench>();
+        log.clear();
+        for (const QString& name : {u"A"_s, u"B"_s, u"Main"_s}) {
+            bench->screens.add(name, [this, name](ui::Screens& screens) -> ui::Screen* {
+                return new LoggingScreen(screens, name, log);
+            });
+        }
+    }
+    void cleanup() { bench.reset(); }
+
+    void screenIsMadeOnFirstUseAndOnce()
+    {
+        QCOMPARE(log, QStringList());
+        QCOMPARE(bench->screens.loaded(u"A"_s), nullptr);
+        bench->screens.show(u"A"_s);
+        ui::Screen* first = bench->screens.loaded(u"A"_s);
+        bench->screens.show(u"A"_s);
+        QCOMPARE(bench->screens.loaded(u"A"_s), first);
+        QCOMPARE(log, {u"made A"_s});
+    }
+
+    void unloadDropsItAndTheNextUseMakesItAfresh()
+    {
+        bench->screens.show(u"A"_s);
+        bench->screens.unload(u"A"_s);
+        bench->screens.unload(u"A"_s); // not loaded: nothing
+        bench->screens.show(u"A"_s);
+        QCOMPARE(log, (QStringList{u"made A"_s, u"unload A"_s, u"made A"_s}));
+    }
+
+    void modalScreenBlocksUntilItIsClosed()
+    {
+        bench->screens.show(u"A"_s);
+        ui::Screen& owner = *bench->screens.loaded(u"A"_s);
+        bool closed = false;
+        bench->screens.showModal(u"B"_s, owner, [&] { closed = true; });
+        ui::Screen& modal = *bench->screens.loaded(u"B"_s);
+        QVERIFY(modal.isModal());
+        QCOMPARE(modal.windowHandle()->transientParent(), owner.windowHandle());
+        QVERIFY(!closed);
+        modal.close();
+        QVERIFY(closed);
+    }
+
+    void hiddenDialogTellsItsOwnerAndStaysLoaded()
+    {
+        bench->screens.show(u"A"_s);
+        int closed = 0;
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"A"_s), [&] { ++closed; });
+        bench->screens.loaded(u"B"_s)->hide();
+        QCOMPARE(closed, 1);
+        QVERIFY(bench->screens.loaded(u"B"_s));
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"A"_s), [&] { closed += 10; });
+        bench->screens.loaded(u"B"_s)->hide();
+        QCOMPARE(closed, 11);
+    }
+
+    void ownerHearsOfTheCloseWhenTheHandlerThatClosedHasEnded()
+    {
+        bench->screens.show(u"A"_s);
+        QStringList order;
+        bench->screens.showModal(
+            u"B"_s, *bench->screens.loaded(u"A"_s), [&] { order << u"then"_s; });
+        ui::Screen& dialog = *bench->screens.loaded(u"B"_s);
+        dialog.guarded([&] {
+            dialog.hide();
+            order << u"behind hide"_s;
+        });
+        QCOMPARE(order, (QStringList{u"behind hide"_s, u"then"_s}));
+    }
+
+    void unloadedOwnerHearsNothing()
+    {
+        bench->screens.show(u"A"_s);
+        bool closed = false;
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"A"_s), [&] { closed = true; });
+        bench->screens.unload(u"A"_s);
+        bench->screens.unload(u"B"_s);
+        QVERIFY(!closed);
+    }
+
+    void failedLoadLeavesNothingBehind()
+    {
+        bench->screens.add(u"Sample"_s, [](ui::Screens& screens) -> ui::Screen* {
+            auto* screen = new SampleScreen(screens);
+            screen->whenLoading = [] { throw core::Error(u"No hay banco."_s); };
+            return screen;
+        });
+        QVERIFY_THROWS_EXCEPTION(core::Error, bench->screens.show(u"Sample"_s));
+        QCOMPARE(bench->screens.loaded(u"Sample"_s), nullptr);
+    }
+
+    void mainScreenTakesTheOthersWithIt()
+    {
+        bench->screens.setMainScreen(u"Main"_s);
+        for (const QString& name : {u"Main"_s, u"A"_s, u"B"_s})
+            bench->screens.show(name);
+        log.clear();
+        QTimer::singleShot(0, [&] { bench->screens.loaded(u"Main"_s)->close(); });
+        QCOMPARE(QApplication::exec(), 0); // and it ends
+        QCOMPARE(log, (QStringList{u"unload Main"_s, u"unload B"_s, u"unload A"_s}));
+    }
+
+    void initialFactorGoesByTheMenuOnTheDisplay_data()
+    {
+        QTest::addColumn<double>("freeHeight");
+        QTest::addColumn<double>("factor");
+        QTest::newRow("very low") << 540.0 << 0.85;
+        QTest::newRow("1024x600") << 600.0 << 0.95;
+        QTest::newRow("just room for 1") << 620.0 << 1.0;
+        QTest::newRow("1366x768") << 768.0 << 1.0;
+        QTest::newRow("1.25 does not fit in 85 %") << 852.0 << 1.0;
+        QTest::newRow("1.25 fits in 85 %") << 853.0 << 1.25;
+        QTest::newRow("1920x1080") << 1080.0 << 1.5;
+        QTest::newRow("3840x2160") << 2160.0 << 3.0;
+        QTest::newRow("hardly any room") << 100.0 << 0.5;
+    }
+    void initialFactorGoesByTheMenuOnTheDisplay()
+    {
+        QFETCH(double, freeHeight);
+        QTEST(ui::Screens::initialFactor(580, freeHeight), "factor");
+    }
+
+private:
+    std::unique_ptr<ScreenBench> bench;
+    QStringList log;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(ScreensTest)
+#include "screens_test.moc"

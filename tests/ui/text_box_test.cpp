@@ -1,0 +1,109 @@
+#include "support/sample_screen.h"
+#include "support/screen_bench.h"
+
+#include <QAccessible>
+
+using namespace Qt::StringLiterals;
+
+class TextBoxTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        bench = std::make_unique<ScreenBench>();
+        screen = &bench->open<SampleScreen>();
+    }
+    void cleanup() { bench.reset(); }
+
+    void selectionOutlivesTheLossOfFocus()
+    {
+        screen->entry->setFocus();
+        QTest::keyClicks(screen->entry, u"123"_s);
+        screen->entry->setSelection(0, 2);
+        screen->lines->setFocus();
+        QCOMPARE(screen->entry->selectedText(), u"12"_s);
+        QCOMPARE(screen->entry->cursorPosition(), 2);
+    }
+
+    void shownSelectionOutlivesAnotherWindow()
+    {
+        screen->shown->showSelected();
+        screen->entry->setFocus();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        screen->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(screen));
+        QTest::qWait(20);
+        QCOMPARE(screen->shown->selectedText(), u"12"_s);
+    }
+
+    void shownTextIsDeafToTheMouseAndTheTabKey()
+    {
+        screen->shown->showSelected();
+        QTest::mouseClick(screen->shown, Qt::LeftButton);
+        QTest::mouseDClick(screen->shown, Qt::LeftButton);
+        QCOMPARE(screen->shown->selectedText(), u"12"_s);
+        screen->entry->setFocus();
+        QTest::keyClick(screen->entry, Qt::Key_Tab);
+        QVERIFY(screen->lines->hasFocus());
+        QTest::keyClick(screen->lines, Qt::Key_Tab);
+        QVERIFY(screen->command->hasFocus());
+    }
+
+    void shownTextIsStillTextToAssistiveTools()
+    {
+        QAccessibleInterface* shown = QAccessible::queryAccessibleInterface(screen->shown);
+        QCOMPARE(shown->role(), QAccessible::EditableText);
+        QVERIFY(shown->state().readOnly);
+        QCOMPARE(shown->text(QAccessible::Name), u"Dato"_s);
+        QCOMPARE(shown->text(QAccessible::Value), u"12"_s);
+    }
+
+    void longShownTextShowsItsBeginning()
+    {
+        screen->shown->setText(QString(200, u'9'));
+        screen->shown->showSelected();
+        QCOMPARE(screen->shown->cursorPosition(), 0);
+        QCOMPARE(screen->shown->selectedText().size(), 200);
+    }
+
+    void verdictKeepsItsTextAndMark()
+    {
+        ui::VerdictBox verdict(screen);
+        verdict.setVerdict(u"resultado incorrecto "_s, ui::VerdictBox::Mark::Wrong);
+        QCOMPARE(verdict.text(), u"resultado incorrecto "_s);
+        QCOMPARE(verdict.mark(), ui::VerdictBox::Mark::Wrong);
+        verdict.setVerdict({}, ui::VerdictBox::Mark::None);
+        QCOMPARE(verdict.text(), QString());
+    }
+
+    void verdictDrawsItsMarkInItsColour()
+    {
+        ui::VerdictBox verdict(screen);
+        verdict.resize(200, 30);
+        const auto shows = [&](QRgb colour) {
+            const QImage image = verdict.grab().toImage();
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < 26; ++x)
+                    if (image.pixel(x, y) == colour)
+                        return true;
+            return false;
+        };
+        verdict.setVerdict(u"x"_s, ui::VerdictBox::Mark::Right);
+        QVERIFY(shows(ui::look::Right));
+        verdict.setVerdict(u"x"_s, ui::VerdictBox::Mark::Wrong);
+        QVERIFY(shows(ui::look::Wrong));
+        verdict.setVerdict(u"x"_s, ui::VerdictBox::Mark::None);
+        QVERIFY(!shows(ui::look::Right) && !shows(ui::look::Wrong));
+    }
+
+private:
+    std::unique_ptr<ScreenBench> bench;
+    SampleScreen* screen = nullptr;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(TextBoxTest)
+#include "text_box_test.moc"
