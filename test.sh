@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the program and its tests, optimised and with the
+# sanitizers, and runs every test in both.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+. scripts/setup.sh
+
+cmake_options=()
+if [ -n "${CI:-}" ]; then
+  cmake_options=(-DPIZARRIN_WERROR=ON)
+fi
+
+export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:strict_string_checks=1}
+export LSAN_OPTIONS=${LSAN_OPTIONS:-suppressions=$PWD/tests/leaks.txt:print_suppressions=0}
+export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
+
+need_packages "${build_packages[@]}"
+for preset in release asan; do
+  build_preset "$preset"
+  quietly "probar $preset" ctest --preset "$preset" -j "$(nproc)"
+  echo "Pruebas ($preset):"
+  grep -A 3 'tests passed' "build/probar-$preset.log"
+done
