@@ -16,6 +16,8 @@ public:
         const QWidget* widget) const override;
     int pixelMetric(
         PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QIcon standardIcon(
+        StandardPixmap pixmap, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
         const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

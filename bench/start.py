@@ -1,0 +1,97 @@
+#!/usr/bin/env python3
+"""Start and memory of the program against the floor program, in turn, on one display.
+
+Usage: bench/start.py [build folder] [rounds]
+
+Each round starts one of the two programs, waits until its window is painted (its middle is
+no longer the root window's black), and reads the time and, half a second later, the memory
+(PSS). Prints the medians and the ratios. Runs Xvfb by itself; needs xvfb, x11-apps (xwd).
+"""
+import os
+import pathlib
+import signal
+import statistics
+import subprocess
+import sys
+import time
+
+DISPLAY = ":87"
+WIDTH, HEIGHT = 1366, 768
+
+
+def painted(directory):
+    """True when the middle of the display is not black: read from Xvfb's own frame buffer."""
+    data = (directory / "Xvfb_screen0").read_bytes()
+    header = int.from_bytes(data[0:4], "big")
+    colours = int.from_bytes(data[76:80], "big")
+    line = int.from_bytes(data[48:52], "big")
+    start = header + colours * 12
+    for x, y in ((WIDTH // 2 - 150, HEIGHT // 2), (WIDTH // 2 + 150, HEIGHT // 2), (WIDTH // 2, HEIGHT // 2 + 40)):
+        at = start + y * line + x * 4
+        if any(data[at : at + 3]):
+            return True
+    return False
+
+
+def pss(pid):
+    with open(f"/proc/{pid}/smaps_rollup") as rollup:
+        for line in rollup:
+            if line.startswith("Pss:"):
+                return int(line.split()[1])
+    raise RuntimeError("no PSS")
+
+
+def measure(program, directory, environment):
+    begin = time.perf_counter()
+    process = subprocess.Popen([program], env=environment, stderr=subprocess.DEVNULL)
+    while not painted(directory):
+        if process.poll() is not None or time.perf_counter() - begin > 20:
+            sys.exit(f"{program} did not come up")
+        time.sleep(0.0005)
+    elapsed = time.perf_counter() - begin
+    time.sleep(0.5)
+    memory = pss(process.pid)
+    process.send_signal(signal.SIGKILL)
+    process.wait()
+    while painted(directory):
+        time.sleep(0.01)
+    return elapsed, memory
+
+
+def main():
+    build = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else "build/release")
+    rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
+    programs = {"floor": build / "bin/start_floor", "pizarrin": build / "bin/pizarrin"}
+    directory = pathlib.Path(f"/tmp/pizarrin-bench-{os.getpid()}")
+    directory.mkdir()
+    server = subprocess.Popen(
+        ["Xvfb", DISPLAY, "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", str(directory)],
+        stderr=subprocess.DEVNULL,
+    )
+    environment = dict(os.environ, DISPLAY=DISPLAY)
+    environment.pop("WAYLAND_DISPLAY", None)
+    environment.pop("QT_QPA_PLATFORM", None)
+    results = {name: [] for name in programs}
+    try:
+        time.sleep(1)
+        for name, program in programs.items():  # files into the cache
+            measure(program, directory, environment)
+        for _ in range(rounds):
+            for name, program in programs.items():
+                results[name].append(measure(program, directory, environment))
+    finally:
+        server.terminate()
+        server.wait()
+        subprocess.run(["rm", "-rf", str(directory)], check=False)
+    medians = {}
+    for name, values in results.items():
+        seconds = statistics.median(value[0] for value in values)
+        memory = statistics.median(value[1] for value in values)
+        medians[name] = (seconds, memory)
+        print(f"{name:9} start {seconds * 1000:7.1f} ms   memory {memory / 1024:6.2f} MiB (PSS)")
+    print(f"ratio     start {medians['pizarrin'][0] / medians['floor'][0]:7.3f}      "
+          f"memory {medians['pizarrin'][1] / medians['floor'][1]:6.3f}")
+
+
+if __name__ == "__main__":
+    main()
