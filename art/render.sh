@@ -1,5 +1,6 @@
 #!/bin/sh
-# Turns the car drawings in art/cars into the JPEG pictures in Recursos.
+# Turns the car drawings in art/cars into the JPEG pictures in Recursos, and the icon into the
+# PNG file that the program's windows carry.
 #
 # Needs rsvg-convert (Debian: librsvg2-bin) and ImageMagick (Debian: imagemagick):
 #   apt-get install librsvg2-bin imagemagick
@@ -39,3 +40,5 @@ render 07_skoda_octavia_amarillo.svg "07 _ Skoda octavia amarillo.jpg"
 render 08_alfa_romeo.svg "08 _ Alfa romeo.jpg"
 render 09_coche_blanco_tunning.svg "09 _ Blancotunning.jpg"
 render 10_formula_1.svg "10 _ Formula 1.jpg"
+
+rsvg-convert --width=64 --output="$here/pizarrin.png" "$here/pizarrin.svg" || die "cannot draw the icon"

@@ -5,6 +5,7 @@
 #include "ui/screens.h"
 
 #include <QApplication>
+#include <QIcon>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,8 @@ int main(int argc, char* argv[])
     ui::prepareApplication();
     QApplication application(argc, argv);
     ui::dress(application);
+    QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
+    QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));
 
     core::SeededRandom random;
     const core::SystemClock clock;
