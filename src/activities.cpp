@@ -1,6 +1,7 @@
 #include "activities.h"
 
 #include "tables/multiplication_tables_screen.h"
+#include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -49,4 +50,5 @@ void addScreens(ui::Screens& screens)
     });
     screens.setMainScreen(shell::Form1::screenName());
     screens.add<tables::Form2>();
+    screens.add<tables::Form4>();
 }
