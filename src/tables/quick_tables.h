@@ -57,6 +57,7 @@ public:
     explicit QuickTables(core::RandomSource& random);
 
     const State& state() const { return m_state; }
+    bool isRunning() const { return m_phase == Phase::Running; }
     bool ended() const { return m_phase == Phase::Ended; }
 
     /// Chooses what will end the drill.
