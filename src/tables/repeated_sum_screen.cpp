@@ -20,6 +20,7 @@ constexpr double Height = 7590;
 constexpr ui::look::Font MessageFont{Family::Arial, 14};
 constexpr ui::look::Font SumFont{Family::Arial, 20, true};
 constexpr ui::look::Font FactorFont{Family::Arial, 26, true};
+constexpr ui::look::Font VerdictFont{Family::Arial, 16, true};
 constexpr ui::look::Font CommandFont{Family::Arial, 12, true};
 constexpr ui::look::Font CounterFont{Family::CourierNew, 12};
 
@@ -71,6 +72,7 @@ void Form4::makeBoxes()
     }
 
     Text1 = verdictBox(u"Text1"_s, {900, 5000, 3000, 500}, u"Resultado"_s);
+    setControlFont(Text1, VerdictFont);
     tbResultados = displayBox(u"tbResultados"_s, {900, 7000, 3000, 500}, CounterFont,
         u"Contador"_s, m_model.counters().FormatoAlineado());
     tbResultados->setAlignment(Qt::AlignCenter);

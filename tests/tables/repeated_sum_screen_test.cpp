@@ -1,6 +1,7 @@
 #include "tables/repeated_sum_screen.h"
 
 #include "support/screen_bench.h"
+#include "support/text_fit.h"
 
 using namespace Qt::StringLiterals;
 using tables::Form4;
@@ -265,6 +266,16 @@ private slots:
         screen = &bench->open<Form4>();
         QCOMPARE(counters(), u"Ejercicios:  0; Errores:  0"_s);
         QVERIFY(bench->control<QPushButton>(u"Command2(0)"_s).isEnabled());
+    }
+
+    void nothingIsCutOff_data() { theSumFitsTheBoard_data(); }
+    void nothingIsCutOff()
+    {
+        QFETCH(double, factor);
+        screen->resize(qCeil(312 * factor), qCeil(506 * factor));
+        type(u"100"_s, u"100"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(textsCutOff(*screen), QStringList());
     }
 
     void theSumFitsTheBoard_data()
