@@ -101,6 +101,9 @@ void Form8::makeOptions()
             if (option->isChecked())
                 Option1_Click(i);
         });
+        // One stop of the tab order: the toolkit sees to it only once an option has had the
+        // focus.
+        option->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);
         Option1.at(static_cast<std::size_t>(i)) = option;
     }
     Label1 = add(new QLabel(Frame1), u"Label1"_s, ui::TwipRect{2520, 600, 2640, 480});

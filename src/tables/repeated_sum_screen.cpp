@@ -86,9 +86,7 @@ void Form4::makeButtons()
         .solution = {3200, 6000, 1200, 500}});
     for (QWidget* command : Command2)
         setControlFont(command, CommandFont);
-    setTabOrder(Command1, Command2[1]); // as they stand, from left to right
-    setTabOrder(Command2[1], Command2[0]);
-    setTabOrder(Command2[0], Command2[2]);
+    setTabOrder(Command2[1], Command2[0]); // as they stand, from left to right
 }
 
 void Form4::Form_Load()
@@ -105,8 +103,7 @@ void Form4::NuevaSuma()
     TbSuma->setPlainText(m_model.sumText());
     Text1->setVerdict({}, Mark::None);
     clearAnswer();
-    if (isVisible())
-        TbSuma->setFocus();
+    TbSuma->setFocus();
 }
 
 void Form4::clearAnswer()

@@ -92,6 +92,14 @@ private slots:
         QCOMPARE(bench->focusName(), u"Command1"_s);
     }
 
+    void theOptionsAreOneStopOfTheTabOrder()
+    {
+        bench->key(u"Command1"_s, Qt::Key_Backtab);
+        QCOMPARE(bench->focusName(), u"Option1(0)"_s);
+        bench->key(u"Option1(0)"_s, Qt::Key_Tab);
+        QCOMPARE(bench->focusName(), u"Command1"_s);
+    }
+
     void empezarStartsTheDrill()
     {
         append(7, 8);
@@ -370,6 +378,7 @@ private slots:
             u"Número de operaciones: 0. Número total de errores: 0.\r\n"_s));
         QVERIFY(
             boxes.texts.first().endsWith(u"número 10: 0 errores.\r\nErrores por tiempo: 0."_s));
+        verifyNothingWentOn();
         verifyUnloaded();
     }
 
@@ -384,6 +393,7 @@ private slots:
         QVERIFY(boxes.texts.first().startsWith(
             u"Número de operaciones: 0. Número total de errores: 1.\r\n"_s));
         QVERIFY(boxes.texts.first().endsWith(u"Errores por tiempo: 0."_s));
+        verifyNothingWentOn();
         verifyUnloaded();
     }
 
@@ -397,6 +407,7 @@ private slots:
         boxes.whileOpen = [this](QDialog&) { QCOMPARE(row(), u"6 x 9 = "_s); };
         tick(1);
         QVERIFY(boxes.texts.first().endsWith(u"Errores por tiempo: 1."_s));
+        verifyNothingWentOn();
         verifyUnloaded();
     }
 
@@ -426,6 +437,7 @@ private slots:
         QVERIFY(boxes.texts.first().startsWith(
             u"Número de operaciones: 0. Número total de errores: 1.\r\n"_s));
         QVERIFY(boxes.texts.first().endsWith(u"Errores por tiempo: 0."_s));
+        verifyNothingWentOn();
         verifyUnloaded();
     }
 
@@ -438,6 +450,7 @@ private slots:
         BoxAnswerer boxes(u"Aceptar"_s);
         tick(2);
         QCOMPARE(boxes.texts.size(), 1);
+        verifyNothingWentOn();
         verifyUnloaded();
     }
 
@@ -629,6 +642,13 @@ private:
         QCOMPARE(row(), u" x  = "_s);
         QVERIFY(option(0).isChecked());
         verifyRunning(false);
+    }
+    /// While the screen waits to be destroyed.
+    void verifyNothingWentOn() const
+    {
+        QVERIFY(screen->isUnloaded());
+        QVERIFY(!timer(1).isActive());
+        QVERIFY(!timer(2).isActive());
     }
     void verifyUnloaded() const
     {
