@@ -18,6 +18,9 @@ int main(int argc, char* argv[])
     gallery::Gallery gallery(
         arguments.value(1, u"gallery"_s), QString::fromUtf8(PIZARRIN_RESOURCES));
     gallery::addMenu(gallery);
+    gallery::addFillTheGap(gallery);
     gallery::addMultiplicationTables(gallery);
+    gallery::addQuickTables(gallery);
+    gallery::addRepeatedSum(gallery);
     return 0;
 }

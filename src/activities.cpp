@@ -1,6 +1,9 @@
 #include "activities.h"
 
+#include "tables/fill_the_gap_screen.h"
 #include "tables/multiplication_tables_screen.h"
+#include "tables/quick_tables_screen.h"
+#include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -49,4 +52,7 @@ void addScreens(ui::Screens& screens)
     });
     screens.setMainScreen(shell::Form1::screenName());
     screens.add<tables::Form2>();
+    screens.add<tables::Form4>();
+    screens.add<tables::Form8>();
+    screens.add<tables::FrmMultHuecos>();
 }

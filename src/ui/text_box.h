@@ -49,6 +49,9 @@ public:
     explicit VerdictBox(QWidget* parent);
 
     void setVerdict(const QString& text, Mark mark);
+
+    /// The side of the tick or cross, in pixels at factor 1.
+    void setMarkSize(double pixels);
     Mark mark() const { return m_mark; }
 
 protected:
@@ -56,6 +59,7 @@ protected:
 
 private:
     Mark m_mark = Mark::None;
+    double m_markSize = 18;
 };
 
 } // namespace ui
