@@ -73,7 +73,6 @@ void FrmMultHuecos::makeButtons()
         .next = {1650, 3270, 1380, 540},
         .clear = {180, 3270, 1380, 540},
         .solution = {3120, 3270, 1380, 540}});
-    setTabOrder(Command2[1], Command2[0]); // as they stand, from left to right
 }
 
 void FrmMultHuecos::Form_Load()

@@ -86,7 +86,6 @@ void Form4::makeButtons()
         .solution = {3200, 6000, 1200, 500}});
     for (QWidget* command : Command2)
         setControlFont(command, CommandFont);
-    setTabOrder(Command2[1], Command2[0]); // as they stand, from left to right
 }
 
 void Form4::Form_Load()
