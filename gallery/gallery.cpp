@@ -69,8 +69,9 @@ void Stage::photographBox(const std::function<void()>& opens, const QString& ans
     opens();
 }
 
-Gallery::Gallery(QString folder, const QString& resources)
+Gallery::Gallery(QString folder, const QString& resources, QStringList names)
     : m_folder(std::move(folder))
+    , m_names(std::move(names))
 {
     QDir().mkpath(m_folder);
     for (const QFileInfo& file : QDir(resources).entryInfoList(QDir::Files))
@@ -79,15 +80,20 @@ Gallery::Gallery(QString folder, const QString& resources)
 
 void Gallery::add(const QString& name, const QString& screen, const State& state)
 {
-    for (int factor : {1, 2}) {
-        Stage stage(screen, m_resources.path(), factor);
-        if (state)
-            state(stage);
-        QTest::qWait(20); // fonts and animations come to rest
-        const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
-        const QString suffix = factor == 1 ? QString() : u"@2"_s;
-        picture.save(u"%1/%2%3.png"_s.arg(m_folder, name, suffix));
-    }
+    if (m_names.isEmpty() || m_names.contains(name))
+        save(name, screen, state, 1);
+    if (m_names.isEmpty())
+        save(name + u"@2"_s, screen, state, 2);
+}
+
+void Gallery::save(const QString& file, const QString& screen, const State& state, double factor)
+{
+    Stage stage(screen, m_resources.path(), factor);
+    if (state)
+        state(stage);
+    QTest::qWait(20); // fonts and animations come to rest
+    const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
+    picture.save(u"%1/%2.png"_s.arg(m_folder, file));
 }
 
 } // namespace gallery

@@ -59,14 +59,18 @@ class Gallery {
 public:
     using State = std::function<void(Stage&)>;
 
-    /// resources: the folder "Recursos" of the source tree; a copy of it is used.
-    Gallery(QString folder, const QString& resources);
+    /// resources: the folder "Recursos" of the source tree; a copy of it is used. With names,
+    /// only those pictures are made, at factor 1.
+    Gallery(QString folder, const QString& resources, QStringList names);
 
     /// Saves name.png at factor 1 and name@2.png at factor 2.
     void add(const QString& name, const QString& screen, const State& state = {});
 
 private:
+    void save(const QString& file, const QString& screen, const State& state, double factor);
+
     QString m_folder;
+    QStringList m_names;
     QTemporaryDir m_resources;
 };
 

@@ -15,8 +15,8 @@ int main(int argc, char* argv[])
     ui::dress();
 
     const QStringList arguments = QApplication::arguments();
-    gallery::Gallery gallery(
-        arguments.value(1, u"gallery"_s), QString::fromUtf8(PIZARRIN_RESOURCES));
+    gallery::Gallery gallery(arguments.value(1, u"pictures"_s),
+        QString::fromUtf8(PIZARRIN_RESOURCES), arguments.mid(2));
     gallery::addMenu(gallery);
     gallery::addFillTheGap(gallery);
     gallery::addMultiplicationTables(gallery);

@@ -36,31 +36,31 @@ void answer(gallery::Stage& stage, bool right)
 void gallery::addQuickTables(Gallery& gallery)
 {
     const QString start = u"Command1"_s;
-    gallery.add(u"rápidas-inicio"_s, Form);
-    gallery.add(u"rápidas-tiempo"_s, Form, [](Stage& stage) { choose(stage, 1, u"5"_s); });
-    gallery.add(u"rápidas-límite"_s, Form, [start](Stage& stage) {
+    gallery.add(u"rapidas-inicio"_s, Form);
+    gallery.add(u"rapidas-tiempo"_s, Form, [](Stage& stage) { choose(stage, 1, u"5"_s); });
+    gallery.add(u"rapidas-limite"_s, Form, [start](Stage& stage) {
         choose(stage, 2, u"501"_s);
         stage.photographBox([&] { stage.click(start); }, u"Aceptar"_s);
     });
-    gallery.add(u"rápidas-empieza"_s, Form, [start](Stage& stage) { stage.click(start); });
-    gallery.add(u"rápidas-bien"_s, Form, [start](Stage& stage) {
+    gallery.add(u"rapidas-empieza"_s, Form, [start](Stage& stage) { stage.click(start); });
+    gallery.add(u"rapidas-bien"_s, Form, [start](Stage& stage) {
         stage.click(start);
         answer(stage, true);
         tick(stage, 2);
         stage.type(Answer, u"4"_s);
     });
-    gallery.add(u"rápidas-mal"_s, Form, [start](Stage& stage) {
+    gallery.add(u"rapidas-mal"_s, Form, [start](Stage& stage) {
         stage.click(start);
         answer(stage, false);
         tick(stage, 5);
     });
-    gallery.add(u"rápidas-apuro"_s, Form, [start](Stage& stage) {
+    gallery.add(u"rapidas-apuro"_s, Form, [start](Stage& stage) {
         stage.click(start);
         answer(stage, true);
         tick(stage, 9);
         stage.type(Answer, u"100"_s);
     });
-    gallery.add(u"rápidas-informe"_s, Form, [start](Stage& stage) {
+    gallery.add(u"rapidas-informe"_s, Form, [start](Stage& stage) {
         stage.click(start);
         for (int i = 0; i < 40; ++i)
             answer(stage, i % 3 != 0);

@@ -39,5 +39,5 @@ void gallery::addRepeatedSum(Gallery& gallery)
         stage.click(u"Command2(2)"_s);
         stage.click(u"Command1"_s);
     });
-    gallery.add(u"suma-solución"_s, Form, [](Stage& stage) { stage.click(u"Command2(2)"_s); });
+    gallery.add(u"suma-solucion"_s, Form, [](Stage& stage) { stage.click(u"Command2(2)"_s); });
 }
