@@ -106,7 +106,7 @@ RainStep NumberRain::click(int slot)
     }
     if (m_state.Puntos > 0) {
         showPoints();
-        m_step.focus = {RainFocus::Target::PbFoco};
+        m_step.focus = RainFocus::PbFoco;
         release(slot);
     } else {
         CompruebaPuntos(slot, true);
@@ -234,7 +234,7 @@ void NumberRain::wait()
 {
     m_running = false;
     m_waiting = true;
-    m_step.focus = {RainFocus::Target::CbEmpezar};
+    m_step.focus = RainFocus::CbEmpezar;
 }
 
 void NumberRain::release(int slot)

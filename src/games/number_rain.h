@@ -56,17 +56,14 @@ struct RainBox {
     QString text;
 };
 
-/// Who takes the keyboard focus.
-struct RainFocus {
-    enum class Target { CbEmpezar, PbFoco, CbNave };
-    Target target;
-    int slot = -1; ///< of CbNave
-};
+/// Who takes the keyboard focus: the start button, nobody in particular, a launched number.
+enum class RainFocus { CbEmpezar, PbFoco, CbNave };
 
 /// What a call asks of the screen besides showing the state: first the texts and the focus,
 /// then the beeps, then the box.
 struct RainStep {
     bool phasePrepared = false; ///< the instruction was written anew: select it whole
+    std::optional<int> launched; ///< the slot whose number is new
     std::optional<RainFocus> focus;
     int beeps = 0;
     std::optional<RainBox> box;

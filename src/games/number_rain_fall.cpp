@@ -96,7 +96,8 @@ void NumberRain::launch(int slot)
     ++m_state.Lanzados;
     m_state.Gotas[slot] = gota;
     m_state.Libre[slot] = false;
-    m_step.focus = {RainFocus::Target::CbNave, slot};
+    m_step.launched = slot;
+    m_step.focus = RainFocus::CbNave;
 }
 
 } // namespace games

@@ -29,9 +29,9 @@ int afterATick(const games::Gota& gota)
     return gota.Espera > 1 ? gota.Espera.value() - 1 : 5;
 }
 
-bool asksFocus(const RainStep& step, RainFocus::Target target)
+bool asksFocus(const RainStep& step, RainFocus target)
 {
-    return step.focus && step.focus->target == target;
+    return step.focus == target;
 }
 
 } // namespace
@@ -60,7 +60,7 @@ private slots:
         QCOMPARE(game.state().Puntos.value(), 100 + 10 * velocidad);
         QCOMPARE(game.state().Aciertos.value(), 1);
         QVERIFY(game.state().Libre[0]);
-        QVERIFY(asksFocus(step, RainFocus::Target::PbFoco));
+        QVERIFY(asksFocus(step, RainFocus::PbFoco));
         QVERIFY(!step.box);
         QCOMPARE(step.beeps, 0);
         QVERIFY(game.rain.running());
@@ -87,7 +87,7 @@ private slots:
         QTEST(game.rain.pointsText(), "points");
         QCOMPARE(game.state().Aciertos.value(), 0);
         QVERIFY(game.state().Libre[0]);
-        QVERIFY(asksFocus(step, RainFocus::Target::PbFoco));
+        QVERIFY(asksFocus(step, RainFocus::PbFoco));
         QCOMPARE(step.beeps, 0);
     }
 
@@ -204,7 +204,7 @@ private slots:
         const auto after = game.rain.answer();
         QVERIFY(!after.box);
         QVERIFY(!after.phasePrepared);
-        QVERIFY(asksFocus(after, RainFocus::Target::CbEmpezar));
+        QVERIFY(asksFocus(after, RainFocus::CbEmpezar));
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.rain.pointsText(), u"100"_s);
         QCOMPARE(game.taken(), 0);
@@ -297,7 +297,7 @@ private slots:
         QCOMPARE(game.gota(0).Valor.value(), 7);
         QCOMPARE(game.taken(), 4); // 0, 11, 12 and 14
         QCOMPARE(game.state().Lanzados.value(), 1);
-        QVERIFY(asksFocus(step, RainFocus::Target::CbNave)); // the last to ask for it
+        QVERIFY(asksFocus(step, RainFocus::CbNave)); // the last to ask for it
         QVERIFY(game.rain.waiting());
         QVERIFY(!game.rain.running());
         QCOMPARE(game.random.left(), std::size_t(0));
@@ -374,7 +374,7 @@ private slots:
         const auto step = game.rain.answer(true);
         QVERIFY(!step.box);
         QVERIFY(step.phasePrepared);
-        QVERIFY(asksFocus(step, RainFocus::Target::CbEmpezar));
+        QVERIFY(asksFocus(step, RainFocus::CbEmpezar));
         QCOMPARE(game.state().Fase.value(), 1);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase 1"_s);
         QCOMPARE(game.state().Puntos.value(), 100);
@@ -442,7 +442,7 @@ private slots:
 
         const auto after = game.rain.answer();
         QVERIFY(after.phasePrepared);
-        QVERIFY(asksFocus(after, RainFocus::Target::CbEmpezar));
+        QVERIFY(asksFocus(after, RainFocus::CbEmpezar));
         QCOMPARE(game.state().Fase.value(), 2);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase 2"_s);
         QCOMPARE(game.state().Puntos.value(), 100);

@@ -98,7 +98,7 @@ private slots:
 
         const auto step = game.rain.chooseDifficulty(Difficulty::Normal);
         QVERIFY(step.phasePrepared);
-        QVERIFY(step.focus && step.focus->target == RainFocus::Target::CbEmpezar);
+        QVERIFY(step.focus == RainFocus::CbEmpezar);
         QVERIFY(!step.box);
         QCOMPARE(game.state().Fase.value(), 1);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase 1"_s);
@@ -173,8 +173,8 @@ private slots:
         const auto step = game.tick();
         QCOMPARE(game.taken(), 1);
         QCOMPARE(game.state().Lanzados.value(), 1);
-        QVERIFY(step.focus && step.focus->target == RainFocus::Target::CbNave);
-        QCOMPARE(step.focus->slot, 0);
+        QVERIFY(step.focus == RainFocus::CbNave);
+        QCOMPARE(step.launched, std::optional(0));
         game.calmTicks(5);
         QCOMPARE(game.taken(), 1);
         game.launch(5, 1, 3);
