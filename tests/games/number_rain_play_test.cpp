@@ -1,7 +1,7 @@
-#include <QtTest> // first: moc cannot read <compare> before a Qt header
-
 #include "core/random.h"
 #include "games/number_rain.h"
+
+#include <QtTest>
 
 #include <random>
 

@@ -1,7 +1,7 @@
-#include <QtTest> // first: moc cannot read <compare> before a Qt header
-
 #include "core/errors.h"
 #include "games/rain_game.h"
+
+#include <QtTest>
 
 using games::Difficulty;
 using games::RainBox;

@@ -1,6 +1,6 @@
-#include <QtTest> // first: moc cannot read <compare> before a Qt header
-
 #include "games/rain_game.h"
+
+#include <QtTest>
 
 #include <cmath>
 
