@@ -40,11 +40,11 @@ QPainterPath outline(const QRectF& drop)
 void drawGleam(QPainter& painter, const QRectF& circle)
 {
     painter.save();
-    painter.translate(circle.center() + QPointF(-0.26, -0.33) * circle.width());
+    painter.translate(circle.center() + QPointF(-0.18, -0.32) * circle.width());
     painter.rotate(-38);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(255, 255, 255, 190));
-    const double length = circle.width() * 0.11;
+    const double length = circle.width() * 0.085;
     painter.drawEllipse(QPointF(0, 0), length, length * 0.5);
     painter.restore();
 }
