@@ -31,7 +31,7 @@ public:
     explicit RandomPlayer(unsigned seed)
         : m_engine(seed)
         , m_idleness(6 + seed % 5 * 15)
-        , m_rain(m_random, 9420)
+        , m_rain(m_random, 9270)
     {
         m_random.seed(seed);
         m_rain.chooseDifficulty(static_cast<Difficulty>(seed % 3));
@@ -115,7 +115,7 @@ public:
     static QString screenName() { return u"Downpour"_s; }
 
     explicit Downpour(ui::Screens& screens)
-        : Screen(screens, screenName(), screenName(), 11010, 9420)
+        : Screen(screens, screenName(), screenName(), 11010, 9270)
         , m_sky(new NightSky(this))
         , m_glide(new ui::Glide(
               [this](QWidget* control, double left, double top) { moveTo(control, left, top); },
@@ -125,7 +125,7 @@ public:
         for (int i = 0; i < RainState::Slots; ++i) {
             auto* drop = new RainDrop(canvas());
             add(drop, u"drop(%1)"_s.arg(i),
-                {500.0 * (1 + i), 780 + 500.0 * (7 * i % 18), RainDrop::Width, RainDrop::Height},
+                {500.0 * (1 + i), 780 + 500.0 * (7 * i % 17), RainDrop::Width, RainDrop::Height},
                 {ui::look::Family::CourierNew, RainDrop::digitPixels(u"120"_s), true});
             drop->setText(QString::number(101 + i));
             drop->setFill(QColor::fromHsv(18 * i, 255, 255));
@@ -149,7 +149,7 @@ private:
         for (RainDrop* drop : m_drops) {
             const ui::TwipRect from = placeOf(drop);
             const double top = from.top + 500;
-            if (top > 9420)
+            if (top > 9270)
                 m_glide->put(drop, {from.left, 780});
             else
                 m_glide->send(drop, {from.left, from.top}, {from.left, top});
