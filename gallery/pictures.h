@@ -10,5 +10,6 @@ void addFillTheGap(Gallery& gallery);
 void addMultiplicationTables(Gallery& gallery);
 void addQuickTables(Gallery& gallery);
 void addRepeatedSum(Gallery& gallery);
+void addNumberRain(Gallery& gallery);
 
 } // namespace gallery
