@@ -1,0 +1,114 @@
+#include "ui/squared_box.h"
+
+#include "ui/look.h"
+
+#include <QFocusEvent>
+#include <QPainter>
+#include <QStyleOptionFrame>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+namespace {
+
+constexpr double DigitShare = 0.8; // of the height of a square
+// QLineEdit's own, inside the margins that can be set; right-aligned text ends two pixels
+// before the inner one.
+constexpr int InnerMarginX = 2;
+constexpr int InnerMarginY = 1;
+constexpr int AlignedGap = 2;
+
+/// The largest size, in pixels, at which a digit fits its square.
+int fittingSize(QFont font, double width, double height)
+{
+    constexpr int Reference = 200;
+    font.setPixelSize(Reference);
+    const QFontMetricsF metrics(font);
+    const double byHeight = height * DigitShare / metrics.tightBoundingRect(u"0"_s).height();
+    const double byWidth = width / metrics.horizontalAdvance(u'0');
+    return std::max(1, static_cast<int>(Reference * std::min(byHeight, byWidth)));
+}
+
+} // namespace
+
+SquaredBox::SquaredBox(Kind kind, QWidget* parent)
+    : TextBox(kind, parent)
+{
+    setAlignment(Qt::AlignRight | Qt::AlignTop);
+    QPalette onPaper = palette();
+    onPaper.setColor(QPalette::Base, Qt::transparent);
+    setPalette(onPaper);
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
+}
+
+void SquaredBox::setSquare(double width, double height, double top)
+{
+    m_width = width;
+    m_height = height;
+    m_top = top;
+    setFactor(m_factor);
+}
+
+void SquaredBox::setFactor(double factor)
+{
+    m_factor = factor;
+    const double pixels = factor / TwipsPerPixel;
+    QFont type = font();
+    type.setPixelSize(fittingSize(type, m_width * pixels, m_height * pixels));
+    type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+    const double advance = QFontMetricsF(type).horizontalAdvance(u'0');
+    const double spacing = m_width * pixels - advance;
+    type.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    setFont(type);
+
+    QStyleOptionFrame panel;
+    initStyleOption(&panel);
+    const QRect inner = style()->subElementRect(QStyle::SE_LineEditContents, &panel, this);
+    const double digit = QFontMetricsF(type).tightBoundingRect(u"0"_s).height();
+    const double baseline = m_top * pixels + (m_height * pixels + digit) / 2;
+    // The spacing stands behind each digit: half of it goes in front of the first one.
+    const int left = qRound(spacing / 2) - InnerMarginX - inner.left();
+    const int top = qRound(baseline) - fontMetrics().ascent() - InnerMarginY - inner.top();
+    const int right =
+        inner.right() + 1 - InnerMarginX - AlignedGap - width() - qRound(spacing / 2);
+    setTextMargins(left, top, right, inner.bottom() + 1 - height());
+}
+
+void SquaredBox::write(const QString& text)
+{
+    setText(text);
+    setCursorPosition(0);
+}
+
+void SquaredBox::focusInEvent(QFocusEvent*)
+{
+    // For Tab and access keys QLineEdit would select the text: the next digit would wipe it.
+    QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
+    TextBox::focusInEvent(&plain);
+}
+
+void SquaredBox::paintEvent(QPaintEvent* event)
+{
+    TextBox::paintEvent(event);
+    if (!hasFocus() || isReadOnly())
+        return;
+    QPainter painter(this);
+    painter.fillRect(caret(), QColor(look::Focus));
+}
+
+QRect SquaredBox::caret() const
+{
+    const double square = m_width * m_factor / TwipsPerPixel;
+    const double fromRight = std::round((width() - cursorRect().center().x()) / square);
+    const int thickness = std::max(1, qRound(2 * m_factor));
+    const int at = qRound(width() - fromRight * square) - thickness / 2;
+    const double pixels = m_factor / TwipsPerPixel;
+    return QRect(std::clamp(at, 0, width() - thickness), qRound(m_top * pixels), thickness,
+        qRound(m_height * pixels));
+}
+
+} // namespace ui
