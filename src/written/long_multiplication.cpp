@@ -178,9 +178,10 @@ void LongMultiplication::count(bool right)
 {
     if (!m_Pendiente)
         return;
-    const core::Int16 exercises = m_Ejercicios + 1;
-    m_Errores += right ? 0 : 1;
-    m_Ejercicios = exercises;
+    if (right)
+        m_counters.countRight();
+    else
+        m_counters.countWrong();
     m_Pendiente = !right;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/int16.h"
+#include "shell/exercise.h"
 
 #include <QStringList>
 
@@ -76,8 +77,7 @@ public:
     TypedFactor typeFactor1(QStringView typed);
     TypedFactor typeFactor2(QStringView typed);
 
-    core::Int16 Ejercicios() const { return m_Ejercicios; }
-    core::Int16 Errores() const { return m_Errores; }
+    const shell::ExerciseCounters& counters() const { return m_counters; }
     bool Pendiente() const { return m_Pendiente; }
     /// The exercise counts from its first check on, as a new one does.
     void setPending() { m_Pendiente = true; }
@@ -113,8 +113,7 @@ private:
     bool m_CualquierCifra = true;
     QString m_CifrasElegidas;
     bool m_OcultarCeros = false;
-    core::Int16 m_Ejercicios = 0;
-    core::Int16 m_Errores = 0;
+    shell::ExerciseCounters m_counters;
     bool m_Pendiente = true;
 };
 

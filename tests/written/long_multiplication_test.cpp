@@ -63,8 +63,8 @@ private slots:
         QVERIFY(model.CualquierCifra());
         QCOMPARE(model.CifrasElegidas(), QString());
         QVERIFY(!model.OcultarCeros());
-        QCOMPARE(model.Ejercicios().value(), 0);
-        QCOMPARE(model.Errores().value(), 0);
+        QCOMPARE(model.counters().Ejercicios.value(), 0);
+        QCOMPARE(model.counters().Errores.value(), 0);
         QVERIFY(model.Pendiente());
     }
 
@@ -265,14 +265,14 @@ private slots:
         QVERIFY(!model.check(u"1", right).right);
         QVERIFY(!model.check(u"2", right).right);
         QVERIFY(model.Pendiente());
-        QCOMPARE(model.Ejercicios().value(), 2);
-        QCOMPARE(model.Errores().value(), 2);
+        QCOMPARE(model.counters().Ejercicios.value(), 2);
+        QCOMPARE(model.counters().Errores.value(), 2);
         QVERIFY(model.check(u"252970", right).right);
         QVERIFY(!model.Pendiente());
         QVERIFY(!model.check(u"3", right).right);
         QVERIFY(model.check(u"252970", right).right);
-        QCOMPARE(model.Ejercicios().value(), 3);
-        QCOMPARE(model.Errores().value(), 2);
+        QCOMPARE(model.counters().Ejercicios.value(), 3);
+        QCOMPARE(model.counters().Errores.value(), 2);
         QVERIFY(!model.Pendiente());
     }
 
@@ -288,12 +288,12 @@ private slots:
         QCOMPARE(model.typeFactor1(u"5"_s), TypedFactor::Accepted);
         QCOMPARE(model.typeFactor2(u"5"_s), TypedFactor::Accepted);
         model.check(u"1", {u"1"_s});
-        QCOMPARE(model.Ejercicios().value(), 1);
-        QCOMPARE(model.Errores().value(), 0);
+        QCOMPARE(model.counters().Ejercicios.value(), 1);
+        QCOMPARE(model.counters().Errores.value(), 0);
         model.setPending();
         model.check(u"1", {u"1"_s});
-        QCOMPARE(model.Ejercicios().value(), 2);
-        QCOMPARE(model.Errores().value(), 1);
+        QCOMPARE(model.counters().Ejercicios.value(), 2);
+        QCOMPARE(model.counters().Errores.value(), 1);
     }
 
     void namesTheWrongRows_data()
@@ -376,8 +376,8 @@ private slots:
             model.check(u"1", {});
         QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.check(u"1", {}));
         QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.check(u"36", {}));
-        QCOMPARE(model.Ejercicios().value(), core::Int16::Max);
-        QCOMPARE(model.Errores().value(), core::Int16::Max);
+        QCOMPARE(model.counters().Ejercicios.value(), core::Int16::Max);
+        QCOMPARE(model.counters().Errores.value(), core::Int16::Max);
         QVERIFY(model.Pendiente());
     }
 
