@@ -3,6 +3,7 @@
 #include "ui/look.h"
 
 #include <QFocusEvent>
+#include <QInputMethodEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
 
@@ -16,6 +17,7 @@ namespace ui {
 namespace {
 
 constexpr double DigitShare = 0.8; // of the height of a square
+constexpr double LargestType = 34; // pixels at factor 1
 // QLineEdit's own, inside the margins that can be set; right-aligned text ends two pixels
 // before the inner one.
 constexpr int InnerMarginX = 2;
@@ -43,6 +45,13 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
     onPaper.setColor(QPalette::Base, Qt::transparent);
     setPalette(onPaper);
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
+    hideOrdinaryCaret();
+}
+
+void SquaredBox::setBlankRun(int blanks)
+{
+    m_blankRun = blanks;
+    setFactor(m_factor);
 }
 
 void SquaredBox::setSquare(double width, double height, double top)
@@ -58,11 +67,13 @@ void SquaredBox::setFactor(double factor)
     m_factor = factor;
     const double pixels = factor / TwipsPerPixel;
     QFont type = font();
-    type.setPixelSize(fittingSize(type, m_width * pixels, m_height * pixels));
+    type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
+        std::max(1, static_cast<int>(LargestType * factor))));
     type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
     const double advance = QFontMetricsF(type).horizontalAdvance(u'0');
     const double spacing = m_width * pixels - advance;
     type.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    type.setWordSpacing((1 - m_blankRun) * m_width * pixels); // added once to a run
     setFont(type);
 
     QStyleOptionFrame panel;
@@ -89,6 +100,19 @@ void SquaredBox::focusInEvent(QFocusEvent*)
     // For Tab and access keys QLineEdit would select the text: the next digit would wipe it.
     QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
     TextBox::focusInEvent(&plain);
+}
+
+void SquaredBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    TextBox::inputMethodEvent(event);
+    if (event->preeditString().isEmpty())
+        hideOrdinaryCaret();
+}
+
+void SquaredBox::hideOrdinaryCaret()
+{
+    QInputMethodEvent hidden({}, {{QInputMethodEvent::Cursor, 0, 0, {}}});
+    TextBox::inputMethodEvent(&hidden);
 }
 
 void SquaredBox::paintEvent(QPaintEvent* event)

@@ -12,8 +12,11 @@ public:
     SquaredBox(Kind kind, QWidget* parent);
 
     /// The size of a square, and how far below the top of the box the written ones begin; in
-    /// twips. The type fills a square.
+    /// twips. The type fits a square and is never larger than that of an operation.
     void setSquare(double width, double height, double top);
+
+    /// Lets a run of so many blanks take up one square only.
+    void setBlankRun(int blanks);
 
     void setFactor(double factor) override;
 
@@ -22,15 +25,18 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void hideOrdinaryCaret();
     QRect caret() const;
 
     double m_factor = 1;
     double m_width = 250;
     double m_height = 250;
     double m_top = 250;
+    int m_blankRun = 1;
 };
 
 } // namespace ui

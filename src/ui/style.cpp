@@ -2,7 +2,6 @@
 
 #include "ui/look.h"
 #include "ui/screen.h"
-#include "ui/squared_box.h"
 
 #include <QLineEdit>
 #include <QPainter>
@@ -133,8 +132,6 @@ int Style::pixelMetric(
     PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const int plain = QProxyStyle::pixelMetric(metric, option, widget);
-    if (metric == PM_TextCursorWidth && dynamic_cast<const SquaredBox*>(widget) != nullptr)
-        return 0; // it draws its own, on the line between two squares
     switch (metric) {
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
