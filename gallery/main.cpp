@@ -22,5 +22,6 @@ int main(int argc, char* argv[])
     gallery::addMultiplicationTables(gallery);
     gallery::addQuickTables(gallery);
     gallery::addRepeatedSum(gallery);
+    gallery::addLongMultiplication(gallery);
     return 0;
 }

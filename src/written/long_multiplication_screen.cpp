@@ -246,7 +246,7 @@ void Form3::setRowCount(int rows)
     while (TbParcial.size() > 1 && static_cast<int>(TbParcial.size()) > rows) {
         SquaredBox* row = TbParcial.back();
         TbParcial.pop_back();
-        if (row->hasFocus())
+        if (focusWidget() == row)
             TbParcial[0]->setFocus();
         row->hide();
         row->setObjectName({}); // its name is free before it is gone

@@ -601,8 +601,9 @@ private slots:
         BoxAnswerer boxes({{u"7"_s, u"Aceptar"_s}});
         bench->pick(u"MnuOpcIn2"_s);
         QCOMPARE(rowTexts().size(), 1);
-        QCOMPARE(bench->focusName(), u"TbParcial(0)"_s);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        screen->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(screen));
         QCOMPARE(bench->focusName(), u"TbParcial(0)"_s);
     }
 
