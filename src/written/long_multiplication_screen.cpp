@@ -46,9 +46,13 @@ struct Squares {
     int columns;
     double height;
     double top;
+    int signPixels; // type of the signs beside the rows, at factor 1
+
+    double width() const { return RowWidth / columns; }
+    double middle() const { return top + height / 2; }
 };
-constexpr std::array SquareSizes{Squares{6, RowHeight, 0},
-    Squares{12, RowHeight / 2, RowHeight / 2}, Squares{20, RowHeight / 3, RowHeight / 3}};
+constexpr std::array SquareSizes{Squares{6, RowHeight, 0, 34},
+    Squares{12, RowHeight / 2, RowHeight / 2, 18}, Squares{20, RowHeight / 3, RowHeight / 3, 17}};
 
 constexpr int BlanksBehindSign = 5; // drawn as one: the sign stays near factor 2
 
@@ -282,12 +286,15 @@ void Form3::chooseSquares()
     while (size + 1 < SquareSizes.size() && SquareSizes[size].columns < needed)
         ++size;
     const Squares& squares = SquareSizes[size];
-    const double width = RowWidth / squares.columns;
-    m_paper->setSquare({RowLeft, RowsTop, width, squares.height});
+    m_paper->setSquare({RowLeft, RowsTop, squares.width(), squares.height});
     std::vector<SquaredBox*> boxes = answerBoxes();
     boxes.insert(boxes.end(), TbFactor.begin(), TbFactor.end());
     for (SquaredBox* box : boxes)
-        box->setSquare(width, squares.height, squares.top);
+        box->setSquare(squares.width(), squares.height, squares.top);
+    for (QLabel* sign : {LabX, labIgual}) { // centred, hence level with the digits
+        place(sign, {SignLeft, placeOf(sign).top, SignWidth, 2 * squares.middle()});
+        setControlFont(sign, {Family::CourierNew, squares.signPixels, true});
+    }
 }
 
 qsizetype Form3::columnsNeeded() const
