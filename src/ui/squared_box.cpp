@@ -42,7 +42,9 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);
     QPalette onPaper = palette();
+    m_highlight = onPaper.color(QPalette::Highlight);
     onPaper.setColor(QPalette::Base, Qt::transparent);
+    onPaper.setColor(QPalette::Highlight, Qt::transparent); // drawn by the box, in squares
     setPalette(onPaper);
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
     hideOrdinaryCaret();
@@ -56,6 +58,8 @@ void SquaredBox::setBlankRun(int blanks)
 
 void SquaredBox::setSquare(double width, double height, double top)
 {
+    if (m_width == width && m_height == height && m_top == top)
+        return;
     m_width = width;
     m_height = height;
     m_top = top;
@@ -117,22 +121,51 @@ void SquaredBox::hideOrdinaryCaret()
 
 void SquaredBox::paintEvent(QPaintEvent* event)
 {
+    if (hasSelectedText())
+        QPainter(this).fillRect(
+            strip(lineBefore(selectionStart()), lineBefore(selectionEnd())), m_highlight);
     TextBox::paintEvent(event);
-    if (!hasFocus() || isReadOnly())
-        return;
-    QPainter painter(this);
-    painter.fillRect(caret(), QColor(look::Focus));
+    if (hasFocus() && !isReadOnly())
+        QPainter(this).fillRect(caret(), QColor(look::Focus));
+}
+
+double SquaredBox::squarePixels() const
+{
+    return m_width * m_factor / TwipsPerPixel;
+}
+
+/// How many squares the text from an index on takes up.
+int SquaredBox::columnsFrom(int index) const
+{
+    const QString rest = text().sliced(index);
+    const auto runs = m_blankRun > 1 ? rest.count(QString(m_blankRun, u' ')) : 0;
+    return static_cast<int>(rest.size() - runs * (m_blankRun - 1));
+}
+
+/// Where the line in front of a character runs, in pixels from the left edge.
+double SquaredBox::lineBefore(int index) const
+{
+    if (columnsFrom(0) * squarePixels() <= width() + 1)
+        return width() - columnsFrom(index) * squarePixels();
+    // Too long for the box, the text may be scrolled; then only the caret tells by how much.
+    const double fromRight = std::round((width() - cursorRect().center().x()) / squarePixels());
+    return width() - fromRight * squarePixels()
+        + (columnsFrom(cursorPosition()) - columnsFrom(index)) * squarePixels();
+}
+
+QRect SquaredBox::strip(double left, double right) const
+{
+    const double pixels = m_factor / TwipsPerPixel;
+    return QRect(QPoint(qRound(left), qRound(m_top * pixels)),
+        QPoint(qRound(right) - 1, qRound((m_top + m_height) * pixels) - 1));
 }
 
 QRect SquaredBox::caret() const
 {
-    const double square = m_width * m_factor / TwipsPerPixel;
-    const double fromRight = std::round((width() - cursorRect().center().x()) / square);
     const int thickness = std::max(1, qRound(2 * m_factor));
-    const int at = qRound(width() - fromRight * square) - thickness / 2;
-    const double pixels = m_factor / TwipsPerPixel;
-    return QRect(std::clamp(at, 0, width() - thickness), qRound(m_top * pixels), thickness,
-        qRound(m_height * pixels));
+    const int at = qRound(lineBefore(cursorPosition())) - thickness / 2;
+    const int left = std::clamp(at, 0, width() - thickness);
+    return strip(left, left + thickness);
 }
 
 } // namespace ui

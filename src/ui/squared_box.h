@@ -5,8 +5,9 @@
 namespace ui {
 
 /// A text box on squared paper: right-aligned, one character to a square, the last one in
-/// the square at its right edge. Draws its caret on the line between two squares. The caret
-/// stays where it was when the box gets the focus, so that the next digit goes there.
+/// the square at its right edge; its caret stands on the line between two squares, and a
+/// selection covers whole squares. The caret stays where it was when the box gets the focus,
+/// so that the next digit goes there.
 class SquaredBox : public TextBox {
 public:
     SquaredBox(Kind kind, QWidget* parent);
@@ -30,8 +31,13 @@ protected:
 
 private:
     void hideOrdinaryCaret();
+    double squarePixels() const;
+    int columnsFrom(int index) const;
+    double lineBefore(int index) const;
+    QRect strip(double left, double right) const;
     QRect caret() const;
 
+    QColor m_highlight;
     double m_factor = 1;
     double m_width = 250;
     double m_height = 250;

@@ -113,6 +113,36 @@ private slots:
         QVERIFY(first > box->width() - 2 - 2 * factor);
     }
 
+    void aSelectionCoversWholeSquares()
+    {
+        for (const double f : {1.0, 1.5, 2.61}) {
+            makeBox(f);
+            box->setText(u"12345"_s);
+            box->setSelection(1, 2);
+            const QImage image = box->grab().toImage().copy(
+                0, box->height() - 2, box->width(), 1); // below the digits
+            const auto [first, last] = inkedColumns(image, ui::look::Focus);
+            QVERIFY(std::abs(first - (box->width() - 4 * square())) <= 1 + f);
+            QVERIFY(std::abs(last + 1 - (box->width() - 2 * square())) <= 1 + f);
+        }
+    }
+
+    void aRunOfBlanksMayTakeUpOneSquare()
+    {
+        makeBox(2);
+        box->setReadOnly(true);
+        box->setBlankRun(5);
+        box->setText(u"x     56"_s);
+        QImage image = box->grab().toImage();
+        auto [first, last] = inkedColumns(image, ui::look::Ink);
+        QVERIFY(first >= box->width() - 4 * square() && first < box->width() - 3 * square());
+        box->selectAll();
+        image = box->grab().toImage().copy(0, box->height() - 2, box->width(), 1);
+        std::tie(first, last) = inkedColumns(image, ui::look::Focus);
+        QCOMPARE(first, qRound(box->width() - 4 * square()));
+        QCOMPARE(last, box->width() - 1);
+    }
+
     void aLongerTextStillMeetsTheSquares()
     {
         makeBox(1.5);
