@@ -276,7 +276,9 @@ void Form3::placeRows()
         empty(*box);
     const double bottom = sheetBottom(std::max(rows, FewestRows));
     place(m_paper, {PaperLeft, PaperTop, PaperWidth, bottom - PaperTop});
-    setDesignSize(Width, sheetBottom(std::clamp(rows, FewestRows, MostRows)) + Margin);
+    const double height = sheetBottom(std::clamp(rows, FewestRows, MostRows)) + Margin;
+    if (height != designHeight()) // a window that a person has sized stays as it is
+        setDesignSize(Width, height);
 }
 
 void Form3::chooseSquares()

@@ -26,8 +26,13 @@ private slots:
         appendFactor(1234, 4);
         appendFactor(56, 2);
         screen = &bench->open<Form3>();
+        expectBoxes({}); // one that comes up unasked fails the test
     }
-    void cleanup() { bench.reset(); }
+    void cleanup()
+    {
+        boxes.reset();
+        bench.reset();
+    }
 
     void comesUpWithTheFirstExercise()
     {
@@ -396,6 +401,16 @@ private slots:
         QCOMPARE(rowTexts().size(), digits);
     }
 
+    void aWindowSizedByHandKeepsItsSize()
+    {
+        screen->resize(900, 620);
+        const QSize size = screen->size();
+        nextExercise(1234, 567, 3);
+        QCOMPARE(screen->size(), size);
+        nextExercise(1234, 5678, 4); // one row more than the window was made for
+        QVERIFY(screen->size() != size);
+    }
+
     void theTabOrderRunsDownTheBoardAndOverTheButtons()
     {
         const QStringList order{u"TbParcial(1)"_s, u"TBResultado"_s, u"Command1"_s, u"Text1"_s,
@@ -468,22 +483,22 @@ private slots:
     {
         type(u"7"_s);
         {
-            BoxAnswerer boxes({{u"205"_s, u"Aceptar"_s}});
+            expectBoxes({{u"205"_s, u"Aceptar"_s}});
             bench->pick(u"MnuOpcIn2"_s);
-            QCOMPARE(boxes.texts,
+            QCOMPARE(boxes->texts,
                 QStringList{u"Introduzca el segundo factor de la multiplicación:"_s});
-            QCOMPARE(boxes.titles, QStringList{u"Multiplicaciones"_s});
+            QCOMPARE(boxes->titles, QStringList{u"Multiplicaciones"_s});
         }
         QCOMPARE(bench->text(u"TbFactor(0)"_s), u"1234"_s);
         QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     205"_s);
         QCOMPARE(rowTexts(), (QStringList{QString(), QString(), QString()}));
         bench->click(u"Command1"_s);
         {
-            BoxAnswerer boxes({{u"12,9"_s, u"Aceptar"_s}});
+            expectBoxes({{u"12,9"_s, u"Aceptar"_s}});
             bench->pick(u"MnuOpcIn1"_s);
-            QCOMPARE(
-                boxes.texts, QStringList{u"Introduzca el primer factor de la multiplicación:"_s});
-            QCOMPARE(boxes.titles, QStringList{u"Multiplicaciones"_s});
+            QCOMPARE(boxes->texts,
+                QStringList{u"Introduzca el primer factor de la multiplicación:"_s});
+            QCOMPARE(boxes->titles, QStringList{u"Multiplicaciones"_s});
         }
         QCOMPARE(bench->text(u"TbFactor(0)"_s), u"12"_s);
         QCOMPARE(bench->text(u"TbFactor(1)"_s), u"205"_s); // without its sign from now on
@@ -496,7 +511,7 @@ private slots:
         QCOMPARE(bench->text(u"TBResultado"_s), u"2460"_s);
         QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  1; Errores:  1"_s);
         {
-            BoxAnswerer boxes({{u"-3"_s, u"Aceptar"_s}});
+            expectBoxes({{u"-3"_s, u"Aceptar"_s}});
             bench->pick(u"MnuOpcIn2"_s);
         }
         QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     -3"_s);
@@ -530,12 +545,12 @@ private slots:
         type(u"7"_s);
         std::initializer_list<BoxAnswerer::Answer> one{{typed, button}};
         std::initializer_list<BoxAnswerer::Answer> two{{typed, button}, {u"Aceptar"_s}};
-        BoxAnswerer boxes(tooLarge ? two : one);
+        expectBoxes(tooLarge ? two : one);
         bench->pick(item);
         if (tooLarge) {
-            QCOMPARE(boxes.texts.value(1), u"El valor introducido es demasiado grande."_s);
-            QCOMPARE(boxes.titles.value(1), u"Multiplicaciones"_s);
-            QCOMPARE(boxes.icons.value(1), QMessageBox::NoIcon);
+            QCOMPARE(boxes->texts.value(1), u"El valor introducido es demasiado grande."_s);
+            QCOMPARE(boxes->titles.value(1), u"Multiplicaciones"_s);
+            QCOMPARE(boxes->icons.value(1), QMessageBox::NoIcon);
         }
         QCOMPARE(bench->text(u"TbFactor(0)"_s), u"1234"_s);
         QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     56"_s);
@@ -568,10 +583,10 @@ private slots:
         appendFactor(1234, 4);
         appendFactor(56, 2);
         bench->pick(u"MnuOpcOcu"_s);
-        BoxAnswerer boxes({{u"0"_s, u"Aceptar"_s}, {u"Aceptar"_s}});
+        expectBoxes({{u"0"_s, u"Aceptar"_s}, {u"Aceptar"_s}});
         bench->pick(u"MnuOpcIn2"_s);
-        QCOMPARE(boxes.texts.value(1), u"desajuste"_s);
-        QCOMPARE(boxes.titles.value(1), u"Pizarrin"_s);
+        QCOMPARE(boxes->texts.value(1), u"desajuste"_s);
+        QCOMPARE(boxes->titles.value(1), u"Pizarrin"_s);
         QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     0"_s);
         QCOMPARE(rowTexts(), QStringList{QString()});
         focusOn(u"TbParcial(0)"_s);
@@ -586,7 +601,7 @@ private slots:
 
     void manyTypedDigitsMakeManyRows()
     {
-        BoxAnswerer boxes({{QString(60, u'3'), u"Aceptar"_s}});
+        expectBoxes({{QString(60, u'3'), u"Aceptar"_s}});
         bench->pick(u"MnuOpcIn2"_s);
         QCOMPARE(rowTexts().size(), 60);
         bench->click(u"Command2(2)"_s);
@@ -598,7 +613,7 @@ private slots:
     void theFocusLeavesARowThatGoes()
     {
         focusOn(u"TbParcial(1)"_s);
-        BoxAnswerer boxes({{u"7"_s, u"Aceptar"_s}});
+        expectBoxes({{u"7"_s, u"Aceptar"_s}});
         bench->pick(u"MnuOpcIn2"_s);
         QCOMPARE(rowTexts().size(), 1);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -690,8 +705,12 @@ private slots:
         QCOMPARE(row.text(), u"７"_s);
         QMimeData dragged;
         dragged.setText(QString(2000, u'8'));
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QApplication::sendEvent(&row, &enter);
+        QVERIFY(enter.isAccepted());
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
         QApplication::sendEvent(&row, &drop);
+        QVERIFY(row.text().size() > 2000);
         row.grab();
         key(Qt::Key_Return);
         QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto"_s);
@@ -730,6 +749,11 @@ private slots:
     }
 
 private:
+    void expectBoxes(std::initializer_list<BoxAnswerer::Answer> answers)
+    {
+        boxes = std::make_unique<BoxAnswerer>(answers);
+    }
+
     /// Appends the draw that gives a factor of so many digits.
     void appendFactor(int value, int digits)
     {
@@ -829,6 +853,7 @@ private:
     }
 
     std::unique_ptr<ScreenBench> bench;
+    std::unique_ptr<BoxAnswerer> boxes;
     Form3* screen = nullptr;
 };
 
