@@ -55,7 +55,7 @@ private:
     double square() const { return Place.width / Columns * factor / ui::TwipsPerPixel; }
 
 private slots:
-    void initTestCase() { ui::dress(*qApp); }
+    void initTestCase() { ui::dress(); }
 
     void everyDigitStandsInTheMiddleOfItsSquare_data()
     {
