@@ -6,6 +6,8 @@
 #include "tables/quick_tables_screen.h"
 #include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
+#include "written/digit_dialog.h"
+#include "written/long_multiplication_screen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -57,4 +59,6 @@ void addScreens(ui::Screens& screens)
     screens.add<tables::Form8>();
     screens.add<tables::FrmMultHuecos>();
     screens.add<games::Form5>();
+    screens.add<written::Dialog>();
+    screens.add<written::Form3>();
 }
