@@ -6,6 +6,7 @@
 #include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
 #include "written/digit_dialog.h"
+#include "written/long_division_screen.h"
 #include "written/long_multiplication_screen.h"
 
 using namespace Qt::StringLiterals;
@@ -59,4 +60,5 @@ void addScreens(ui::Screens& screens)
     screens.add<tables::FrmMultHuecos>();
     screens.add<written::Dialog>();
     screens.add<written::Form3>();
+    screens.add<written::Form6>();
 }

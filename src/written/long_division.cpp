@@ -178,9 +178,10 @@ void LongDivision::count(DivisionVerdict verdict)
 {
     if (!m_Pendiente)
         return;
-    const core::Int16 errors = verdict == DivisionVerdict::Wrong ? m_Errores + 1 : m_Errores;
-    ++m_Ejercicios;
-    m_Errores = errors;
+    if (verdict == DivisionVerdict::Right)
+        m_counters.countRight();
+    else
+        m_counters.countWrong();
     m_Pendiente = verdict == DivisionVerdict::Wrong;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/int16.h"
+#include "shell/exercise.h"
 #include "written/long_division_solution.h"
 
 #include <QString>
@@ -37,8 +37,7 @@ public:
     qint32 Dividendo() const { return m_operands.Dividendo; }
     qint32 Divisor() const { return m_operands.Divisor; }
     core::Int16 AnchoLinea() const { return m_AnchoLinea; }
-    core::Int16 Ejercicios() const { return m_Ejercicios; }
-    core::Int16 Errores() const { return m_Errores; }
+    const shell::ExerciseCounters& counters() const { return m_counters; }
     bool Pendiente() const { return m_Pendiente; }
 
     /// "84 ÷ 7".
@@ -90,8 +89,7 @@ private:
     DivisionSettings m_settings;
     Operands m_operands;
     core::Int16 m_AnchoLinea = 6;
-    core::Int16 m_Ejercicios;
-    core::Int16 m_Errores;
+    shell::ExerciseCounters m_counters;
     bool m_Pendiente = true;
 };
 

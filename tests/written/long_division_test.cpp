@@ -87,7 +87,8 @@ struct Counts {
 
 Counts counts(const LongDivision& division)
 {
-    return {division.Ejercicios().value(), division.Errores().value(), division.Pendiente()};
+    return {division.counters().Ejercicios.value(), division.counters().Errores.value(),
+        division.Pendiente()};
 }
 
 } // namespace
