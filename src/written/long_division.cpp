@@ -4,7 +4,6 @@
 #include "core/numbers.h"
 #include "core/random.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -46,10 +45,15 @@ qint32 readWholePart(const QString& typed)
     return static_cast<qint32>(whole);
 }
 
+/// A line of squared paper has no room for more.
 core::Int16 typedLength(const QString& typed)
 {
+    constexpr qsizetype Longest = 60;
     const qsizetype length = typed.trimmed().size();
-    return {static_cast<int>(std::min<qsizetype>(length, std::numeric_limits<int>::max()))};
+    if (length > Longest)
+        throw core::OverflowError(
+            u"El número tiene %1 caracteres: escribe como mucho %2."_s.arg(length).arg(Longest));
+    return {static_cast<int>(length)};
 }
 
 core::Int16 lineWidth(const DivisionSettings& settings)
@@ -128,23 +132,22 @@ bool LongDivision::typeDividend(const QString& typed)
 {
     if (typed.trimmed().isEmpty())
         return false;
+    const qint32 dividend = readWholePart(typed);
     DivisionSettings settings = m_settings;
     settings.CifrasDividendo = typedLength(typed);
-    const core::Int16 width = lineWidth(settings);
-    m_operands.Dividendo = readWholePart(typed);
-    m_AnchoLinea = width;
+    m_AnchoLinea = lineWidth(settings);
+    m_operands.Dividendo = dividend;
     m_settings = settings;
     return true;
 }
 
 bool LongDivision::typeDivisor(const QString& typed)
 {
-    const core::Int16 digits = typedLength(typed);
     const qint32 divisor = readWholePart(typed); // 0,5 would divide by 0 too
     if (divisor == 0)
         return false;
+    m_settings.CifrasDivisor = typedLength(typed);
     m_operands.Divisor = divisor;
-    m_settings.CifrasDivisor = digits;
     return true;
 }
 

@@ -64,7 +64,7 @@ public:
 
     /// Takes the whole part of a typed number as the operand and the length of the typed
     /// text as its count of digits. Says whether it was taken: an empty answer, and for the
-    /// divisor a zero, is not. Throws OverflowError beyond 32 bits.
+    /// divisor a zero, is not. Throws OverflowError beyond 32 bits or 60 characters.
     bool typeDividend(const QString& typed);
     bool typeDivisor(const QString& typed);
 
