@@ -23,5 +23,6 @@ int main(int argc, char* argv[])
     gallery::addQuickTables(gallery);
     gallery::addRepeatedSum(gallery);
     gallery::addLongMultiplication(gallery);
+    gallery::addLongDivision(gallery);
     return 0;
 }
