@@ -9,6 +9,7 @@
 #include <QAction>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 using ui::look::Family;
@@ -39,7 +40,8 @@ constexpr double WorkHeight = (SheetRows - 2) * Row;
 constexpr int WorkColumns = 22; // what fits left of the bracket
 constexpr double Bracket = Margin + WorkColumns * Square;
 constexpr double DivisorGap = 5;
-constexpr double AnswerWidth = 17 * Square;
+constexpr double QuotientGap = Square / 2;
+constexpr double FiguresRight = 18 * Square; // of the bracket
 constexpr double LineWidth = 30;
 
 constexpr ui::look::Font Figures{Family::CourierNew, 18};
@@ -123,32 +125,33 @@ void Form6::makeOperation()
     onGotFocus(Text1, [this] { Text1_GotFocus(); });
 
     Text2 = squaredBox(u"Text2"_s, ui::TextBox::Kind::Display, u"Divisor"_s,
-        {Bracket + DivisorGap, WorkTop - Row / 2, AnswerWidth, 1.5 * Row}, Row / 2);
+        {Bracket + DivisorGap, WorkTop - Row / 2, FiguresRight - DivisorGap, 1.5 * Row});
     Text2->setFocusPolicy(Qt::StrongFocus);
     onGotFocus(Text2, [this] { Text2_GotFocus(); });
 
     constexpr double Padding = 0.625 * Row;
     Text3 = squaredBox(u"Text3"_s, ui::TextBox::Kind::Entry, u"Cociente"_s,
-        {Bracket + DivisorGap, WorkTop + 2 * Row - Padding, AnswerWidth, Row + 2 * Padding},
-        Padding);
+        {Bracket + QuotientGap, WorkTop + 2 * Row - Padding, FiguresRight - QuotientGap,
+            Row + 2 * Padding});
     enterChecks(Text3);
     onGotFocus(Text3, [this] { Text3_GotFocus(); });
 
     Line1 = add(inkLine(canvas()), u"Line1"_s,
         {Bracket - LineWidth / 2, SheetTop + Row / 2, LineWidth, 1.5 * Row});
     Line2 = add(inkLine(canvas()), u"Line2"_s,
-        {Bracket - LineWidth / 2, WorkTop + Row, AnswerWidth, LineWidth});
+        {Bracket - LineWidth / 2, WorkTop + Row, FiguresRight, LineWidth});
 }
 
-/// A box whose figures stand on the squares of the sheet, from its left edge on; padding is
-/// what lies above them.
+/// A box whose figures stand on the squares of the sheet from one square right of the
+/// bracket on, in the row that begins nearest below its top.
 ui::SquaredBox* Form6::squaredBox(const QString& name, ui::TextBox::Kind kind,
-    const QString& accessibleName, const ui::TwipRect& place, double padding)
+    const QString& accessibleName, const ui::TwipRect& place)
 {
     auto* box = add(new ui::SquaredBox(kind, canvas()), name, place, Figures);
     box->setAccessibleName(accessibleName);
-    box->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    box->setSquare(Square, Row, padding);
+    const double rows = std::ceil((place.top - WorkTop) / Row);
+    box->setSquare(Square, Row, WorkTop + rows * Row - place.top);
+    box->setLeftAligned(Bracket + Square - place.left);
     return box;
 }
 
@@ -199,13 +202,13 @@ void Form6::showOperation()
 void Form6::placeOperation()
 {
     const double width = m_model.AnchoLinea().value() * Square;
-    const double extra = std::max(0.0, width - WorkColumns * Square);
+    const double extra = std::max(0.0, width - (WorkColumns - 1) * Square); // a margin of one
     const double bracket = Bracket + extra;
     const auto shift = [this](QWidget* control, double left) {
         moveTo(control, left, placeOf(control).top);
     };
     shift(Text2, bracket + DivisorGap);
-    shift(Text3, bracket + DivisorGap);
+    shift(Text3, bracket + QuotientGap);
     shift(Line1, bracket - LineWidth / 2);
     shift(Line2, bracket - LineWidth / 2);
     place(m_sheet, {Margin, SheetTop, SheetWidth + extra, SheetHeight});

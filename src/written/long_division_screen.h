@@ -30,7 +30,7 @@ private:
     void makeOperation();
     void makeBoxes();
     ui::SquaredBox* squaredBox(const QString& name, ui::TextBox::Kind kind,
-        const QString& accessibleName, const ui::TwipRect& place, double padding);
+        const QString& accessibleName, const ui::TwipRect& place);
 
     ui::KeyResult Text1_KeyDown(int KeyCode);
     ui::KeyResult Text1_KeyPress(QChar KeyAscii);
