@@ -24,8 +24,9 @@ constexpr int InnerMarginX = 2;
 constexpr int InnerMarginY = 1;
 constexpr int AlignedGap = 2;
 
-/// The largest size, in pixels, at which a digit fits its square.
-int fittingSize(QFont font, double width, double height)
+} // namespace
+
+int SquaredBox::fittingSize(QFont font, double width, double height)
 {
     constexpr int Reference = 200;
     font.setPixelSize(Reference);
@@ -34,8 +35,6 @@ int fittingSize(QFont font, double width, double height)
     const double byWidth = width / metrics.horizontalAdvance(u'0');
     return std::max(1, static_cast<int>(Reference * std::min(byHeight, byWidth)));
 }
-
-} // namespace
 
 SquaredBox::SquaredBox(Kind kind, QWidget* parent)
     : TextBox(kind, parent)

@@ -12,6 +12,9 @@ class SquaredBox : public TextBox {
 public:
     SquaredBox(Kind kind, QWidget* parent);
 
+    /// The pixel size of a type whose digits fit a square of this size, in pixels.
+    static int fittingSize(QFont font, double width, double height);
+
     /// The size of a square, and how far below the top of the box the written ones begin; in
     /// twips. The type fits a square and is never larger than that of an operation.
     void setSquare(double width, double height, double top);
