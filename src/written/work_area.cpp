@@ -1,6 +1,7 @@
 #include "written/work_area.h"
 
 #include "ui/look.h"
+#include "ui/squared_box.h"
 #include "written/work_area_accessible.h"
 
 #include <QApplication>
@@ -122,6 +123,11 @@ void WorkArea::setFirstCell(const ui::TwipRect& cell)
 void WorkArea::setFactor(double factor)
 {
     m_factor = factor;
+    const double pixels = m_factor / ui::TwipsPerPixel;
+    QFont type = font();
+    type.setPixelSize(ui::SquaredBox::fittingSize(
+        type, m_firstCell.width * pixels, m_firstCell.height * pixels));
+    setFont(type);
     update();
 }
 
@@ -231,11 +237,12 @@ void WorkArea::paintCell(QPainter& painter, int position) const
         composed ? m_composed.at(position - m_caret) : m_grid.text().at(position);
     if (character == u' ')
         return;
-    const QFontMetricsF metrics = fontMetrics();
+    const QFontMetricsF metrics(font());
     const double free = cell.width() - metrics.horizontalAdvance(character);
+    const double digit = metrics.tightBoundingRect(u"0"_s).height();
     painter.setPen(QColor(selected && hasFocus() ? ui::look::Card : ui::look::Ink));
-    painter.drawText(QPoint(cell.left() + qRound(free / 2),
-                         cell.top() + qRound((cell.height() + metrics.capHeight()) / 2)),
+    painter.drawText(
+        QPoint(cell.left() + qRound(free / 2), cell.top() + qRound((cell.height() + digit) / 2)),
         character);
 }
 

@@ -26,7 +26,8 @@ public:
     void setGrid(const GridText& grid);
     QString toPlainText() const { return m_grid.text(); }
 
-    /// Where the first cell lies on the parent, in twips; all others line up with it.
+    /// Where the first cell lies on the parent, in twips; all others line up with it. The
+    /// type fits a cell.
     void setFirstCell(const ui::TwipRect& cell);
     void setFactor(double factor) override;
 
