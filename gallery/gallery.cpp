@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
 
@@ -51,7 +52,8 @@ QString Stage::text(const QString& box) const
     return control<QLineEdit>(box).text();
 }
 
-void Stage::photographBox(const std::function<void()>& opens, const QString& answer)
+void Stage::photographBox(
+    const std::function<void()>& opens, const QString& answer, const QString& typed)
 {
     QTimer camera;
     QObject::connect(&camera, &QTimer::timeout, &camera, [&] {
@@ -59,6 +61,8 @@ void Stage::photographBox(const std::function<void()>& opens, const QString& ans
         if (box == nullptr || !box->isVisible())
             return;
         camera.stop();
+        if (auto* edit = box->findChild<QLineEdit*>())
+            QTest::keyClicks(edit, typed);
         picture = box->grab();
         for (QPushButton* button : box->findChildren<QPushButton*>()) {
             if (button->text() == answer)

@@ -35,9 +35,10 @@ public:
     void press(const QString& box, Qt::Key key) const;
     QString text(const QString& box) const;
 
-    /// Does something that opens a box, keeps a picture of the box, and answers it with the
-    /// button of this caption.
-    void photographBox(const std::function<void()>& opens, const QString& answer);
+    /// Does something that opens a box, types into it where it is an input box, keeps a
+    /// picture of the box, and answers it with the button of this caption.
+    void photographBox(
+        const std::function<void()>& opens, const QString& answer, const QString& typed = {});
 
     /// What save() keeps instead of the screen: a box, or another screen.
     QPixmap picture;

@@ -24,5 +24,6 @@ int main(int argc, char* argv[])
     gallery::addRepeatedSum(gallery);
     gallery::addNumberRain(gallery);
     gallery::addLongMultiplication(gallery);
+    gallery::addLongDivision(gallery);
     return 0;
 }

@@ -5,6 +5,7 @@ namespace gallery {
 class Gallery;
 
 // One function an activity, in a file of its own.
+void addLongDivision(Gallery& gallery);
 void addLongMultiplication(Gallery& gallery);
 void addMenu(Gallery& gallery);
 void addFillTheGap(Gallery& gallery);

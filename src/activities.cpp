@@ -7,6 +7,7 @@
 #include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
 #include "written/digit_dialog.h"
+#include "written/long_division_screen.h"
 #include "written/long_multiplication_screen.h"
 
 using namespace Qt::StringLiterals;
@@ -61,4 +62,5 @@ void addScreens(ui::Screens& screens)
     screens.add<games::Form5>();
     screens.add<written::Dialog>();
     screens.add<written::Form3>();
+    screens.add<written::Form6>();
 }

@@ -24,8 +24,9 @@ constexpr int InnerMarginX = 2;
 constexpr int InnerMarginY = 1;
 constexpr int AlignedGap = 2;
 
-/// The largest size, in pixels, at which a digit fits its square.
-int fittingSize(QFont font, double width, double height)
+} // namespace
+
+int SquaredBox::fittingSize(QFont font, double width, double height)
 {
     constexpr int Reference = 200;
     font.setPixelSize(Reference);
@@ -34,8 +35,6 @@ int fittingSize(QFont font, double width, double height)
     const double byWidth = width / metrics.horizontalAdvance(u'0');
     return std::max(1, static_cast<int>(Reference * std::min(byHeight, byWidth)));
 }
-
-} // namespace
 
 SquaredBox::SquaredBox(Kind kind, QWidget* parent)
     : TextBox(kind, parent)
@@ -66,6 +65,13 @@ void SquaredBox::setSquare(double width, double height, double top)
     setFactor(m_factor);
 }
 
+void SquaredBox::setLeftAligned(double indent)
+{
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_indent = indent;
+    setFactor(m_factor);
+}
+
 void SquaredBox::setFactor(double factor)
 {
     m_factor = factor;
@@ -86,7 +92,7 @@ void SquaredBox::setFactor(double factor)
     const double digit = QFontMetricsF(type).tightBoundingRect(u"0"_s).height();
     const double baseline = m_top * pixels + (m_height * pixels + digit) / 2;
     // The spacing stands behind each digit: half of it goes in front of the first one.
-    const int left = qRound(spacing / 2) - InnerMarginX - inner.left();
+    const int left = qRound(m_indent * pixels + spacing / 2) - InnerMarginX - inner.left();
     const int top = qRound(baseline) - fontMetrics().ascent() - InnerMarginY - inner.top();
     const int right =
         inner.right() + 1 - InnerMarginX - AlignedGap - width() - qRound(spacing / 2);
@@ -145,12 +151,15 @@ int SquaredBox::columnsFrom(int index) const
 /// Where the line in front of a character runs, in pixels from the left edge.
 double SquaredBox::lineBefore(int index) const
 {
-    if (columnsFrom(0) * squarePixels() <= width() + 1)
-        return width() - columnsFrom(index) * squarePixels();
+    const bool fromLeft = alignment() & Qt::AlignLeft;
+    const double indent = m_indent * m_factor / TwipsPerPixel;
+    const double length = columnsFrom(0) * squarePixels();
+    if (indent + length <= width() + 1)
+        return (fromLeft ? indent + length : width()) - columnsFrom(index) * squarePixels();
     // Too long for the box, the text may be scrolled; then only the caret tells by how much.
-    const double fromRight = std::round((width() - cursorRect().center().x()) / squarePixels());
-    return width() - fromRight * squarePixels()
-        + (columnsFrom(cursorPosition()) - columnsFrom(index)) * squarePixels();
+    const double line = fromLeft ? indent : width();
+    const double steps = std::round((cursorRect().center().x() - line) / squarePixels());
+    return line + (steps + columnsFrom(cursorPosition()) - columnsFrom(index)) * squarePixels();
 }
 
 QRect SquaredBox::strip(double left, double right) const

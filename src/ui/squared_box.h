@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// A text box on squared paper: right-aligned, one character to a square, the last one in
+/// A text box on squared paper: usually right-aligned, one character to a square, the last one in
 /// the square at its right edge; its caret stands on the line between two squares, and a
 /// selection covers whole squares. The caret stays where it was when the box gets the focus,
 /// so that the next digit goes there.
@@ -12,9 +12,16 @@ class SquaredBox : public TextBox {
 public:
     SquaredBox(Kind kind, QWidget* parent);
 
+    /// The pixel size of a type whose digits fit a square of this size, in pixels.
+    static int fittingSize(QFont font, double width, double height);
+
     /// The size of a square, and how far below the top of the box the written ones begin; in
     /// twips. The type fits a square and is never larger than that of an operation.
     void setSquare(double width, double height, double top);
+
+    /// Lets the text run from the left instead, its first character in a square that begins
+    /// so far from the left edge, in twips.
+    void setLeftAligned(double indent);
 
     /// Lets a run of so many blanks take up one square only.
     void setBlankRun(int blanks);
@@ -42,6 +49,7 @@ private:
     double m_width = 250;
     double m_height = 250;
     double m_top = 250;
+    double m_indent = 0; ///< left of the first square, when the text runs from the left
     int m_blankRun = 1;
 };
 

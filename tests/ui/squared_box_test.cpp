@@ -155,6 +155,34 @@ private slots:
         QVERIFY2(std::abs(middle - square() / 2) <= 1.01, qPrintable(QString::number(middle)));
     }
 
+    void aTextMayRunFromTheLeft()
+    {
+        for (const double f : {0.8, 1.0, 1.5, 2.0, 3.1}) {
+            makeBox(f);
+            box->setLeftAligned(125);
+            const double start = 125 * f / ui::TwipsPerPixel;
+            for (const int place : {0, 1, 7}) {
+                box->setReadOnly(true); // no caret
+                box->setText(QString(place, u' ') + u'0');
+                const auto [first, last] = inkedColumns(box->grab().toImage(), ui::look::Ink);
+                const double middle = (first + last + 1) / 2.0;
+                const double expected = start + (place + 0.5) * square();
+                QVERIFY2(std::abs(middle - expected) <= 1.01,
+                    qPrintable(u"%1 for %2"_s.arg(middle).arg(expected)));
+                box->setReadOnly(false);
+                const int caret = inkedColumns(box->grab().toImage(), ui::look::Focus).first;
+                QVERIFY(std::abs(caret + f - (expected + square() / 2)) <= 1.5);
+            }
+            box->setText(u"12345"_s);
+            box->setSelection(1, 2);
+            const auto [first, last] =
+                inkedColumns(box->grab().toImage().copy(0, box->height() - 2, box->width(), 1),
+                    ui::look::Focus);
+            QVERIFY(std::abs(first - (start + square())) <= 1 + f);
+            QVERIFY(std::abs(last + 1 - (start + 3 * square())) <= 1 + f);
+        }
+    }
+
     void digitsStayInsideTheirSquares()
     {
         for (const double f : {0.8, 1.0, 1.25, 1.5, 2.0, 3.1, 4.0}) {
