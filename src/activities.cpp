@@ -5,6 +5,8 @@
 #include "tables/quick_tables_screen.h"
 #include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
+#include "written/combined_operations_screen.h"
+#include "written/multiples_divisors_screen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -55,4 +57,6 @@ void addScreens(ui::Screens& screens)
     screens.add<tables::Form4>();
     screens.add<tables::Form8>();
     screens.add<tables::FrmMultHuecos>();
+    screens.add<written::FRMCombi>();
+    screens.add<written::FrmMultidivi>();
 }
