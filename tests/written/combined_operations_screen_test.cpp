@@ -3,6 +3,8 @@
 #include "support/screen_bench.h"
 
 #include <QHelpEvent>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -286,6 +288,7 @@ private slots:
             QVERIFY2(textFits(*box), qPrintable(box->objectName()));
         const auto& label = bench->control<QLabel>(u"Label1"_s);
         QVERIFY(label.sizeHint().width() <= label.width());
+        QCOMPARE(scratch().document()->firstBlock().layout()->lineCount(), 1);
     }
 
 private:

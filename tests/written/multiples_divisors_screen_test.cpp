@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;

@@ -5,6 +5,10 @@
 
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 using written::ScratchArea;
@@ -31,11 +35,22 @@ private slots:
         QFETCH(double, factor);
         ScratchArea area(nullptr);
         prepare(area, factor, u"(5 + 3) + 4 x 2 - 18 ÷ 3\n= 8 + 8 - 6\n= 10"_s);
-        const int square = area.square();
+        const QImage picture = area.viewport()->grab().toImage();
+        const QList<int> columns = gridColumns(picture);
+        const QList<int> rows = gridRows(picture);
+        QVERIFY(columns.size() >= 27);
+        QVERIFY(rows.size() >= 9);
+        const int advance = QFontMetrics(ui::look::scaled(Font, factor)).horizontalAdvance(u'0');
         for (int line = 0; line < 3; ++line) {
             const QTextBlock block = area.document()->findBlockByNumber(line);
-            for (int column = 0; column < block.length() - 1; ++column)
-                verifySquare(area, block, line, column, square);
+            QCOMPARE(block.layout()->lineCount(), 1);
+            for (int column = 0; column < block.length() - 1; ++column) {
+                QTextCursor cursor(block);
+                cursor.setPosition(block.position() + column);
+                const QRect caret = area.cursorRect(cursor);
+                verifyMiddle(caret.left() + advance / 2.0, columns, area.square());
+                QCOMPARE(caret.top(), rows.at(line));
+            }
         }
     }
 
@@ -73,6 +88,7 @@ private:
         area.setPlainText(text);
         area.resize((QSizeF(670, 230) * factor).toSize());
         area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area.setCursorWidth(0); // the caret would hide parts of lines
         area.show();
         QVERIFY(QTest::qWaitForWindowExposed(&area));
     }
@@ -82,18 +98,33 @@ private:
         return picture.pixelColor(x, y) == QColor(ui::look::Grid);
     }
 
-    /// The square of a character begins half a gap left of it and its line is as tall.
-    static void verifySquare(
-        const ScratchArea& area, const QTextBlock& block, int line, int column, int square)
+    /// Where lines begin that go from edge to edge with nothing written on them.
+    static QList<int> gridColumns(const QImage& picture)
     {
-        QTextCursor cursor(block);
-        const double first = area.cursorRect(cursor).x();
-        cursor.setPosition(block.position() + column);
-        const QRect caret = area.cursorRect(cursor);
-        QVERIFY(std::abs(caret.x() - (first + column * square)) <= 1);
-        const QTextBlock top = area.document()->firstBlock();
-        QCOMPARE(caret.y(), area.cursorRect(QTextCursor(top)).y() + line * square);
-        QCOMPARE(block.layout()->lineCount(), 1);
+        QList<int> columns;
+        bool before = false;
+        for (int x = 0; x < picture.width(); ++x) {
+            bool line = true;
+            for (int y = 0; y < picture.height(); ++y)
+                line = line && isGrid(picture, x, y);
+            if (line && !before)
+                columns << x;
+            before = line;
+        }
+        return columns;
+    }
+    static QList<int> gridRows(const QImage& picture)
+    {
+        return gridColumns(picture.transformed(QTransform(0, 1, 1, 0, 0, 0)));
+    }
+
+    /// The place is in the middle between two lines.
+    static void verifyMiddle(double place, const QList<int>& lines, int square)
+    {
+        const auto right = std::upper_bound(lines.begin(), lines.end(), place);
+        QVERIFY(right != lines.end());
+        const double middle = *right - square / 2.0;
+        QVERIFY(std::abs(place - middle) <= 1.5);
     }
 };
 
