@@ -6,7 +6,9 @@ class Gallery;
 
 // One function an activity, in a file of its own.
 void addMenu(Gallery& gallery);
+void addCombinedOperations(Gallery& gallery);
 void addFillTheGap(Gallery& gallery);
+void addMultiplesDivisors(Gallery& gallery);
 void addMultiplicationTables(Gallery& gallery);
 void addQuickTables(Gallery& gallery);
 void addRepeatedSum(Gallery& gallery);
