@@ -68,6 +68,7 @@ void FRMCombi::Form_Load()
 void FRMCombi::newExpression()
 {
     m_model.newExpression();
+    Text1->retire();
     TBOperación->setText(m_model.text());
     TBCálculos->setPlainText(m_model.text());
     TBCálculos->moveCursor(QTextCursor::End);

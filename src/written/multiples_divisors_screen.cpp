@@ -76,6 +76,7 @@ void FrmMultidivi::newExercise()
 {
     clearAnswers();
     m_model.newExercise();
+    TBMensajes->retire();
     Text1->setPlainText(m_model.instruction());
     Text2->setText(QString::number(m_model.number()));
 }

@@ -165,6 +165,7 @@ private slots:
         QCOMPARE(bench->random.left(), 0u);
         QCOMPARE(bench->random.seeds.size(), 1u);
         QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto"_s);
+        QCOMPARE(bench->control<ui::VerdictBox>(u"Text1"_s).mark(), ui::VerdictBox::Mark::None);
         QCOMPARE(bench->text(u"TBResultado"_s), u"10"_s);
     }
 
