@@ -175,7 +175,8 @@ private slots:
         script({9, 9, 2, 2, 9, 2}, {3, 2, 4});
         bench->click(u"Command2(0)"_s);
         QCOMPARE(bench->focusName(), u"TBResultado"_s);
-        answer(u"72"_s);
+        bench->type(u"TBResultado"_s, u"72"_s);
+        bench->key(u"TBResultado"_s, Qt::Key_Return);
         QCOMPARE(bench->text(u"TBResultado"_s), u"72"_s);
         QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto"_s);
     }
