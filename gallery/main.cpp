@@ -18,7 +18,9 @@ int main(int argc, char* argv[])
     gallery::Gallery gallery(arguments.value(1, u"pictures"_s),
         QString::fromUtf8(PIZARRIN_RESOURCES), arguments.mid(2));
     gallery::addMenu(gallery);
+    gallery::addCombinedOperations(gallery);
     gallery::addFillTheGap(gallery);
+    gallery::addMultiplesDivisors(gallery);
     gallery::addMultiplicationTables(gallery);
     gallery::addQuickTables(gallery);
     gallery::addRepeatedSum(gallery);

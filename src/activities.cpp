@@ -9,6 +9,8 @@
 #include "written/digit_dialog.h"
 #include "written/long_division_screen.h"
 #include "written/long_multiplication_screen.h"
+#include "written/combined_operations_screen.h"
+#include "written/multiples_divisors_screen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -63,4 +65,6 @@ void addScreens(ui::Screens& screens)
     screens.add<written::Dialog>();
     screens.add<written::Form3>();
     screens.add<written::Form6>();
+    screens.add<written::FRMCombi>();
+    screens.add<written::FrmMultidivi>();
 }

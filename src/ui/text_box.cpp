@@ -139,13 +139,26 @@ void VerdictBox::setMarkSize(double pixels)
 
 void VerdictBox::setVerdict(const QString& text, Mark mark)
 {
-    m_mark = mark;
+    setLook(mark, look::Ink);
     setText(text);
-    update();
     if (!text.isEmpty()) {
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
     }
+}
+
+void VerdictBox::retire()
+{
+    setLook(Mark::None, look::Quiet);
+}
+
+void VerdictBox::setLook(Mark mark, QRgb colour)
+{
+    m_mark = mark;
+    QPalette palette = look::displayed();
+    palette.setColor(QPalette::Text, QColor(colour));
+    setPalette(palette);
+    update();
 }
 
 void VerdictBox::paintEvent(QPaintEvent* event)
