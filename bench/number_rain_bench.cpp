@@ -217,8 +217,8 @@ void measureDrawing(int seconds)
 int main(int argc, char* argv[])
 {
     ui::prepareApplication();
-    QApplication application(argc, argv);
-    ui::dress(application);
+    const QApplication application(argc, argv);
+    ui::dress();
     measureGames();
     const int seconds = argc > 1 ? std::atoi(argv[1]) : 10;
     if (seconds > 0)
