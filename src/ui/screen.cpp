@@ -294,10 +294,20 @@ void Screen::setDesignSize(double width, double height)
 {
     m_designWidth = width;
     m_designHeight = height;
-    if (isMaximized() || isFullScreen())
+    if (isMaximized() || isFullScreen()) {
         layOut();
-    else
-        resizeToDesign(m_factor);
+        return;
+    }
+    resizeToDesign(m_factor);
+    keepOnDisplay();
+}
+
+void Screen::keepOnDisplay()
+{
+    const QRect available = screen()->availableGeometry();
+    const int below = frameGeometry().bottom() - available.bottom();
+    if (below > 0 && isVisible())
+        move(x(), std::max(available.top(), y() - below));
 }
 
 void Screen::comeUp()

@@ -411,6 +411,18 @@ private slots:
         QVERIFY(screen->size() != size);
     }
 
+    void aGrowingWindowStaysOnTheDisplay()
+    {
+        const QRect available = screen->screen()->availableGeometry();
+        screen->move(20, available.bottom() - screen->height() - 10);
+        bench->pick(u"MnuOpcCi2Lis(9)"_s);
+        appendFactor(1234, 4);
+        bench->random.append({0.5432f});
+        bench->click(u"Command2(0)"_s);
+        QVERIFY(screen->frameGeometry().bottom() <= available.bottom());
+        QVERIFY(screen->frameGeometry().top() >= available.top());
+    }
+
     void theTabOrderRunsDownTheBoardAndOverTheButtons()
     {
         const QStringList order{u"TbParcial(1)"_s, u"TBResultado"_s, u"Command1"_s, u"Text1"_s,
