@@ -10,6 +10,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 namespace ui {
 
@@ -139,8 +140,11 @@ void VerdictBox::setMarkSize(double pixels)
 
 void VerdictBox::setVerdict(const QString& text, Mark mark)
 {
-    setLook(mark, look::Ink);
+    m_mark = mark;
+    if (m_palette)
+        setPalette(*std::exchange(m_palette, std::nullopt));
     setText(text);
+    update();
     if (!text.isEmpty()) {
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
@@ -149,15 +153,12 @@ void VerdictBox::setVerdict(const QString& text, Mark mark)
 
 void VerdictBox::retire()
 {
-    setLook(Mark::None, look::Quiet);
-}
-
-void VerdictBox::setLook(Mark mark, QRgb colour)
-{
-    m_mark = mark;
-    QPalette palette = look::displayed();
-    palette.setColor(QPalette::Text, QColor(colour));
-    setPalette(palette);
+    m_mark = Mark::None;
+    if (!m_palette)
+        m_palette = palette();
+    QPalette quiet = *m_palette;
+    quiet.setColor(QPalette::Text, QColor(look::Quiet));
+    setPalette(quiet);
     update();
 }
 

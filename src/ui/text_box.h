@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 
+#include <optional>
+
 namespace ui {
 
 /// A line of text: an entry box, or a text that is only shown. A selected text stays
@@ -61,10 +63,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void setLook(Mark mark, QRgb colour);
-
     Mark m_mark = Mark::None;
     double m_markSize = 18;
+    std::optional<QPalette> m_palette; ///< of the next verdict, while one is retired
 };
 
 } // namespace ui

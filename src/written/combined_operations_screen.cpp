@@ -53,8 +53,8 @@ FRMCombi::FRMCombi(ui::Screens& screens)
     Text1 = verdictBox(u"Text1"_s, {7080, 5400, 3180, 720}, u"Comprobación"_s);
 
     makeCommands({.check = {3660, 5460, 3180, 600},
-                     .next = {240, 6420, 3180, 600},
-                     .clear = {3660, 6420, 3180, 600},
+                     .next = {3660, 6420, 3180, 600},
+                     .clear = {240, 6420, 3180, 600},
                      .solution = {7080, 6420, 3180, 600}},
         u"&Ver Solución"_s);
 }

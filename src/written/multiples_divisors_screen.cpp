@@ -13,10 +13,10 @@ namespace written {
 
 namespace {
 
-constexpr double Width = 8400;
+constexpr double Width = 10500;
 constexpr double Height = 6060;
-constexpr double ColumnWidth = 2400;
-constexpr double ColumnPitch = 2760;
+constexpr double ColumnWidth = 3180;
+constexpr double ColumnPitch = 3420;
 
 constexpr ui::look::Font NumberFont{Family::CourierNew, 72, true};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 30, true};
@@ -36,19 +36,19 @@ FrmMultidivi::FrmMultidivi(ui::Screens& screens)
     const auto column = [](int index, double top) {
         return ui::TwipRect{240 + index * ColumnPitch, top, ColumnWidth, 600};
     };
-    makeCommands({.check = column(0, 3900),
-        .next = column(0, 4740),
-        .clear = column(1, 4740),
+    makeCommands({.check = column(1, 3900),
+        .next = column(1, 4740),
+        .clear = column(0, 4740),
         .solution = column(2, 4740)});
 }
 
 void FrmMultidivi::makeBoxes()
 {
-    Text1 = displayMemo(u"Text1"_s, {240, 240, 7920, 660}, ui::look::Instruction,
+    Text1 = displayMemo(u"Text1"_s, {240, 240, 10020, 660}, ui::look::Instruction,
         u"Instrucción"_s, u"Calcula y escribe 3 múltiplos del número que se indica"_s);
     Text1->setToolTip(u"No debes introducir el mismo número indicado"_s);
 
-    Text2 = displayBox(u"Text2"_s, {240, 1020, 7920, 1440}, NumberFont, u"Número indicado"_s);
+    Text2 = displayBox(u"Text2"_s, {240, 1020, 10020, 1440}, NumberFont, u"Número indicado"_s);
     Text2->setAlignment(Qt::AlignCenter);
 
     for (int i = 0; i < MultiplesDivisors::Answers; ++i) {
@@ -60,9 +60,9 @@ void FrmMultidivi::makeBoxes()
         Text3.at(static_cast<std::size_t>(i)) = box;
     }
 
-    TBMensajes =
-        verdictBox(u"TBMensajes"_s, {240 + ColumnPitch, 3900, 5160, 600}, u"Comprobación"_s);
-    TbResultados = displayBox(u"TbResultados"_s, {240, 5520, 7920, 330}, ui::look::Counters,
+    TBMensajes = verdictBox(
+        u"TBMensajes"_s, {240 + 2 * ColumnPitch, 3900, ColumnWidth, 600}, u"Comprobación"_s);
+    TbResultados = displayBox(u"TbResultados"_s, {240, 5520, 10020, 330}, ui::look::Counters,
         u"Contadores"_s, u"Ejercicios: 0; Errores: 0"_s);
 }
 

@@ -232,8 +232,8 @@ private slots:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
         QCOMPARE(order,
-            (QStringList{u"TBCálculos"_s, u"TBResultado"_s, u"Command1"_s, u"Command2(0)"_s,
-                u"Command2(1)"_s, u"Command2(2)"_s}));
+            (QStringList{u"TBCálculos"_s, u"TBResultado"_s, u"Command1"_s, u"Command2(1)"_s,
+                u"Command2(0)"_s, u"Command2(2)"_s}));
         QCOMPARE(bench->focusName(), u"TBCálculos"_s);
     }
 
