@@ -91,11 +91,22 @@ QString reasonNotWritten(const QSaveFile& file)
     return u"El sistema dice: %1."_s.arg(file.errorString());
 }
 
+bool writeAll(QSaveFile& file, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) { // only the write after a short one says that the disk is full
+        const qint64 written = file.write(bytes.data(), bytes.size());
+        if (written <= 0)
+            return false;
+        bytes = bytes.sliced(written);
+    }
+    return true;
+}
+
 /// Writes a file to one side, flushes it to disk and puts it in place of the old one.
 void replaceFile(const QString& name, const QByteArray& bytes)
 {
     QSaveFile file(name);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit())
         return;
     fail(u"No se puede guardar «%1»."_s.arg(QDir::toNativeSeparators(QDir(name).absolutePath())),
         reasonNotWritten(file) + u"\nEl banco de problemas anterior sigue como estaba."_s);
