@@ -1,5 +1,6 @@
 #include "activities.h"
 
+#include "problems/bank_editor_screen.h"
 #include "tables/multiplication_tables_screen.h"
 #include "ui/screens.h"
 
@@ -49,4 +50,5 @@ void addScreens(ui::Screens& screens)
     });
     screens.setMainScreen(shell::Form1::screenName());
     screens.add<tables::Form2>();
+    screens.add<problems::DLGProblemas>();
 }
