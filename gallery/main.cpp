@@ -19,5 +19,6 @@ int main(int argc, char* argv[])
         arguments.value(1, u"gallery"_s), QString::fromUtf8(PIZARRIN_RESOURCES));
     gallery::addMenu(gallery);
     gallery::addMultiplicationTables(gallery);
+    gallery::addProblemsEditor(gallery);
     return 0;
 }

@@ -7,5 +7,6 @@ class Gallery;
 // One function an activity, in a file of its own.
 void addMenu(Gallery& gallery);
 void addMultiplicationTables(Gallery& gallery);
+void addProblemsEditor(Gallery& gallery);
 
 } // namespace gallery

@@ -6,6 +6,8 @@ namespace problems {
 
 namespace {
 
+constexpr double CornerMargin = 3; // pixels at factor 1; keeps the lines off the round corners
+
 /// Lines of one height and any width: none has to be measured, however many there are.
 class LineDelegate final : public QStyledItemDelegate {
 public:
@@ -25,6 +27,12 @@ ProblemList::ProblemList(QWidget* parent)
     setItemDelegate(new LineDelegate(this));
     setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void ProblemList::setFactor(double factor)
+{
+    const int corner = qRound(CornerMargin * factor);
+    setViewportMargins(corner, corner, corner, corner);
 }
 
 QItemSelectionModel::SelectionFlags ProblemList::selectionCommand(
