@@ -5,6 +5,8 @@
 
 #include <QCheckBox>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 // The controls of the editor: where they are and what they are connected to.
@@ -86,6 +88,7 @@ void DLGProblemas::makeAnswer()
         entryBox(u"Text2"_s, {FieldLeft, Top, FieldWidth, BoxHeight}, FieldFont, u"Resultado"_s);
     label(u"Label2"_s, u"&Resultado"_s, {FieldLeft, Top - 360, FieldWidth, LabelHeight},
         ui::look::Instruction, Text2);
+    Text2->setMaxLength(std::numeric_limits<int>::max()); // a line is shown whole
     restrictKeys(Text2);
     constexpr double CommandTop = Top + BoxHeight + Gap;
     on(insertCommand(3, InsertDatum, u"en el resultado"_s, {FieldLeft, CommandTop}),
@@ -111,6 +114,7 @@ void DLGProblemas::makeUnit()
     Text3 = entryBox(u"Text3"_s, {FieldLeft, Top, UnitWidth, BoxHeight}, FieldFont, u"Unidad"_s);
     label(u"Label3"_s, u"&Unidad"_s, {FieldLeft, Top - 360, UnitWidth, LabelHeight},
         ui::look::Instruction, Text3);
+    Text3->setMaxLength(std::numeric_limits<int>::max());
     restrictKeys(Text3);
 }
 

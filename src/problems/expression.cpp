@@ -27,6 +27,12 @@ bool isDigit(QChar c)
     return c >= u'0' && c <= u'9';
 }
 
+bool fits32Bits(double whole)
+{
+    return whole >= std::numeric_limits<qint32>::min()
+        && whole <= std::numeric_limits<qint32>::max();
+}
+
 class Parser {
 public:
     explicit Parser(QStringView text)
@@ -190,10 +196,9 @@ double Parser::apply(char16_t sign, double a, double b, qsizetype at) const
 
 double Parser::dividedWhole(char16_t sign, double a, double b, qsizetype at) const
 {
-    constexpr double Limit = std::numeric_limits<qint32>::max();
     const double dividend = core::roundHalfEven(a);
     const double divisor = core::roundHalfEven(b);
-    if (std::abs(dividend) > Limit || std::abs(divisor) > Limit)
+    if (!fits32Bits(dividend) || !fits32Bits(divisor))
         fail(u"El número es demasiado grande para dividir con \\ o Mod"_s, at);
     if (divisor == 0)
         fail(u"División entre 0"_s, at);

@@ -116,8 +116,8 @@ private:
             return a == 0 && b < 0 ? std::nan("") : std::pow(a, b);
         const double dividend = std::nearbyint(a); // half to even, as the system rounds
         const double divisor = std::nearbyint(b);
-        if (!(std::abs(dividend) < 2147483648.0 && std::abs(divisor) < 2147483648.0)
-            || divisor == 0)
+        const auto fits = [](double x) { return x >= -2147483648.0 && x <= 2147483647.0; };
+        if (!fits(dividend) || !fits(divisor) || divisor == 0)
             return std::nan("");
         const auto whole = std::int64_t(dividend) / std::int64_t(divisor);
         return double(
@@ -223,6 +223,9 @@ private slots:
         row("6.5 Mod 4", 2);
         row("-2.5\\2", -1);
         row("2147483647\\-1", -2147483647);
+        row("-2147483648\\1", -2147483648.0);
+        row("-2147483648\\-1", 2147483648.0); // no 32-bit division, no wrap
+        row("-2147483648 Mod -1", 0);
 
         // no wrap, no negative zero to be seen
         row("40000*40000", 1.6e9);
@@ -283,6 +286,7 @@ private slots:
         row(u"(-4)^0.5"_s, u"Esa potencia no existe"_s, 5);
         row(u"9^9^9^9^9"_s, u"El resultado es demasiado grande"_s, 6);
         row(u"2147483648\\2"_s, u"El número es demasiado grande para dividir con \\ o Mod"_s, 11);
+        row(u"1\\-2147483649"_s, u"El número es demasiado grande para dividir con \\ o Mod"_s, 2);
         row(u"1 Mod 3000000000"_s, u"El número es demasiado grande para dividir con \\ o Mod"_s,
             3);
     }
