@@ -15,8 +15,7 @@ namespace ui {
 
 namespace {
 
-constexpr double MarkSize = 18; // pixels at factor 1
-constexpr double MarkGap = 8;
+constexpr double MarkGap = 8; // pixels at factor 1
 
 void drawTick(QPainter& painter, const QRectF& square)
 {
@@ -129,18 +128,37 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event)
 VerdictBox::VerdictBox(QWidget* parent)
     : TextBox(Kind::Display, parent)
 {
-    setExtraMargins(MarkSize + MarkGap, 0);
+    setMarkSize(m_markSize);
+}
+
+void VerdictBox::setMarkSize(double pixels)
+{
+    m_markSize = pixels;
+    setExtraMargins(m_markSize + MarkGap, 0);
 }
 
 void VerdictBox::setVerdict(const QString& text, Mark mark)
 {
-    m_mark = mark;
+    setLook(mark, look::Ink);
     setText(text);
-    update();
     if (!text.isEmpty()) {
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
     }
+}
+
+void VerdictBox::retire()
+{
+    setLook(Mark::None, look::Quiet);
+}
+
+void VerdictBox::setLook(Mark mark, QRgb colour)
+{
+    m_mark = mark;
+    QPalette palette = look::displayed();
+    palette.setColor(QPalette::Text, QColor(colour));
+    setPalette(palette);
+    update();
 }
 
 void VerdictBox::paintEvent(QPaintEvent* event)
@@ -149,11 +167,11 @@ void VerdictBox::paintEvent(QPaintEvent* event)
     if (m_mark == Mark::None || text().isEmpty())
         return;
     const double factor = Screen::factorOf(this);
-    const double size = std::min(MarkSize * factor, height() - 2.0);
+    const double size = std::min(m_markSize * factor, height() - 2.0);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor colour(m_mark == Mark::Right ? look::Right : look::Wrong);
-    painter.setPen(QPen(colour, 3.2 * factor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(colour, size * 0.18, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QRectF square(2 * factor, (height() - size) / 2, size, size);
     if (m_mark == Mark::Right)
         drawTick(painter, square);

@@ -49,13 +49,22 @@ public:
     explicit VerdictBox(QWidget* parent);
 
     void setVerdict(const QString& text, Mark mark);
+    /// What the verdict was about is gone: its text stays, quiet and without its mark, until
+    /// the next verdict.
+    void retire();
     Mark mark() const { return m_mark; }
+
+    /// The side of the tick or cross, in pixels at factor 1.
+    void setMarkSize(double pixels);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void setLook(Mark mark, QRgb colour);
+
     Mark m_mark = Mark::None;
+    double m_markSize = 18;
 };
 
 } // namespace ui

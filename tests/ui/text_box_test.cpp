@@ -100,6 +100,21 @@ private slots:
         QVERIFY(!shows(ui::look::Right) && !shows(ui::look::Wrong));
     }
 
+    void retiredVerdictKeepsItsTextAlone()
+    {
+        ui::VerdictBox verdict(screen);
+        const auto colour = [&] { return verdict.palette().color(QPalette::Text); };
+        verdict.setVerdict(u"resultado incorrecto "_s, ui::VerdictBox::Mark::Wrong);
+        QCOMPARE(colour(), QColor(ui::look::Ink));
+        verdict.retire();
+        QCOMPARE(verdict.text(), u"resultado incorrecto "_s);
+        QCOMPARE(verdict.mark(), ui::VerdictBox::Mark::None);
+        QCOMPARE(colour(), QColor(ui::look::Quiet));
+        verdict.setVerdict(u"Resultado correcto"_s, ui::VerdictBox::Mark::Right);
+        QCOMPARE(verdict.mark(), ui::VerdictBox::Mark::Right);
+        QCOMPARE(colour(), QColor(ui::look::Ink));
+    }
+
 private:
     std::unique_ptr<ScreenBench> bench;
     SampleScreen* screen = nullptr;
