@@ -22,6 +22,7 @@ int main(int argc, char* argv[])
     gallery::addFillTheGap(gallery);
     gallery::addMultiplesDivisors(gallery);
     gallery::addMultiplicationTables(gallery);
+    gallery::addProblemsEditor(gallery);
     gallery::addQuickTables(gallery);
     gallery::addRepeatedSum(gallery);
     gallery::addNumberRain(gallery);

@@ -1,5 +1,6 @@
 #include "activities.h"
 
+#include "problems/bank_editor_screen.h"
 #include "tables/fill_the_gap_screen.h"
 #include "games/number_rain_screen.h"
 #include "tables/multiplication_tables_screen.h"
@@ -58,6 +59,7 @@ void addScreens(ui::Screens& screens)
     });
     screens.setMainScreen(shell::Form1::screenName());
     screens.add<tables::Form2>();
+    screens.add<problems::DLGProblemas>();
     screens.add<tables::Form4>();
     screens.add<tables::Form8>();
     screens.add<tables::FrmMultHuecos>();

@@ -24,7 +24,8 @@ bool Button::event(QEvent* event)
     if (event->type() == QEvent::Shortcut
         && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
         setFocus(Qt::ShortcutFocusReason);
-        click(); // QPushButton would first show itself pressed for a tenth of a second
+        if (hasFocus()) // else another control has refused to be left
+            click(); // QPushButton would first show itself pressed for a tenth of a second
         return true;
     }
     return QPushButton::event(event);

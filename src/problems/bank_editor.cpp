@@ -1,0 +1,119 @@
+#include "problems/bank_editor.h"
+
+#include "problems/problem_template.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace problems {
+
+namespace {
+
+constexpr std::size_t Multiplication = 0;
+constexpr std::size_t Division = 1;
+constexpr std::size_t Addition = 2;
+constexpr std::size_t Subtraction = 3;
+
+/// Without the blanks at its ends; other white space belongs to the text.
+QStringView trimBlanks(QStringView text)
+{
+    while (text.startsWith(u' '))
+        text = text.sliced(1);
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text;
+}
+
+} // namespace
+
+TemplateFields splitLine(const QString& line)
+{
+    const QString operations = line.section(u'|', 3);
+    TemplateFields fields{
+        line.section(u'|', 0, 0), line.section(u'|', 1, 1), line.section(u'|', 2, 2), {}};
+    for (std::size_t k = 0; k < OperationSigns.size(); ++k)
+        fields.operations[k] = operations.contains(OperationSigns[k]);
+    return fields;
+}
+
+QString joinLine(const TemplateFields& fields)
+{
+    QString line;
+    for (const QString& text : {fields.statement, fields.answer, fields.unit})
+        line.append(trimBlanks(text)).append(u'|');
+    for (std::size_t k = 0; k < OperationSigns.size(); ++k) {
+        if (fields.operations[k])
+            line += OperationSigns[k];
+    }
+    return line;
+}
+
+bool hasLooseAmpersand(QStringView text)
+{
+    return text.contains(u"& ");
+}
+
+QString leaveStatement(TemplateFields& fields)
+{
+    fields.operations[Division] = fields.statement.contains(u'(');
+    fields.operations[Addition] = fields.statement.contains(u'+');
+    fields.operations[Subtraction] = fields.statement.contains(u'-');
+    if (!hasLooseAmpersand(fields.statement))
+        return {};
+    return u"Hay una expresión incorrecta en el enunciado. "
+           "No debe dejar espacios entre el signo & y el número que lo sigue."_s;
+}
+
+QString leaveAnswer(TemplateFields& fields)
+{
+    if (fields.answer.contains(u'*'))
+        fields.operations[Multiplication] = true;
+    if (!hasLooseAmpersand(fields.answer))
+        return {};
+    return u"Hay una expresión incorrecta en el resultado. "
+           "No debe dejar espacios entre el signo & y el número que lo sigue. "_s;
+}
+
+QString tryOut(const TemplateFields& fields, core::RandomSource& random,
+    const ExpressionEvaluator& evaluator)
+{
+    const QString text = u"Enunciado \r\n"_s + fields.statement + u"\r\nRespuesta\r\n"_s
+        + fields.answer + u"\r\n"_s + fields.unit;
+    DataValues data{};
+    return replaceMarkers(text, data, random, evaluator);
+}
+
+QString separatorRefusal()
+{
+    return u"El signo | separa los campos de un problema en el archivo. "
+           "No puede escribirlo dentro de un campo."_s;
+}
+
+QString BankEditor::refusal(const TemplateFields& fields)
+{
+    if (std::ranges::count(fields.operations, true) == 0)
+        return u"Marque al menos una de las 4 operaciones"_s;
+    for (const QString& text : {fields.statement, fields.answer, fields.unit}) {
+        if (text.contains(u'|'))
+            return separatorRefusal();
+    }
+    return {};
+}
+
+int BankEditor::store(int entry, const TemplateFields& fields)
+{
+    const int stored = std::max(entry, 0);
+    if (stored >= m_lines.size())
+        m_lines.resize(stored + 1);
+    m_lines[stored] = joinLine(fields);
+    return stored;
+}
+
+void BankEditor::remove(int entry)
+{
+    if (isLine(entry))
+        m_lines.removeAt(entry);
+}
+
+} // namespace problems

@@ -1,0 +1,186 @@
+#include "problems/bank_editor_screen.h"
+
+#include "problems/problem_list.h"
+#include "ui/leave_check.h"
+
+#include <QCheckBox>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+// The controls of the editor: where they are and what they are connected to.
+
+namespace problems {
+
+namespace {
+
+constexpr double Width = 13500;
+constexpr double Height = 8280;
+constexpr double Margin = 240;
+constexpr double Gap = 120;
+constexpr double ListWidth = 5040;
+constexpr double FieldLeft = Margin + ListWidth + 360;
+constexpr double FieldWidth = Width - Margin - FieldLeft;
+constexpr double LabelHeight = 330;
+constexpr double BoxHeight = 510;
+constexpr double CommandHeight = 510;
+constexpr double InsertWidth = 2880;
+
+constexpr ui::look::Font FieldFont{ui::look::Family::Arial, 15};
+constexpr ui::look::Font ListFont{ui::look::Family::Arial, 14};
+
+const QString InsertDatum = u"Insertar dato &variable"_s;
+const QString InsertComputed = u"&Reinsertar dato variable"_s;
+
+QColor commandColour()
+{
+    return ui::look::palette().color(QPalette::Button);
+}
+
+} // namespace
+
+DLGProblemas::DLGProblemas(ui::Screens& screens)
+    : Screen(screens, screenName(), u"Gestión de problemas"_s, Width, Height)
+    , m_evaluator(u"VBScript"_s)
+{
+    makeList(); // all in the order in which Tab goes through them
+    makeStatement();
+    makeAnswer();
+    makeUnit();
+    makeOperations();
+    makeActions();
+    makeWaysOut();
+    checkOnLeaving(Text1, &DLGProblemas::Text1_Validate);
+    checkOnLeaving(Text2, &DLGProblemas::Text2_Validate);
+}
+
+void DLGProblemas::makeList()
+{
+    List1 = add(new ProblemList(canvas()), u"List1"_s,
+        {Margin, 540, ListWidth, Height - 540 - Margin}, ListFont);
+    List1->setAccessibleName(u"Problemas disponibles"_s);
+    label(u"Label4"_s, u"Problemas &disponibles"_s, {Margin, 180, ListWidth, LabelHeight},
+        ui::look::Instruction, List1);
+    on(List1, &QListWidget::itemSelectionChanged, &DLGProblemas::List1_Click);
+    // A click on the entry that is selected already changes no selection.
+    on(List1, &QListWidget::itemClicked, [this] { List1_Click(); });
+}
+
+void DLGProblemas::makeStatement()
+{
+    Text1 = memo(u"Text1"_s, {FieldLeft, 540, FieldWidth, 2160}, FieldFont, u"Enunciado"_s);
+    label(u"Label1"_s, u"&Enunciado"_s, {FieldLeft, 180, FieldWidth, LabelHeight},
+        ui::look::Instruction, Text1);
+    restrictKeys(Text1);
+    constexpr double Top = 540 + 2160 + Gap;
+    on(insertCommand(1, InsertDatum, u"en el enunciado"_s, {FieldLeft, Top}),
+        &QPushButton::clicked, &DLGProblemas::Command1_Click);
+    on(insertCommand(
+           2, InsertComputed, u"en el enunciado"_s, {FieldLeft + InsertWidth + Gap, Top}),
+        &QPushButton::clicked, &DLGProblemas::Command2_Click);
+}
+
+void DLGProblemas::makeAnswer()
+{
+    constexpr double Top = 3960;
+    Text2 =
+        entryBox(u"Text2"_s, {FieldLeft, Top, FieldWidth, BoxHeight}, FieldFont, u"Resultado"_s);
+    label(u"Label2"_s, u"&Resultado"_s, {FieldLeft, Top - 360, FieldWidth, LabelHeight},
+        ui::look::Instruction, Text2);
+    Text2->setMaxLength(std::numeric_limits<int>::max()); // a line is shown whole
+    restrictKeys(Text2);
+    constexpr double CommandTop = Top + BoxHeight + Gap;
+    on(insertCommand(3, InsertDatum, u"en el resultado"_s, {FieldLeft, CommandTop}),
+        &QPushButton::clicked, &DLGProblemas::Command3_Click);
+    on(insertCommand(
+           4, InsertComputed, u"en el resultado"_s, {FieldLeft + InsertWidth + Gap, CommandTop}),
+        &QPushButton::clicked, &DLGProblemas::Command4_Click);
+}
+
+ui::Button* DLGProblemas::insertCommand(
+    int number, const QString& caption, const QString& target, const ui::TwipRect& place)
+{
+    auto* command = button(u"Command%1"_s.arg(number), caption,
+        {place.left, place.top, InsertWidth, CommandHeight}, commandColour());
+    command->setAccessibleName(QString(caption).remove(u'&') + u' ' + target);
+    return command;
+}
+
+void DLGProblemas::makeUnit()
+{
+    constexpr double Top = 5730;
+    constexpr double UnitWidth = InsertWidth;
+    Text3 = entryBox(u"Text3"_s, {FieldLeft, Top, UnitWidth, BoxHeight}, FieldFont, u"Unidad"_s);
+    label(u"Label3"_s, u"&Unidad"_s, {FieldLeft, Top - 360, UnitWidth, LabelHeight},
+        ui::look::Instruction, Text3);
+    Text3->setMaxLength(std::numeric_limits<int>::max());
+    restrictKeys(Text3);
+}
+
+void DLGProblemas::makeOperations()
+{
+    const std::array captions{u"Mult"_s, u"Div"_s, u"Sum"_s, u"Rest"_s};
+    const std::array names{u"Multiplicación"_s, u"División"_s, u"Suma"_s, u"Resta"_s};
+    constexpr double Step = 1080;
+    double left = FieldLeft + InsertWidth + 2 * Gap;
+    for (std::size_t k = 0; k < CHOpera.size(); ++k, left += Step) {
+        CHOpera[k] = add(new QCheckBox(captions[k], canvas()), u"CHOpera(%1)"_s.arg(k),
+            {left, 5730, Step, BoxHeight});
+        CHOpera[k]->setAccessibleName(names[k]);
+    }
+}
+
+void DLGProblemas::makeActions()
+{
+    constexpr double ActionWidth = (FieldWidth - 3 * Gap) / 4;
+    const auto place = [](int column) {
+        return ui::TwipRect{
+            FieldLeft + column * (ActionWidth + Gap), 6480, ActionWidth, CommandHeight};
+    };
+    on(button(u"CBProbar"_s, u"&Probar "_s, place(0), commandColour()), &QPushButton::clicked,
+        &DLGProblemas::CBProbar_Click);
+    const QStringList captions{u"&Guardar"_s, u"&Limpiar"_s, u"&Borrar"_s};
+    for (int i = 0; i < captions.size(); ++i) {
+        auto*& action = CBAccion.at(static_cast<std::size_t>(i));
+        action = button(u"CBAccion(%1)"_s.arg(i), captions.at(i), place(i + 1), commandColour());
+        on(action, &QPushButton::clicked, &DLGProblemas::CBAccion_Click, i);
+    }
+}
+
+void DLGProblemas::makeWaysOut()
+{
+    const ui::TwipRect right{Width - Margin - 1800, Height - Margin - 570, 1800, 570};
+    const ui::TwipRect left{right.left - Gap - 1800, right.top, 1800, 570};
+    on(button(u"OKButton"_s, u"Aceptar"_s, left, commandColour()), &QPushButton::clicked,
+        &DLGProblemas::OKButton_Click);
+    CancelButton = button(u"CancelButton"_s, u"&Cancelar"_s, right, commandColour());
+    // A click on it leaves no box, so that a box with a mistake cannot stand in its way.
+    CancelButton->setFocusPolicy(Qt::TabFocus);
+    on(CancelButton, &QPushButton::clicked, &DLGProblemas::CancelButton_Click);
+}
+
+void DLGProblemas::checkOnLeaving(QWidget* box, QString (DLGProblemas::*validate)())
+{
+    const auto check = [this, validate] {
+        QString reason;
+        guarded([&] { reason = (this->*validate)(); });
+        return reason;
+    };
+    const auto tell = [this](const QString& reason) {
+        guarded([&] { ui::MessageBox::show(*this, reason); });
+    };
+    (new ui::LeaveCheck(box, check, tell))->exempt(CancelButton);
+}
+
+void DLGProblemas::restrictKeys(QWidget* box)
+{
+    onKeyPress(box, [this](QChar character) {
+        if (character == u'|')
+            ui::MessageBox::show(*this, separatorRefusal());
+        const bool breaksLine = character == QChar(ui::key::Enter);
+        return character == u'|' || breaksLine ? ui::KeyResult::Swallow : ui::KeyResult::Pass;
+    });
+}
+
+} // namespace problems

@@ -1,0 +1,233 @@
+#include "problems/bank_editor_screen.h"
+
+#include "core/clock.h"
+#include "problems/bank.h"
+#include "problems/problem_list.h"
+#include "ui/screens.h"
+
+#include <QCheckBox>
+
+using namespace Qt::StringLiterals;
+
+namespace problems {
+
+namespace {
+
+const QString NewEntry = u"(Nuevo)"_s;
+
+/// A pasted text may have several lines; a problem has one.
+QString oneLine(QString text)
+{
+    text.replace(u"\r\n"_s, u" "_s);
+    for (const char16_t lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'})
+        text.replace(QChar(lineBreak), u' ');
+    return text;
+}
+
+} // namespace
+
+QString DLGProblemas::screenName()
+{
+    return u"DLGProblemas"_s;
+}
+
+void DLGProblemas::Form_Load()
+{
+    core::seedByClock(screens().random(), screens().clock());
+    if (const auto bank = LeerBanco(screens().resources())) {
+        m_model.load(bank->lines);
+        List1->clear();
+        List1->addItems(bank->lines);
+    }
+    List1->addItem(NewEntry);
+    selectEntry(m_model.newEntry());
+    List1->setFocus();
+}
+
+void DLGProblemas::Form_Activate()
+{
+    List1->scrollToItem(List1->item(m_model.newEntry()));
+}
+
+void DLGProblemas::closeRequested()
+{
+    guarded([this] { CancelButton_Click(); });
+}
+
+void DLGProblemas::List1_Click()
+{
+    const int entry = selectedEntry();
+    CBAccion[2]->setEnabled(entry != m_model.newEntry());
+    if (!m_model.isLine(entry))
+        return;
+    const TemplateFields shown = splitLine(m_model.line(entry));
+    Text1->setPlainText(shown.statement);
+    Text2->setText(shown.answer);
+    Text3->setText(shown.unit);
+    showOperations(shown);
+}
+
+QString DLGProblemas::Text1_Validate()
+{
+    TemplateFields left = fields();
+    const QString reason = leaveStatement(left);
+    showOperations(left);
+    return reason;
+}
+
+QString DLGProblemas::Text2_Validate()
+{
+    TemplateFields left = fields();
+    const QString reason = leaveAnswer(left);
+    showOperations(left);
+    return reason;
+}
+
+void DLGProblemas::Command2_Click()
+{
+    insertComputed(Target::Statement, u". No deje espacios tras el signo &."_s);
+}
+
+void DLGProblemas::Command4_Click()
+{
+    insertComputed(Target::Answer, u":"_s);
+}
+
+void DLGProblemas::insertDatum(Target target)
+{
+    const QString title = u"Insertar dato variable"_s;
+    const QString minimum = ui::InputBox::ask(*this, u"valor mínimo posible: "_s, title);
+    if (minimum.isEmpty())
+        return;
+    const QString maximum = ui::InputBox::ask(*this, u"valor máximo posible: "_s, title);
+    if (!maximum.isEmpty())
+        insertAtCaret(target, u'[' + minimum + u'_' + maximum + u']');
+}
+
+void DLGProblemas::insertComputed(Target target, const QString& promptEnd)
+{
+    const QString prompt =
+        u"Escriba la expresión a insertar. Utilice &1 para insertar el primer dato, "
+        "&2 para el segundo  y así sucesivamente hasta &9"_s;
+    const QString expression =
+        ui::InputBox::ask(*this, prompt + promptEnd, u"Reinsertar dato variable"_s);
+    if (hasLooseAmpersand(expression))
+        ui::MessageBox::show(*this,
+            u"Error en la expresión, no debe dejar espacios en blanco tras el signo &"_s,
+            u"Error"_s, ui::Icon::Critical);
+    else if (!expression.isEmpty())
+        insertAtCaret(target, u'{' + expression + u'}');
+}
+
+void DLGProblemas::insertAtCaret(Target target, const QString& marker)
+{
+    if (target == Target::Statement) {
+        QTextCursor caret = Text1->textCursor();
+        caret.clearSelection(); // a marker is put in, nothing is replaced
+        caret.insertText(marker);
+        Text1->setTextCursor(caret);
+        Text1->setFocus();
+    } else {
+        Text2->setCursorPosition(Text2->cursorPosition());
+        Text2->insert(marker);
+        Text2->setFocus();
+    }
+}
+
+void DLGProblemas::CBProbar_Click()
+{
+    ui::MessageBox::show(*this, tryOut(fields(), screens().random(), m_evaluator));
+}
+
+void DLGProblemas::CBAccion_Click(int Index)
+{
+    switch (Index) {
+    case 0:
+        storeEntry();
+        break;
+    case 1:
+        Text1->clear();
+        Text2->clear();
+        Text3->clear();
+        break;
+    default:
+        deleteEntry();
+        break;
+    }
+}
+
+void DLGProblemas::storeEntry()
+{
+    const TemplateFields stored = fields();
+    const QString refusal = BankEditor::refusal(stored);
+    if (!refusal.isEmpty()) {
+        ui::MessageBox::show(*this, refusal);
+        return;
+    }
+    const int entry = m_model.store(selectedEntry(), stored);
+    List1->item(entry)->setText(m_model.line(entry));
+    if (List1->count() == m_model.newEntry())
+        List1->addItem(NewEntry);
+    selectEntry(m_model.newEntry());
+    Text1->setFocus();
+}
+
+void DLGProblemas::deleteEntry()
+{
+    const int entry = selectedEntry();
+    if (!m_model.isLine(entry))
+        return;
+    // Before the entry goes: the list would select, and so show, its neighbour.
+    List1->setCurrentRow(BankEditor::NoEntry);
+    delete List1->takeItem(entry);
+    m_model.remove(entry);
+}
+
+void DLGProblemas::OKButton_Click()
+{
+    GuardarBanco(screens().resources(), m_model.lines());
+    closeDialog();
+}
+
+void DLGProblemas::CancelButton_Click()
+{
+    closeDialog();
+}
+
+void DLGProblemas::closeDialog()
+{
+    const auto closed = onClosed;
+    unload();
+    if (closed)
+        closed();
+}
+
+void DLGProblemas::selectEntry(int entry)
+{
+    List1->setCurrentRow(entry);
+    List1_Click();
+}
+
+int DLGProblemas::selectedEntry() const
+{
+    const QModelIndexList selected = List1->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? BankEditor::NoEntry : selected.front().row();
+}
+
+TemplateFields DLGProblemas::fields() const
+{
+    // As raw text: the plain one would turn no-break spaces into blanks.
+    TemplateFields typed{oneLine(Text1->document()->toRawText()), oneLine(Text2->text()),
+        oneLine(Text3->text()), {}};
+    for (std::size_t k = 0; k < CHOpera.size(); ++k)
+        typed.operations[k] = CHOpera[k]->isChecked();
+    return typed;
+}
+
+void DLGProblemas::showOperations(const TemplateFields& shown)
+{
+    for (std::size_t k = 0; k < CHOpera.size(); ++k)
+        CHOpera[k]->setChecked(shown.operations[k]);
+}
+
+} // namespace problems
