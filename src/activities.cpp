@@ -1,6 +1,8 @@
 #include "activities.h"
 
 #include "tables/fill_the_gap_screen.h"
+#include "games/race_options_screen.h"
+#include "games/race_screen.h"
 #include "tables/multiplication_tables_screen.h"
 #include "tables/quick_tables_screen.h"
 #include "tables/repeated_sum_screen.h"
@@ -55,4 +57,6 @@ void addScreens(ui::Screens& screens)
     screens.add<tables::Form4>();
     screens.add<tables::Form8>();
     screens.add<tables::FrmMultHuecos>();
+    screens.add<games::DlgCarrera>();
+    screens.add<games::FrmCarrera>();
 }

@@ -105,6 +105,20 @@ Race::Verdict Race::answer(double value)
     if (!right)
         return Verdict::Wrong;
     NuevaOperacion();
+    return countSolved();
+}
+
+Race::Verdict Race::answerInRow(double value)
+{
+    if (!isUnderWay())
+        return Verdict::Ignored;
+    const bool right = value == Resultado.value();
+    m_feedback = right ? u"CORRECTO"_s : u"ERROR"_s;
+    return right ? countSolved() : Verdict::Wrong;
+}
+
+Race::Verdict Race::countSolved()
+{
     m_clocksRun = true;
     Aciertos += 1;
     if (Aciertos < StepsToWin)

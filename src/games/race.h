@@ -39,6 +39,10 @@ public:
     /// Checks an answer, read as a number. The first right one starts both clocks.
     Verdict answer(double value);
 
+    /// Checks an answer from the second row, which counts like any other; the operation
+    /// stands and the feedback is "CORRECTO" or "ERROR".
+    Verdict answerInRow(double value);
+
     /// A second of the race clock has passed.
     void secondPassed();
 
@@ -48,7 +52,7 @@ public:
     QString operation() const { return m_operation; } ///< "7 × 5 ="
     int result() const { return Resultado.value(); }
 
-    /// What the last Enter brought: "Correcto " or "Error", at every other Enter with a
+    /// What the last answer brought: "Correcto " or "Error", at every other answer with a
     /// blank in front, so that two in a row differ.
     QString feedback() const { return m_feedback; }
 
@@ -74,6 +78,7 @@ private:
     core::Int16 drawFactor(core::Int16 previous);
     core::Int16 drawTerm(core::Int16 largest);
     void combine(core::Int16 value, const QString& text);
+    Verdict countSolved();
     void finish();
 
     core::RandomSource& m_random;

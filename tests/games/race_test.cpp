@@ -252,6 +252,26 @@ private slots:
         QCOMPARE(race->feedback(), u"Error"_s);
     }
 
+    void secondRowCountsButKeepsTheOperation()
+    {
+        prepare(7, 5);
+        QCOMPARE(race->answerInRow(36), Verdict::Wrong);
+        QCOMPARE(race->feedback(), u"ERROR"_s);
+        QVERIFY(!race->clocksRun());
+        QCOMPARE(race->answerInRow(35), Verdict::Right);
+        QCOMPARE(race->feedback(), u"CORRECTO"_s);
+        QVERIFY(race->clocksRun());
+        QCOMPARE(race->solved(), 1);
+        QCOMPARE(race->operation(), u"7 × 5 ="_s);
+        race->answer(0);
+        QCOMPARE(race->feedback(), u"Error"_s); // the row does not flip the blank
+        for (int step = 2; step < 15; ++step)
+            QCOMPARE(race->answerInRow(35), Verdict::Right);
+        QCOMPARE(race->answerInRow(35), Verdict::Won);
+        QVERIFY(race->isOver());
+        QCOMPARE(race->answerInRow(35), Verdict::Ignored);
+    }
+
     // --- the two ends
 
     void fifteenRightAnswersWin()
