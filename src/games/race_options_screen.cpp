@@ -19,9 +19,9 @@ constexpr double LabelTop = 240;
 constexpr double LabelHeight = 360;
 constexpr double ListTop = 660;
 constexpr double ListWidth = 3480;
-constexpr double CarListHeight = 3690;
-constexpr double TypeListHeight = 1560;
-constexpr double RoadTop = 4530;
+constexpr double CarListHeight = 3900;
+constexpr double TypeListHeight = 1575;
+constexpr double RoadTop = 4740;
 constexpr double RoadHeight = 600;
 constexpr std::array<double, 3> Column{240, 4080, 7920};
 
@@ -33,7 +33,7 @@ QString DlgCarrera::screenName()
 }
 
 DlgCarrera::DlgCarrera(ui::Screens& screens)
-    : Screen(screens, screenName(), u"Opciones"_s, 11640, 5370)
+    : Screen(screens, screenName(), u"Opciones"_s, 11640, 5580)
 {
     const QString player = u"Selecciona tu &coche"_s;
     const QString rival = u"Selecciona el coche de tu rival"_s;
