@@ -21,6 +21,7 @@ int main(int argc, char* argv[])
     gallery::addFillTheGap(gallery);
     gallery::addMultiplicationTables(gallery);
     gallery::addQuickTables(gallery);
+    gallery::addRace(gallery);
     gallery::addRepeatedSum(gallery);
     return 0;
 }

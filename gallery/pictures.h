@@ -9,6 +9,7 @@ void addMenu(Gallery& gallery);
 void addFillTheGap(Gallery& gallery);
 void addMultiplicationTables(Gallery& gallery);
 void addQuickTables(Gallery& gallery);
+void addRace(Gallery& gallery);
 void addRepeatedSum(Gallery& gallery);
 
 } // namespace gallery
