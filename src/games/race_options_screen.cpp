@@ -109,7 +109,6 @@ void DlgCarrera::List2_Click()
 
 void DlgCarrera::showPicture(QLabel* image, const QString& fileName)
 {
-    image->clear(); // no other car's picture beside the caption when this one cannot be read
     const QImage picture = ui::loadPicture(screens().resources(), fileName);
     const double naturalWidth = picture.width() * ui::TwipsPerPixel;
     const double naturalHeight = picture.height() * ui::TwipsPerPixel;

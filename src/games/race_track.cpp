@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include <algorithm>
+#include <array>
 
 namespace games {
 
@@ -127,8 +127,7 @@ RaceVerge::RaceVerge(QWidget* parent)
 
 void RaceVerge::setRunning(bool running)
 {
-    if (m_running == std::exchange(m_running, running))
-        return;
+    m_running = running;
     update();
 }
 

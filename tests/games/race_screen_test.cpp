@@ -24,6 +24,19 @@ protected:
     void beep() override { ++beeps; }
 };
 
+class PaintCounter final : public QObject {
+public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+
+    int count = 0;
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 } // namespace
 
 class RaceScreenTest : public QObject {
@@ -128,6 +141,20 @@ private slots:
         for (int index : {0, 1})
             QVERIFY(car(index).hasScaledContents());
         QVERIFY(carPicture(0) != carPicture(1));
+    }
+
+    void lightAtTheStartTurnsGreenWhileTheRaceRuns()
+    {
+        openRace(7, 5);
+        auto& verge = control<QWidget>(u"raceVerge"_s);
+        const QImage red = verge.grab().toImage();
+        PaintCounter painted(&control<QWidget>(u"raceVerge"_s));
+        solve();
+        QVERIFY(verge.grab().toImage() != red);
+        QTRY_VERIFY(painted.count > 1); // on the display too, not only in the grab
+        scriptFactors(3, 6);
+        bench->click(u"Command1(1)"_s);
+        QCOMPARE(verge.grab().toImage(), red);
     }
 
     // --- answering
