@@ -281,6 +281,16 @@ private slots:
         verifyEnded();
     }
 
+    void laterAnswersDoNotHoldTheRivalBack()
+    {
+        openRace(7, 5);
+        solve();
+        QTest::qWait(60);
+        solve();
+        QVERIFY(control<QTimer>(u"Timer1"_s).remainingTime() <= 1000 - 60);
+        QVERIFY(control<QTimer>(u"Timer2"_s).remainingTime() <= 450 - 60);
+    }
+
     void timersThatRunByThemselvesLoseTheRace()
     {
         openRace(7, 5);
@@ -450,6 +460,7 @@ private slots:
             bench->click(u"CBCalcu(%1)"_s.arg(i));
         bench->click(u"CBCalcu(11)"_s);
         QCOMPARE(text(u"TBResultado"_s), u"1234567890"_s);
+        QCOMPARE(bench->focusName(), u"TBResultado"_s);
         bench->click(u"CBCalcu(10)"_s);
         QCOMPARE(text(u"TBResultado"_s), QString());
         bench->type(u"TBResultado"_s, u"1"_s); // mixed with the keyboard
