@@ -24,6 +24,7 @@ int main(int argc, char* argv[])
     gallery::addMultiplicationTables(gallery);
     gallery::addProblemsEditor(gallery);
     gallery::addQuickTables(gallery);
+    gallery::addRace(gallery);
     gallery::addRepeatedSum(gallery);
     gallery::addNumberRain(gallery);
     gallery::addLongMultiplication(gallery);

@@ -14,6 +14,7 @@ void addMultiplesDivisors(Gallery& gallery);
 void addMultiplicationTables(Gallery& gallery);
 void addProblemsEditor(Gallery& gallery);
 void addQuickTables(Gallery& gallery);
+void addRace(Gallery& gallery);
 void addRepeatedSum(Gallery& gallery);
 void addNumberRain(Gallery& gallery);
 

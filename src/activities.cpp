@@ -3,6 +3,8 @@
 #include "problems/bank_editor_screen.h"
 #include "tables/fill_the_gap_screen.h"
 #include "games/number_rain_screen.h"
+#include "games/race_options_screen.h"
+#include "games/race_screen.h"
 #include "tables/multiplication_tables_screen.h"
 #include "tables/quick_tables_screen.h"
 #include "tables/repeated_sum_screen.h"
@@ -69,4 +71,6 @@ void addScreens(ui::Screens& screens)
     screens.add<written::Form6>();
     screens.add<written::FRMCombi>();
     screens.add<written::FrmMultidivi>();
+    screens.add<games::DlgCarrera>();
+    screens.add<games::FrmCarrera>();
 }

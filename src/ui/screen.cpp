@@ -232,8 +232,9 @@ KeyFilter* Screen::keyFilter(QWidget* control)
     KeyFilter*& filter = m_keyFilters[control];
     if (filter == nullptr) {
         filter = new KeyFilter(control);
-        connect(
-            control, &QObject::destroyed, this, [this, control] { m_keyFilters.erase(control); });
+        if (control != this) // the screen's own map is gone before it says that it is
+            connect(control, &QObject::destroyed, this,
+                [this, control] { m_keyFilters.erase(control); });
     }
     return filter;
 }

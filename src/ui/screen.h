@@ -173,6 +173,7 @@ protected:
         for (int i = 0; i < list.size(); ++i)
             on(list.at(i), &QAction::triggered, handler, i);
     }
+    /// On the screen itself: the keys that no control has used.
     void onKeyDown(QWidget* control, KeyFilter::DownHandler handler);
     void onKeyPress(QWidget* control, KeyFilter::PressHandler handler);
     void onKeyUp(QWidget* control, KeyFilter::UpHandler handler);

@@ -35,6 +35,9 @@ public:
         return static_cast<S&>(screen);
     }
 
+    /// Looks for controls in this screen, which the test has opened by itself.
+    void attach(ui::Screen& screen) { m_screen = &screen; }
+
     /// A control or menu item of the opened screen by its object name; ends the test program
     /// with the name when there is none of this kind.
     template <typename T> T& control(const QString& name) const
