@@ -12,7 +12,7 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     ui::prepareApplication();
     QApplication application(argc, argv);
-    ui::dress(application);
+    ui::dress();
 
     const QStringList arguments = QApplication::arguments();
     gallery::Gallery gallery(

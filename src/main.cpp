@@ -13,7 +13,7 @@ int main(int argc, char* argv[])
 {
     ui::prepareApplication();
     QApplication application(argc, argv);
-    ui::dress(application);
+    ui::dress();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
     QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));
 

@@ -15,14 +15,21 @@ void prepareApplication()
     QApplication::setDesktopSettingsAware(false);
 }
 
-void dress(QApplication& application)
+void dress()
 {
     QApplication::setStyle(new Style);
     QApplication::setPalette(look::palette());
     QApplication::setFont(look::scaled(look::Instruction, 1));
     QApplication::setQuitOnLastWindowClosed(false);
+}
 
-    auto* spanish = new QTranslator(&application);
+void installToolkitTexts()
+{
+    const QString name = u"toolkit texts"_s;
+    if (qApp->findChild<QTranslator*>(name) != nullptr)
+        return;
+    auto* spanish = new QTranslator(qApp);
+    spanish->setObjectName(name);
     if (spanish->load(u":/toolkit_es.qm"_s))
         QApplication::installTranslator(spanish);
 }

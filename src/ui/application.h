@@ -1,13 +1,15 @@
 #pragma once
 
-class QApplication;
-
 namespace ui {
 
 /// Switches the desktop's own settings off. Call before the application object is made.
 void prepareApplication();
 
-/// Gives the application the program's style, palette, font and the toolkit's Spanish texts.
-void dress(QApplication& application);
+/// Gives the application the program's style, palette and font.
+void dress();
+
+/// Installs the toolkit's own Spanish texts (context menus of text boxes), once. Apart from
+/// dress(), because the menu shows none of them and starts faster without.
+void installToolkitTexts();
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #include "ui/screens.h"
 
+#include "ui/application.h"
 #include "ui/screen.h"
 
 #include <QCoreApplication>
@@ -48,6 +49,8 @@ Screen& Screens::load(const QString& name)
 {
     if (Screen* screen = loaded(name))
         return *screen;
+    if (name != m_mainScreen)
+        installToolkitTexts();
     std::unique_ptr<Screen> screen(m_factories.at(name)(*this));
     screen->Form_Load();
     screen->comeUp();

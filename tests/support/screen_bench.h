@@ -91,7 +91,7 @@ private:
     {                                                                                            \
         ui::prepareApplication();                                                                \
         QApplication application(argc, argv);                                                    \
-        ui::dress(application);                                                                  \
+        ui::dress();                                                                             \
         TestClass test;                                                                          \
         return QTest::qExec(&test, argc, argv);                                                  \
     }
