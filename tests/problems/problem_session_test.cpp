@@ -147,6 +147,17 @@ private slots:
         QCOMPARE(next(), u"P7"_s);
     }
 
+    void theFirstLineCountsAsLeft()
+    {
+        session->setBank(bankOfSize(20));
+        for (int i = 1; i <= 18; ++i) {
+            script({i}, 20);
+            QCOMPARE(next(), u"P%1"_s.arg(i));
+        }
+        script({4, 19}, 20); // two of twenty are left, with the first
+        QCOMPARE(next(), u"P19"_s);
+    }
+
     void theTenthIsOfTheWholeBankNotOfTheSelection()
     {
         QStringList operations(20, u"/"_s);
