@@ -19,6 +19,7 @@ int main(int argc, char* argv[])
         arguments.value(1, u"gallery"_s), QString::fromUtf8(PIZARRIN_RESOURCES));
     gallery::addMenu(gallery);
     gallery::addMultiplicationTables(gallery);
+    gallery::addProblems(gallery);
     gallery::addProblemsEditor(gallery);
     return 0;
 }

@@ -1,6 +1,8 @@
 #include "activities.h"
 
 #include "problems/bank_editor_screen.h"
+#include "problems/problem_session_screen.h"
+#include "problems/selection_screen.h"
 #include "tables/multiplication_tables_screen.h"
 #include "ui/screens.h"
 
@@ -51,4 +53,6 @@ void addScreens(ui::Screens& screens)
     screens.setMainScreen(shell::Form1::screenName());
     screens.add<tables::Form2>();
     screens.add<problems::DLGProblemas>();
+    screens.add<problems::DLGSelProb>();
+    screens.add<problems::FormProblemas>();
 }
