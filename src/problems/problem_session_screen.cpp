@@ -25,6 +25,11 @@ constexpr double StatementHeight = 3090; // six lines
 constexpr double AnswerTop = 4050;
 constexpr double AnswerHeight = 720;
 
+// Events run before each draw. Only where hardly a line of a huge bank is selected are there
+// more draws than this; then a draw takes a hundredth of what looking for events does, so
+// they run every few microseconds instead.
+constexpr int DrawsWithEvents = 500;
+
 constexpr ui::look::Font StatementFont{Family::Arial, 17};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 28, true};
 
@@ -110,7 +115,12 @@ void FormProblemas::CargaDatos(core::Int16 Selección, OperationMask MaskOpera)
 
 void FormProblemas::NuevoProblema()
 {
-    m_session.NuevoProblema([this] { letEventsRun(); });
+    int draws = 0;
+    m_session.NuevoProblema([&] {
+        if (draws < DrawsWithEvents || draws % DrawsWithEvents == 0)
+            letEventsRun();
+        ++draws;
+    });
     TBEnunciado->setStatement(m_session.problem().statement);
     LBUnidad->setText(m_session.problem().unit);
     TBCorrecto->setVerdict({}, Mark::None);
