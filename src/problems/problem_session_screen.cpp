@@ -167,7 +167,10 @@ void FormProblemas::MnuOpcGes_Click()
 {
     auto& editor = screens().load<DLGProblemas>(); // first: if it fails, this screen stays
     editor.onClosed = [&set = screens()] { set.show(screenName()); };
+    QWidget* focused = focusWidget();
     hide();
+    if (focused != nullptr)
+        focused->setFocus(); // hiding has moved it on
     screens().show(DLGProblemas::screenName());
     m_session.setBank({});
     if (auto bank = LeerBanco(screens().resources()))

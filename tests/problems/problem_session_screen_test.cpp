@@ -385,6 +385,7 @@ private slots:
         QVERIFY(!bench->screens.loaded(u"DLGProblemas"_s));
         QVERIFY(screen->isVisible());
         QCOMPARE(statement(), u"P1"_s);
+        QTRY_COMPARE(bench->focusName(), u"TBRespuesta"_s);
     }
 
     void acceptingInTheEditorShowsTheScreenAgain()
@@ -505,7 +506,7 @@ private slots:
     void closingInTheMiddleOfADrawEndsIt_data()
     {
         QTest::addColumn<QString>("way");
-        for (const char* way : {"close box", "exit item", "Alt+F4", "main menu"})
+        for (const char* way : {"close box", "exit item", "Alt+F4", "main menu", "main screen"})
             QTest::newRow(way) << QString::fromLatin1(way);
     }
     void closingInTheMiddleOfADrawEndsIt()
@@ -618,8 +619,18 @@ private:
             bench->pick(u"MnuOpcSal"_s);
         else if (way == u"main menu"_s)
             bench->screens.unload(u"FormProblemas"_s);
+        else if (way == u"main screen"_s)
+            endProgram();
         else
             QTest::keyClick(screen, Qt::Key_F4, Qt::AltModifier);
+    }
+
+    /// What happens when the main menu is closed.
+    void endProgram()
+    {
+        bench->screens.setMainScreen(u"DLGSelProb"_s);
+        bench->screens.load(u"DLGSelProb"_s);
+        bench->screens.unload(u"DLGSelProb"_s);
     }
 
     std::unique_ptr<ScreenBench> bench;
