@@ -166,11 +166,11 @@ void FormProblemas::Command2_Click(int Index)
 void FormProblemas::MnuOpcGes_Click()
 {
     auto& editor = screens().load<DLGProblemas>(); // first: if it fails, this screen stays
-    editor.onClosed = [&set = screens()] { set.show(screenName()); };
-    QWidget* focused = focusWidget();
+    editor.onClosed = [&set = screens()] {
+        set.show(screenName()); // made afresh, if it was closed meanwhile
+        set.load<FormProblemas>().TBRespuesta->setFocus(); // hiding has moved the focus on
+    };
     hide();
-    if (focused != nullptr)
-        focused->setFocus(); // hiding has moved it on
     screens().show(DLGProblemas::screenName());
     m_session.setBank({});
     if (auto bank = LeerBanco(screens().resources()))
