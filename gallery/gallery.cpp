@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
 
@@ -51,7 +52,8 @@ QString Stage::text(const QString& box) const
     return control<QLineEdit>(box).text();
 }
 
-void Stage::photographBox(const std::function<void()>& opens, const QString& answer)
+void Stage::photographBox(
+    const std::function<void()>& opens, const QString& answer, const QString& typed)
 {
     QTimer camera;
     QObject::connect(&camera, &QTimer::timeout, &camera, [&] {
@@ -59,6 +61,8 @@ void Stage::photographBox(const std::function<void()>& opens, const QString& ans
         if (box == nullptr || !box->isVisible())
             return;
         camera.stop();
+        if (auto* edit = box->findChild<QLineEdit*>())
+            QTest::keyClicks(edit, typed);
         picture = box->grab();
         for (QPushButton* button : box->findChildren<QPushButton*>()) {
             if (button->text() == answer)
@@ -69,8 +73,9 @@ void Stage::photographBox(const std::function<void()>& opens, const QString& ans
     opens();
 }
 
-Gallery::Gallery(QString folder, const QString& resources)
+Gallery::Gallery(QString folder, const QString& resources, QStringList names)
     : m_folder(std::move(folder))
+    , m_names(std::move(names))
 {
     QDir().mkpath(m_folder);
     for (const QFileInfo& file : QDir(resources).entryInfoList(QDir::Files))
@@ -79,15 +84,20 @@ Gallery::Gallery(QString folder, const QString& resources)
 
 void Gallery::add(const QString& name, const QString& screen, const State& state)
 {
-    for (int factor : {1, 2}) {
-        Stage stage(screen, m_resources.path(), factor);
-        if (state)
-            state(stage);
-        QTest::qWait(20); // fonts and animations come to rest
-        const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
-        const QString suffix = factor == 1 ? QString() : u"@2"_s;
-        picture.save(u"%1/%2%3.png"_s.arg(m_folder, name, suffix));
-    }
+    if (m_names.isEmpty() || m_names.contains(name))
+        save(name, screen, state, 1);
+    if (m_names.isEmpty())
+        save(name + u"@2"_s, screen, state, 2);
+}
+
+void Gallery::save(const QString& file, const QString& screen, const State& state, double factor)
+{
+    Stage stage(screen, m_resources.path(), factor);
+    if (state)
+        state(stage);
+    QTest::qWait(20); // fonts and animations come to rest
+    const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
+    picture.save(u"%1/%2.png"_s.arg(m_folder, file));
 }
 
 } // namespace gallery

@@ -35,9 +35,10 @@ public:
     void press(const QString& box, Qt::Key key) const;
     QString text(const QString& box) const;
 
-    /// Does something that opens a box, keeps a picture of the box, and answers it with the
-    /// button of this caption.
-    void photographBox(const std::function<void()>& opens, const QString& answer);
+    /// Does something that opens a box, types into it where it is an input box, keeps a
+    /// picture of the box, and answers it with the button of this caption.
+    void photographBox(
+        const std::function<void()>& opens, const QString& answer, const QString& typed = {});
 
     /// What save() keeps instead of the screen: a box, or another screen.
     QPixmap picture;
@@ -59,14 +60,18 @@ class Gallery {
 public:
     using State = std::function<void(Stage&)>;
 
-    /// resources: the folder "Recursos" of the source tree; a copy of it is used.
-    Gallery(QString folder, const QString& resources);
+    /// resources: the folder "Recursos" of the source tree; a copy of it is used. With names,
+    /// only those pictures are made, at factor 1.
+    Gallery(QString folder, const QString& resources, QStringList names);
 
     /// Saves name.png at factor 1 and name@2.png at factor 2.
     void add(const QString& name, const QString& screen, const State& state = {});
 
 private:
+    void save(const QString& file, const QString& screen, const State& state, double factor);
+
     QString m_folder;
+    QStringList m_names;
     QTemporaryDir m_resources;
 };
 

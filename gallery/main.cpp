@@ -15,11 +15,19 @@ int main(int argc, char* argv[])
     ui::dress();
 
     const QStringList arguments = QApplication::arguments();
-    gallery::Gallery gallery(
-        arguments.value(1, u"gallery"_s), QString::fromUtf8(PIZARRIN_RESOURCES));
+    gallery::Gallery gallery(arguments.value(1, u"pictures"_s),
+        QString::fromUtf8(PIZARRIN_RESOURCES), arguments.mid(2));
     gallery::addMenu(gallery);
+    gallery::addCombinedOperations(gallery);
+    gallery::addFillTheGap(gallery);
+    gallery::addMultiplesDivisors(gallery);
     gallery::addMultiplicationTables(gallery);
     gallery::addProblems(gallery);
     gallery::addProblemsEditor(gallery);
+    gallery::addQuickTables(gallery);
+    gallery::addRepeatedSum(gallery);
+    gallery::addNumberRain(gallery);
+    gallery::addLongMultiplication(gallery);
+    gallery::addLongDivision(gallery);
     return 0;
 }

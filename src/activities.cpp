@@ -3,8 +3,17 @@
 #include "problems/bank_editor_screen.h"
 #include "problems/problem_session_screen.h"
 #include "problems/selection_screen.h"
+#include "tables/fill_the_gap_screen.h"
+#include "games/number_rain_screen.h"
 #include "tables/multiplication_tables_screen.h"
+#include "tables/quick_tables_screen.h"
+#include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
+#include "written/digit_dialog.h"
+#include "written/long_division_screen.h"
+#include "written/long_multiplication_screen.h"
+#include "written/combined_operations_screen.h"
+#include "written/multiples_divisors_screen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -55,4 +64,13 @@ void addScreens(ui::Screens& screens)
     screens.add<problems::DLGProblemas>();
     screens.add<problems::DLGSelProb>();
     screens.add<problems::FormProblemas>();
+    screens.add<tables::Form4>();
+    screens.add<tables::Form8>();
+    screens.add<tables::FrmMultHuecos>();
+    screens.add<games::Form5>();
+    screens.add<written::Dialog>();
+    screens.add<written::Form3>();
+    screens.add<written::Form6>();
+    screens.add<written::FRMCombi>();
+    screens.add<written::FrmMultidivi>();
 }

@@ -12,6 +12,14 @@ void seedByClock(RandomSource& random, const Clock& clock)
     random.seed((seconds + 1) * (minutes + 1) * (hours + 1));
 }
 
+void seedBySecondsTwice(RandomSource& random, const Clock& clock)
+{
+    const double seconds = clock.timeOfDay().second();
+    const double minutes = clock.timeOfDay().minute();
+    const double secondsAgain = clock.timeOfDay().second();
+    random.seed((seconds + 1) * (minutes + 1) * (secondsAgain + 1));
+}
+
 void seedByTimer(RandomSource& random, const Clock& clock)
 {
     random.seed(clock.timeOfDay().msecsSinceStartOfDay() / 1000.0);

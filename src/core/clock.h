@@ -24,6 +24,10 @@ public:
 /// order.
 void seedByClock(RandomSource& random, const Clock& clock);
 
+/// Seeds with (seconds + 1) × (minutes + 1) × (seconds + 1), each read separately, in that
+/// order: the second reading of the seconds may be a later one.
+void seedBySecondsTwice(RandomSource& random, const Clock& clock);
+
 /// Seeds with the seconds since midnight, fraction included.
 void seedByTimer(RandomSource& random, const Clock& clock);
 

@@ -20,6 +20,8 @@ void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& so
     for (int i = 0; i < 3; ++i)
         on(Command2.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
             &ExerciseScreen::Command2_Click, i);
+    if (places.clear.left < places.next.left)
+        setTabOrder(Command2[1], Command2[0]); // as they stand, from left to right
 }
 
 void ExerciseScreen::enterChecks(QWidget* answerBox)

@@ -10,6 +10,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +21,8 @@ namespace ui {
 namespace {
 
 constexpr double InputWidth = 420; // pixels at factor 1
+constexpr double LongestLine = 460;
+constexpr int BoxFrame = 160; // what a box needs beside its text
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
 /// Escape must not answer "No".
@@ -80,6 +85,21 @@ int run(Screen& owner, const QPointer<QDialog>& box)
     return result;
 }
 
+/// Lets the text be as wide as its longest line, up to a measure that grows with the font.
+/// Left alone, the box would wrap at the same number of pixels at every factor.
+void widen(const Box& box, const Screen& owner)
+{
+    auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    if (label == nullptr)
+        return;
+    const QFontMetrics metrics(box.font());
+    int longest = 0;
+    for (const QString& line : box.text().split(u'\n'))
+        longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
+    const int room = owner.screen()->availableGeometry().width() - BoxFrame;
+    label->setMinimumWidth(std::min({longest, qRound(LongestLine * owner.factor()), room}));
+}
+
 QPointer<Box> makeBox(Screen& owner, const QString& text, const QString& title, bool question)
 {
     QPointer<Box> box(new Box(parentOf(owner), question));
@@ -87,6 +107,7 @@ QPointer<Box> makeBox(Screen& owner, const QString& text, const QString& title, 
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
+    widen(*box, owner);
     return box;
 }
 

@@ -78,7 +78,7 @@ void FocusRing::paintEvent(QPaintEvent*)
     const double width = look::RingWidth * Screen::factorOf(this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(look::Focus), width));
+    painter.setPen(QPen(parentWidget()->palette().color(QPalette::Highlight), width));
     const double inset = width / 2;
     const double radius = Radius * Screen::factorOf(this);
     painter.drawRoundedRect(

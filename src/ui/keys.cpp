@@ -109,7 +109,7 @@ QChar typedCharacter(const QKeyEvent& event)
     default:
         break;
     }
-    if (event.text().isEmpty() || (event.modifiers() & Qt::AltModifier))
+    if (event.text().isEmpty() || (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)))
         return {};
     return event.text().front();
 }

@@ -24,7 +24,9 @@ namespace {
 constexpr double MenuHeight = 8700 / TwipsPerPixel; // what the factor of all screens goes by
 constexpr double SmallestFactor = 0.5;
 
-/// Runs a callback when the watched control gets the focus.
+/// Runs a callback when the watched control gets the focus. Getting it back from a box, a
+/// menu or another program is no news: the control had it all the time as far as its screen
+/// is concerned.
 class FocusFilter final : public QObject {
 public:
     FocusFilter(QObject* control, std::function<void()> handler)
@@ -36,13 +38,24 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::FocusIn)
+        if (event->type() == QEvent::FocusOut)
+            m_lent = isLoan(event);
+        else if (event->type() == QEvent::FocusIn
+            && !(std::exchange(m_lent, false) && isLoan(event)))
             m_handler();
         return QObject::eventFilter(watched, event);
     }
 
 private:
+    static bool isLoan(const QEvent* event)
+    {
+        const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
+        return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason
+            || reason == Qt::MenuBarFocusReason;
+    }
+
     std::function<void()> m_handler;
+    bool m_lent = false;
 };
 
 } // namespace
@@ -280,10 +293,20 @@ void Screen::setDesignSize(double width, double height)
 {
     m_designWidth = width;
     m_designHeight = height;
-    if (isMaximized() || isFullScreen())
+    if (isMaximized() || isFullScreen()) {
         layOut();
-    else
-        resizeToDesign(m_factor);
+        return;
+    }
+    resizeToDesign(m_factor);
+    keepOnDisplay();
+}
+
+void Screen::keepOnDisplay()
+{
+    const QRect available = screen()->availableGeometry();
+    const int below = frameGeometry().bottom() - available.bottom();
+    if (below > 0 && isVisible())
+        move(x(), std::max(available.top(), y() - below));
 }
 
 void Screen::comeUp()

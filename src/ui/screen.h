@@ -92,7 +92,8 @@ protected:
     double designHeight() const { return m_designHeight; }
 
     /// Gives the canvas another design size (twips). The window grows or shrinks with it at
-    /// the same factor; where the display is too small, the factor gives way.
+    /// the same factor, and moves up where it would leave the display; where the display is
+    /// too small, the factor gives way.
     void setDesignSize(double width, double height);
 
     // Controls. Places are in twips on the canvas, or in the frame that the control was made
@@ -205,6 +206,7 @@ private:
     void report(const QString& text);
     void comeUp();
     void resizeToDesign(double factor);
+    void keepOnDisplay();
     void scaleTo(double factor);
     void layOut();
     double menuBarPixels() const;

@@ -197,6 +197,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         return 0;
     case SH_RequestSoftwareInputPanel:
         return 0;
+    case SH_DialogButtonBox_ButtonsHaveIcons: // they would push the captions out
+        return 0;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
     }

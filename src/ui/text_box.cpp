@@ -10,13 +10,13 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 namespace ui {
 
 namespace {
 
-constexpr double MarkSize = 18; // pixels at factor 1
-constexpr double MarkGap = 8;
+constexpr double MarkGap = 8; // pixels at factor 1
 
 void drawTick(QPainter& painter, const QRectF& square)
 {
@@ -129,12 +129,20 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event)
 VerdictBox::VerdictBox(QWidget* parent)
     : TextBox(Kind::Display, parent)
 {
-    setExtraMargins(MarkSize + MarkGap, 0);
+    setMarkSize(m_markSize);
+}
+
+void VerdictBox::setMarkSize(double pixels)
+{
+    m_markSize = pixels;
+    setExtraMargins(m_markSize + MarkGap, 0);
 }
 
 void VerdictBox::setVerdict(const QString& text, Mark mark)
 {
     m_mark = mark;
+    if (m_palette)
+        setPalette(*std::exchange(m_palette, std::nullopt));
     setText(text);
     update();
     if (!text.isEmpty()) {
@@ -143,17 +151,28 @@ void VerdictBox::setVerdict(const QString& text, Mark mark)
     }
 }
 
+void VerdictBox::retire()
+{
+    m_mark = Mark::None;
+    if (!m_palette)
+        m_palette = palette();
+    QPalette quiet = *m_palette;
+    quiet.setColor(QPalette::Text, QColor(look::Quiet));
+    setPalette(quiet);
+    update();
+}
+
 void VerdictBox::paintEvent(QPaintEvent* event)
 {
     TextBox::paintEvent(event);
     if (m_mark == Mark::None || text().isEmpty())
         return;
     const double factor = Screen::factorOf(this);
-    const double size = std::min(MarkSize * factor, height() - 2.0);
+    const double size = std::min(m_markSize * factor, height() - 2.0);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor colour(m_mark == Mark::Right ? look::Right : look::Wrong);
-    painter.setPen(QPen(colour, 3.2 * factor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(colour, size * 0.18, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QRectF square(2 * factor, (height() - size) / 2, size, size);
     if (m_mark == Mark::Right)
         drawTick(painter, square);

@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 
+#include <optional>
+
 namespace ui {
 
 /// A line of text: an entry box, or a text that is only shown. A selected text stays
@@ -49,13 +51,21 @@ public:
     explicit VerdictBox(QWidget* parent);
 
     void setVerdict(const QString& text, Mark mark);
+    /// What the verdict was about is gone: its text stays, quiet and without its mark, until
+    /// the next verdict.
+    void retire();
     Mark mark() const { return m_mark; }
+
+    /// The side of the tick or cross, in pixels at factor 1.
+    void setMarkSize(double pixels);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Mark m_mark = Mark::None;
+    double m_markSize = 18;
+    std::optional<QPalette> m_palette; ///< of the next verdict, while one is retired
 };
 
 } // namespace ui

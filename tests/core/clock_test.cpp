@@ -27,6 +27,16 @@ private slots:
         QCOMPARE(random.seeds, std::vector<double>{86400.0});
     }
 
+    void seedBySecondsTwiceReadsNoHours()
+    {
+        FakeClock clock;
+        clock.readings = {QTime(1, 2, 59), QTime(1, 3, 0), QTime(4, 5, 6)};
+        ScriptedRandom random;
+        core::seedBySecondsTwice(random, clock);
+        QCOMPARE(random.seeds, std::vector<double>{60.0 * 4 * 7});
+        QVERIFY(clock.readings.empty());
+    }
+
     void seedByTimerKeepsTheFraction()
     {
         FakeClock clock(QTime(0, 1, 1, 250));

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
+#include <QWindow>
 
 #include <deque>
 #include <functional>
@@ -62,6 +63,8 @@ private:
     {
         auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (box == nullptr || !box->isVisible() || box == m_answered)
+            return;
+        if (!box->windowHandle()->isExposed()) // in a real window a click would come too early
             return;
         m_answered = box;
         keep(*box);

@@ -55,6 +55,7 @@ public:
     using Screen::canvas;
     using Screen::moveTo;
     using Screen::onEnter;
+    using Screen::onGotFocus;
     using Screen::onKeyDown;
     using Screen::onKeyPress;
     using Screen::onKeyUp;

@@ -28,6 +28,26 @@ private slots:
         QCOMPARE(boxes.icons, {QMessageBox::NoIcon});
     }
 
+    void linesOfAMessageStayWholeAtEveryFactor_data()
+    {
+        QTest::addColumn<double>("factor");
+
+        QTest::newRow("1") << 1.0;
+        QTest::newRow("1.3") << 1.3;
+    }
+    void linesOfAMessageStayWholeAtEveryFactor()
+    {
+        QFETCH(double, factor);
+        screen->resize((QSizeF(screen->size()) * factor / screen->factor()).toSize());
+        const QString line = u"Número de operaciones: 100. Número total de errores: 100."_s;
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog& box) {
+            const auto& label = ScreenBench::find<QLabel>(box, u"qt_msgbox_label"_s);
+            QVERIFY(label.width() >= label.fontMetrics().horizontalAdvance(line));
+        };
+        ui::MessageBox::show(*screen, line + u"\r\nfin"_s);
+    }
+
     void messageHasItsTitleAndIcon()
     {
         BoxAnswerer boxes({u"Aceptar"_s, u"Aceptar"_s, u"Aceptar"_s});

@@ -63,6 +63,8 @@ private slots:
         QCOMPARE(typed(Qt::Key_Delete, u"\x7f"_s), QChar());
         QCOMPARE(typed(Qt::Key_Left, {}), QChar());
         QCOMPARE(typed(Qt::Key_H, u"h"_s, Qt::AltModifier), QChar());
+        QCOMPARE(typed(Qt::Key_V, u"v"_s, Qt::ControlModifier), QChar());
+        QCOMPARE(typed(Qt::Key_V, u"\x16"_s, Qt::ControlModifier), QChar());
     }
 
     void downPressAndUpAreThreeEvents()

@@ -235,6 +235,27 @@ private slots:
         QCOMPARE(bench->control<QAction>(u"MnuOpcLis(2)"_s).text(), u"&3"_s);
     }
 
+    void focusComesOnceHoweverOftenItIsLent()
+    {
+        int times = 0;
+        screen->onGotFocus(screen->entry, [&] { ++times; });
+        screen->command->setFocus();
+        screen->entry->setFocus();
+        QCOMPARE(times, 1);
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(!screen->entry->hasFocus());
+        screen->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(screen));
+        QVERIFY(screen->entry->hasFocus());
+        QCOMPARE(times, 1);
+        screen->command->setFocus();
+        screen->entry->setFocus();
+        QCOMPARE(times, 2);
+    }
+
     void ringSurroundsTheFocus()
     {
         const auto hasRing = [&](const QWidget* control) {

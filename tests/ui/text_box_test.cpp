@@ -100,6 +100,38 @@ private slots:
         QVERIFY(!shows(ui::look::Right) && !shows(ui::look::Wrong));
     }
 
+    void retiredVerdictKeepsItsTextAlone()
+    {
+        ui::VerdictBox verdict(screen);
+        const auto colour = [&] { return verdict.palette().color(QPalette::Text); };
+        verdict.setVerdict(u"resultado incorrecto "_s, ui::VerdictBox::Mark::Wrong);
+        QCOMPARE(colour(), QColor(ui::look::Ink));
+        verdict.retire();
+        QCOMPARE(verdict.text(), u"resultado incorrecto "_s);
+        QCOMPARE(verdict.mark(), ui::VerdictBox::Mark::None);
+        QCOMPARE(colour(), QColor(ui::look::Quiet));
+        verdict.retire();
+        verdict.setVerdict(u"Resultado correcto"_s, ui::VerdictBox::Mark::Right);
+        QCOMPARE(verdict.mark(), ui::VerdictBox::Mark::Right);
+        QCOMPARE(colour(), QColor(ui::look::Ink));
+    }
+
+    void verdictKeepsThePaletteOfItsScreen()
+    {
+        ui::VerdictBox verdict(screen);
+        QPalette own = verdict.palette();
+        own.setColor(QPalette::Base, Qt::red);
+        own.setColor(QPalette::Text, Qt::blue);
+        verdict.setPalette(own);
+        verdict.setVerdict(u"Resultado correcto"_s, ui::VerdictBox::Mark::Right);
+        QCOMPARE(verdict.palette().color(QPalette::Base), QColor(Qt::red));
+        QCOMPARE(verdict.palette().color(QPalette::Text), QColor(Qt::blue));
+        verdict.retire();
+        QCOMPARE(verdict.palette().color(QPalette::Base), QColor(Qt::red));
+        verdict.setVerdict(u"Resultado correcto"_s, ui::VerdictBox::Mark::Right);
+        QCOMPARE(verdict.palette().color(QPalette::Text), QColor(Qt::blue));
+    }
+
 private:
     std::unique_ptr<ScreenBench> bench;
     SampleScreen* screen = nullptr;

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/text_box.h"
+
+namespace tables {
+
+/// The verdict of the quick tables as a patch of plain colour, to be seen from the corner of
+/// the eye, with a large tick or cross beside it for those who do not tell the colours apart.
+class VerdictPatch : public ui::VerdictBox {
+public:
+    explicit VerdictPatch(QWidget* parent);
+
+    /// The text is written in the patch's own colour, for screen readers alone.
+    void setPatch(const QString& text, Mark mark, const QColor& colour);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// The time that is left, as a bar that empties. Not to be seen before it is first set.
+class CountdownBar : public QWidget {
+public:
+    explicit CountdownBar(QWidget* parent);
+
+    /// What is left of the whole, 0 to 1, in a colour.
+    void setRemaining(double share, const QColor& colour);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    double m_share = 0;
+    QColor m_colour;
+};
+
+} // namespace tables

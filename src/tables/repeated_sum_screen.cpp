@@ -1,0 +1,163 @@
+#include "tables/repeated_sum_screen.h"
+
+#include "core/clock.h"
+#include "core/errors.h"
+#include "core/numbers.h"
+#include "tables/blackboard.h"
+#include "ui/screens.h"
+
+using namespace Qt::StringLiterals;
+using ui::look::Family;
+using Mark = ui::VerdictBox::Mark;
+
+namespace tables {
+
+namespace {
+
+constexpr double Width = 4680;
+constexpr double Height = 7590;
+
+constexpr ui::look::Font MessageFont{Family::Arial, 14};
+constexpr ui::look::Font SumFont{Family::Arial, 20, true};
+constexpr ui::look::Font FactorFont{Family::Arial, 26, true};
+constexpr ui::look::Font VerdictFont{Family::Arial, 16, true};
+constexpr ui::look::Font CommandFont{Family::Arial, 12, true};
+constexpr ui::look::Font CounterFont{Family::CourierNew, 12};
+
+/// The sign between the factors. The first factor's box covers its left part: its text
+/// stands in the middle of what is left.
+class Sign final : public ui::TextBox {
+public:
+    explicit Sign(QWidget* parent)
+        : TextBox(Kind::Display, parent)
+    {
+        constexpr double Covered = 300 / ui::TwipsPerPixel;
+        setExtraMargins(Covered, 0);
+    }
+};
+
+} // namespace
+
+QString Form4::screenName()
+{
+    return u"Form4"_s;
+}
+
+Form4::Form4(ui::Screens& screens)
+    : ExerciseScreen(screens, screenName(), u"SUMA REPETIDA"_s, Width, Height)
+    , m_model(screens.random())
+{
+    makeBoxes();
+    makeButtons();
+}
+
+void Form4::makeBoxes()
+{
+    displayBox(u"TbMensaje"_s, {200, 500, 4400, 500}, MessageFont, u"Instrucciones"_s,
+        u"Escribe esta suma en forma de multiplicación."_s);
+
+    TbSuma =
+        add(new BoardText(canvas()), u"TbSuma"_s, ui::TwipRect{500, 1500, 3800, 800}, SumFont);
+    TbSuma->setAccessibleName(u"Suma"_s);
+
+    Text3[1] =
+        add(new Sign(canvas()), u"Text3(1)"_s, ui::TwipRect{1900, 2800, 1000, 500}, FactorFont);
+    Text3[1]->setAccessibleName(u"Por"_s);
+    Text3[1]->setText(u"X"_s);
+    Text3[0] = entryBox(u"Text3(0)"_s, {1200, 2800, 1000, 500}, FactorFont, u"Primer factor"_s);
+    Text3[2] = entryBox(u"Text3(2)"_s, {3100, 2800, 1000, 500}, FactorFont, u"Segundo factor"_s);
+    for (ui::TextBox* box : Text3) {
+        box->setAlignment(Qt::AlignCenter);
+        enterChecks(box);
+    }
+
+    Text1 = verdictBox(u"Text1"_s, {900, 5000, 3000, 500}, u"Resultado"_s);
+    setControlFont(Text1, VerdictFont);
+    tbResultados = displayBox(u"tbResultados"_s, {900, 7000, 3000, 500}, CounterFont,
+        u"Contador"_s, m_model.counters().FormatoAlineado());
+    tbResultados->setAlignment(Qt::AlignCenter);
+}
+
+void Form4::makeButtons()
+{
+    makeCommands({.check = {1650, 4000, 1500, 500},
+        .next = {1800, 6000, 1200, 500},
+        .clear = {400, 6000, 1200, 500},
+        .solution = {3200, 6000, 1200, 500}});
+    for (QWidget* command : Command2)
+        setControlFont(command, CommandFont);
+}
+
+void Form4::Form_Load()
+{
+    core::seedBySecondsTwice(screens().random(), screens().clock());
+    NuevaSuma();
+    Text3[0]->setFocus();
+}
+
+void Form4::NuevaSuma()
+{
+    m_model.NuevaSuma();
+    Command2[0]->setEnabled(m_model.canContinue());
+    TbSuma->setPlainText(m_model.sumText());
+    Text1->setVerdict({}, Mark::None);
+    clearAnswer();
+    TbSuma->setFocus();
+}
+
+void Form4::clearAnswer()
+{
+    Text3[0]->clear();
+    Text3[2]->clear();
+}
+
+void Form4::Command1_Click()
+{
+    const RepeatedSum::Verdict verdict =
+        m_model.judge(core::readNumber(Text3[0]->text()), core::readNumber(Text3[2]->text()));
+    const bool right = verdict == RepeatedSum::Verdict::Right;
+    Text1->setVerdict(right ? u"Respuesta correcta"_s : u"Respuesta incorrecta"_s,
+        right ? Mark::Right : Mark::Wrong);
+    count(verdict);
+    Command2[0]->setEnabled(m_model.canContinue());
+    tbResultados->setText(m_model.counters().FormatoAlineado());
+    if (right)
+        Command2[0]->setFocus(); // it keeps where it is while "&Continuar" is disabled
+}
+
+void Form4::count(RepeatedSum::Verdict verdict)
+{
+    try {
+        m_model.count(verdict);
+    } catch (const core::OverflowError&) {
+        // This screen shows no box, whatever fails: full counters stay as they are.
+    }
+}
+
+void Form4::Command2_Click(int Index)
+{
+    switch (Index) {
+    case 0:
+        NuevaSuma();
+        Text3[0]->setFocus();
+        break;
+    case 1:
+        clearAnswer();
+        Text3[0]->setFocus();
+        break;
+    default:
+        showSolution();
+        break;
+    }
+}
+
+void Form4::showSolution()
+{
+    m_model.showSolution();
+    Text3[0]->setText(QString::number(m_model.addend()));
+    Text3[2]->setText(QString::number(m_model.times()));
+    Command2[0]->setEnabled(m_model.canContinue());
+    Text1->setVerdict(m_model.solutionText(), Mark::None);
+}
+
+} // namespace tables

@@ -1,0 +1,180 @@
+#include "ui/squared_box.h"
+
+#include "ui/look.h"
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QPainter>
+#include <QStyleOptionFrame>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+namespace {
+
+constexpr double DigitShare = 0.8; // of the height of a square
+constexpr double LargestType = 34; // pixels at factor 1
+// QLineEdit's own, inside the margins that can be set; right-aligned text ends two pixels
+// before the inner one.
+constexpr int InnerMarginX = 2;
+constexpr int InnerMarginY = 1;
+constexpr int AlignedGap = 2;
+
+} // namespace
+
+int SquaredBox::fittingSize(QFont font, double width, double height)
+{
+    constexpr int Reference = 200;
+    font.setPixelSize(Reference);
+    const QFontMetricsF metrics(font);
+    const double byHeight = height * DigitShare / metrics.tightBoundingRect(u"0"_s).height();
+    const double byWidth = width / metrics.horizontalAdvance(u'0');
+    return std::max(1, static_cast<int>(Reference * std::min(byHeight, byWidth)));
+}
+
+SquaredBox::SquaredBox(Kind kind, QWidget* parent)
+    : TextBox(kind, parent)
+{
+    setAlignment(Qt::AlignRight | Qt::AlignTop);
+    QPalette onPaper = palette();
+    m_highlight = onPaper.color(QPalette::Highlight);
+    onPaper.setColor(QPalette::Base, Qt::transparent);
+    onPaper.setColor(QPalette::Highlight, Qt::transparent); // drawn by the box, in squares
+    setPalette(onPaper);
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
+    hideOrdinaryCaret();
+}
+
+void SquaredBox::setBlankRun(int blanks)
+{
+    m_blankRun = blanks;
+    setFactor(m_factor);
+}
+
+void SquaredBox::setSquare(double width, double height, double top)
+{
+    if (m_width == width && m_height == height && m_top == top)
+        return;
+    m_width = width;
+    m_height = height;
+    m_top = top;
+    setFactor(m_factor);
+}
+
+void SquaredBox::setLeftAligned(double indent)
+{
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_indent = indent;
+    setFactor(m_factor);
+}
+
+void SquaredBox::setFactor(double factor)
+{
+    m_factor = factor;
+    const double pixels = factor / TwipsPerPixel;
+    QFont type = font();
+    type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
+        std::max(1, static_cast<int>(LargestType * factor))));
+    type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+    const double advance = QFontMetricsF(type).horizontalAdvance(u'0');
+    const double spacing = m_width * pixels - advance;
+    type.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    type.setWordSpacing((1 - m_blankRun) * m_width * pixels); // added once to a run
+    setFont(type);
+
+    QStyleOptionFrame panel;
+    initStyleOption(&panel);
+    const QRect inner = style()->subElementRect(QStyle::SE_LineEditContents, &panel, this);
+    const double digit = QFontMetricsF(type).tightBoundingRect(u"0"_s).height();
+    const double baseline = m_top * pixels + (m_height * pixels + digit) / 2;
+    // The spacing stands behind each digit: half of it goes in front of the first one.
+    const int left = qRound(m_indent * pixels + spacing / 2) - InnerMarginX - inner.left();
+    const int top = qRound(baseline) - fontMetrics().ascent() - InnerMarginY - inner.top();
+    const int right =
+        inner.right() + 1 - InnerMarginX - AlignedGap - width() - qRound(spacing / 2);
+    setTextMargins(left, top, right, inner.bottom() + 1 - height());
+}
+
+void SquaredBox::write(const QString& text)
+{
+    setText(text);
+    setCursorPosition(0);
+}
+
+void SquaredBox::focusInEvent(QFocusEvent*)
+{
+    // For Tab and access keys QLineEdit would select the text: the next digit would wipe it.
+    QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
+    TextBox::focusInEvent(&plain);
+}
+
+void SquaredBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    TextBox::inputMethodEvent(event);
+    if (event->preeditString().isEmpty())
+        hideOrdinaryCaret();
+}
+
+void SquaredBox::hideOrdinaryCaret()
+{
+    QInputMethodEvent hidden({}, {{QInputMethodEvent::Cursor, 0, 0, {}}});
+    TextBox::inputMethodEvent(&hidden);
+}
+
+void SquaredBox::paintEvent(QPaintEvent* event)
+{
+    if (hasSelectedText())
+        QPainter(this).fillRect(
+            strip(lineBefore(selectionStart()), lineBefore(selectionEnd())), m_highlight);
+    TextBox::paintEvent(event);
+    if (hasFocus() && !isReadOnly())
+        QPainter(this).fillRect(caret(), QColor(look::Focus));
+}
+
+double SquaredBox::squarePixels() const
+{
+    return m_width * m_factor / TwipsPerPixel;
+}
+
+/// How many squares the text from an index on takes up.
+int SquaredBox::columnsFrom(int index) const
+{
+    const QString rest = text().sliced(index);
+    const auto runs = m_blankRun > 1 ? rest.count(QString(m_blankRun, u' ')) : 0;
+    return static_cast<int>(rest.size() - runs * (m_blankRun - 1));
+}
+
+/// Where the line in front of a character runs, in pixels from the left edge.
+double SquaredBox::lineBefore(int index) const
+{
+    const bool fromLeft = alignment() & Qt::AlignLeft;
+    const double indent = m_indent * m_factor / TwipsPerPixel;
+    const double length = columnsFrom(0) * squarePixels();
+    if (indent + length <= width() + 1)
+        return (fromLeft ? indent + length : width()) - columnsFrom(index) * squarePixels();
+    // Too long for the box, the text may be scrolled; then only the caret tells by how much.
+    const double line = fromLeft ? indent : width();
+    const double steps = std::round((cursorRect().center().x() - line) / squarePixels());
+    return line + (steps + columnsFrom(cursorPosition()) - columnsFrom(index)) * squarePixels();
+}
+
+QRect SquaredBox::strip(double left, double right) const
+{
+    const double pixels = m_factor / TwipsPerPixel;
+    return QRect(QPoint(qRound(left), qRound(m_top * pixels)),
+        QPoint(qRound(right) - 1, qRound((m_top + m_height) * pixels) - 1));
+}
+
+QRect SquaredBox::caret() const
+{
+    const int thickness = std::max(1, qRound(2 * m_factor));
+    const int at = qRound(lineBefore(cursorPosition())) - thickness / 2;
+    const int left = std::clamp(at, 0, width() - thickness);
+    return strip(left, left + thickness);
+}
+
+} // namespace ui

@@ -1,0 +1,62 @@
+#include "ui/squared_paper.h"
+
+#include "ui/look.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ui {
+
+namespace {
+
+/// Calls draw with the pixel of every line of a pitch that falls within from to to; first
+/// and pitch are in twips, pixels are on the parent.
+template <typename Draw>
+void forEachLine(double first, double pitch, double factor, int from, int to, Draw draw)
+{
+    for (double step = std::floor((from * TwipsPerPixel / factor - first) / pitch);; ++step) {
+        const int pixel = toPixels({first + step * pitch, 0, 0, 0}, factor).left();
+        if (pixel >= to)
+            return;
+        if (pixel > from)
+            draw(pixel - from);
+    }
+}
+
+} // namespace
+
+SquaredPaper::SquaredPaper(QWidget* parent)
+    : QWidget(parent)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void SquaredPaper::setSquare(const TwipRect& square)
+{
+    m_square = square;
+    update();
+}
+
+void SquaredPaper::setFactor(double factor)
+{
+    m_factor = factor;
+    update();
+}
+
+void SquaredPaper::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const int pen = std::max(1, static_cast<int>(m_factor));
+    const QColor grid(look::Grid);
+    painter.fillRect(rect(), QColor(look::Card));
+    forEachLine(m_square.left, m_square.width, m_factor, x(), x() + width(),
+        [&](int at) { painter.fillRect(at - pen / 2, 0, pen, height(), grid); });
+    forEachLine(m_square.top, m_square.height, m_factor, y(), y() + height(),
+        [&](int at) { painter.fillRect(0, at - pen / 2, width(), pen, grid); });
+    painter.setPen(QPen(QColor(look::Line), pen));
+    painter.drawRect(QRectF(rect()).adjusted(pen / 2.0, pen / 2.0, -pen / 2.0, -pen / 2.0));
+}
+
+} // namespace ui

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/placement.h"
+
+#include <QWidget>
+
+namespace ui {
+
+/// A sheet of squared paper to lie behind the boxes of an operation. Its lines run at the
+/// pixels at which controls placed on them begin and end, at every factor.
+class SquaredPaper : public QWidget, public Scalable {
+public:
+    explicit SquaredPaper(QWidget* parent);
+
+    /// One of the squares, in twips on the parent; all others line up with it.
+    void setSquare(const TwipRect& square);
+
+    void setFactor(double factor) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    TwipRect m_square{0, 0, 250, 250};
+    double m_factor = 1;
+};
+
+} // namespace ui

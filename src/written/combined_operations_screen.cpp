@@ -1,0 +1,104 @@
+#include "written/combined_operations_screen.h"
+
+#include "core/clock.h"
+#include "core/numbers.h"
+#include "ui/screens.h"
+#include "written/scratch_area.h"
+
+using namespace Qt::StringLiterals;
+using ui::look::Family;
+
+namespace written {
+
+namespace {
+
+constexpr double Width = 10500;
+constexpr double Height = 7290;
+
+constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
+constexpr ui::look::Font ScratchFont{Family::CourierNew, 20};
+constexpr ui::look::Font AnswerFont{Family::CourierNew, 26, true};
+constexpr ui::look::Font LabelFont{Family::Arial, 17, true};
+
+} // namespace
+
+QString FRMCombi::screenName()
+{
+    return u"FRMCombi"_s;
+}
+
+FRMCombi::FRMCombi(ui::Screens& screens)
+    : ExerciseScreen(screens, screenName(), u"Operaciones combinadas "_s, Width, Height)
+    , m_model(screens.random())
+{
+    const QString sample = u"2 x 8 + (5 * 9 - 2 -3)"_s;
+    TBInfo = displayBox(u"TBInfo"_s, {240, 180, 10020, 420}, ui::look::Instruction,
+        u"Instrucción"_s, u"Resuelva la operación siguiendo las reglas de precedencia"_s);
+
+    TBOperación = displayBox(
+        u"TBOperación"_s, {240, 720, 10020, 840}, ExpressionFont, u"Operación"_s, sample);
+    TBOperación->setAlignment(Qt::AlignCenter);
+    TBOperación->setToolTip(u"Operación a realizar"_s);
+
+    TBCálculos =
+        add(new ScratchArea(canvas()), u"TBCálculos"_s, {240, 1680, 10020, 3420}, ScratchFont);
+    TBCálculos->setAccessibleName(u"Cálculos"_s);
+    TBCálculos->setToolTip(u"Haga aquí sus cálculos"_s);
+    TBCálculos->setPlainText(sample);
+
+    TBResultado = entryBox(u"TBResultado"_s, {1680, 5400, 1740, 720}, AnswerFont, u"Resultado"_s);
+    TBResultado->setAlignment(Qt::AlignCenter);
+    enterChecks(TBResultado);
+    Label1 = label(u"Label1"_s, u"&Resultado"_s, {240, 5400, 1380, 720}, LabelFont, TBResultado);
+    Text1 = verdictBox(u"Text1"_s, {7080, 5400, 3180, 720}, u"Comprobación"_s);
+
+    makeCommands({.check = {3660, 5460, 3180, 600},
+                     .next = {3660, 6420, 3180, 600},
+                     .clear = {240, 6420, 3180, 600},
+                     .solution = {7080, 6420, 3180, 600}},
+        u"&Ver Solución"_s);
+}
+
+void FRMCombi::Form_Load()
+{
+    core::seedByTimer(screens().random(), screens().clock());
+    newExpression();
+}
+
+void FRMCombi::newExpression()
+{
+    m_model.newExpression();
+    Text1->retire();
+    TBOperación->setText(m_model.text());
+    TBCálculos->setPlainText(m_model.text());
+    TBCálculos->moveCursor(QTextCursor::End);
+    TBResultado->setFocus();
+    TBResultado->selectAll(); // an answer that still stands there gives way to the next one
+}
+
+void FRMCombi::Command1_Click()
+{
+    using Verdict = CombinedOperations::Verdict;
+    using Mark = ui::VerdictBox::Mark;
+    const Verdict verdict = m_model.check(core::readNumber(TBResultado->text()));
+    Text1->setVerdict(CombinedOperations::verdictText(verdict),
+        verdict == Verdict::Right ? Mark::Right : Mark::Wrong);
+}
+
+void FRMCombi::Command2_Click(int Index)
+{
+    switch (Index) {
+    case 0:
+        newExpression();
+        break;
+    case 1:
+        TBResultado->clear();
+        TBResultado->setFocus();
+        break;
+    default:
+        TBResultado->setText(QString::number(m_model.solution()));
+        break;
+    }
+}
+
+} // namespace written

@@ -1,0 +1,199 @@
+#include "written/long_division.h"
+
+#include "core/errors.h"
+#include "core/numbers.h"
+#include "core/random.h"
+
+#include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace written {
+
+namespace {
+
+/// From 10^(digits-1) + 1 to 10^digits - 1; the largest is deliberately twice as likely.
+double drawNumber(core::RandomSource& random, int digits)
+{
+    const double limit = std::pow(10.0, digits);
+    const double excluded = std::pow(10.0, digits - 1);
+    double number = 0;
+    do {
+        number = std::floor(limit * static_cast<double>(random.next())) + 1;
+        if (!(number <= std::numeric_limits<qint32>::max()))
+            throw core::OverflowError(
+                u"Los números de %1 cifras son demasiado grandes para proponer una división. "
+                "Elige otro número de cifras en el menú Opciones."_s.arg(digits));
+    } while (number <= excluded);
+    return number == limit ? limit - 1 : number;
+}
+
+/// The text has the seven digits of single precision: 200 ÷ 17 is 11.76471, with no zero,
+/// though further digits of it are zeros.
+bool hasZeroOrIsShort(qint32 dividend, qint32 divisor)
+{
+    const auto quotient = static_cast<float>(static_cast<double>(dividend) / divisor);
+    return quotient < 10 || QString::number(static_cast<double>(quotient), 'g', 7).contains(u'0');
+}
+
+qint32 readWholePart(const QString& typed)
+{
+    const double whole = std::trunc(core::readNumber(typed));
+    if (whole < std::numeric_limits<qint32>::min() || whole > std::numeric_limits<qint32>::max())
+        return core::readInt32(typed); // words the error
+    return static_cast<qint32>(whole);
+}
+
+/// A line of squared paper has no room for more.
+core::Int16 typedLength(const QString& typed)
+{
+    constexpr qsizetype Longest = 60;
+    const qsizetype length = typed.trimmed().size();
+    if (length > Longest)
+        throw core::OverflowError(
+            u"El número tiene %1 caracteres: escribe como mucho %2."_s.arg(length).arg(Longest));
+    return {static_cast<int>(length)};
+}
+
+core::Int16 lineWidth(const DivisionSettings& settings)
+{
+    return settings.CifrasDividendo + 4 + settings.DecimalesCociente;
+}
+
+} // namespace
+
+LongDivision::LongDivision(core::RandomSource& random)
+    : m_random(random)
+{
+}
+
+QString LongDivision::operationText() const
+{
+    return u"%1 ÷ %2"_s.arg(Dividendo()).arg(Divisor());
+}
+
+GridText LongDivision::emptyWork() const
+{
+    return {u" %1"_s.arg(Dividendo()), m_AnchoLinea.value()};
+}
+
+void LongDivision::draw()
+{
+    start(m_settings);
+}
+
+void LongDivision::next()
+{
+    draw();
+    m_Pendiente = true;
+}
+
+void LongDivision::chooseDecimals(core::Int16 decimals)
+{
+    DivisionSettings settings = m_settings;
+    settings.DecimalesCociente = decimals;
+    start(settings);
+}
+
+void LongDivision::toggleProducts()
+{
+    DivisionSettings settings = m_settings;
+    settings.RestasIntermedias = !settings.RestasIntermedias;
+    start(settings);
+}
+
+void LongDivision::toggleForcedZeros()
+{
+    DivisionSettings settings = m_settings;
+    settings.ForzarCeros = !settings.ForzarCeros;
+    start(settings);
+}
+
+void LongDivision::start(const DivisionSettings& settings)
+{
+    const core::Int16 width = lineWidth(settings);
+    m_operands = drawOperands(settings);
+    m_AnchoLinea = width;
+    m_settings = settings;
+}
+
+LongDivision::Operands LongDivision::drawOperands(const DivisionSettings& settings) const
+{
+    Operands drawn;
+    do {
+        drawn.Dividendo = core::toInt32(drawNumber(m_random, settings.CifrasDividendo.value()));
+        drawn.Divisor = core::toInt32(drawNumber(m_random, settings.CifrasDivisor.value()));
+    } while (settings.ForzarCeros && !hasZeroOrIsShort(drawn.Dividendo, drawn.Divisor));
+    return drawn;
+}
+
+bool LongDivision::typeDividend(const QString& typed)
+{
+    if (typed.trimmed().isEmpty())
+        return false;
+    const qint32 dividend = readWholePart(typed);
+    DivisionSettings settings = m_settings;
+    settings.CifrasDividendo = typedLength(typed);
+    m_AnchoLinea = lineWidth(settings);
+    m_operands.Dividendo = dividend;
+    m_settings = settings;
+    return true;
+}
+
+bool LongDivision::typeDivisor(const QString& typed)
+{
+    const qint32 divisor = readWholePart(typed); // 0,5 would divide by 0 too
+    if (divisor == 0)
+        return false;
+    m_settings.CifrasDivisor = typedLength(typed);
+    m_operands.Divisor = divisor;
+    return true;
+}
+
+DivisionVerdict LongDivision::check(const QString& quotient, const GridText& work)
+{
+    const double remainder = core::readNumber(work.lastWrittenLine());
+    // Without a comma the position is 0, so that every character counts as a decimal.
+    const auto decimals = static_cast<int>(quotient.size() - (quotient.indexOf(u',') + 1));
+    const int wanted = m_settings.DecimalesCociente.value();
+    if (wanted > 0 && decimals < wanted && remainder > 0)
+        return DivisionVerdict::TooFewDecimals;
+    const bool right = isRight(core::readNumber(quotient), remainder, decimals);
+    const DivisionVerdict verdict = right ? DivisionVerdict::Right : DivisionVerdict::Wrong;
+    count(verdict);
+    return verdict;
+}
+
+bool LongDivision::isRight(double quotient, double remainder, int decimals) const
+{
+    const qint64 dividend = Dividendo(); // 64 bits: the smallest number ÷ -1 has room
+    const qint64 divisor = Divisor();
+    if (m_settings.DecimalesCociente == 0)
+        return remainder == static_cast<double>(dividend % divisor)
+            && quotient == static_cast<double>(dividend / divisor);
+    const double product = quotient * 100000 * static_cast<double>(divisor) / 100000;
+    const double sum = product + remainder / std::pow(10.0, decimals);
+    return core::roundHalfEven(sum) == static_cast<double>(dividend);
+}
+
+void LongDivision::count(DivisionVerdict verdict)
+{
+    if (!m_Pendiente)
+        return;
+    if (verdict == DivisionVerdict::Right)
+        m_counters.countRight();
+    else
+        m_counters.countWrong();
+    m_Pendiente = verdict == DivisionVerdict::Wrong;
+}
+
+WorkedDivision LongDivision::solve()
+{
+    WorkedDivision worked = ResuelveDivision(emptyWork(), Divisor(),
+        m_settings.DecimalesCociente.value(), m_settings.RestasIntermedias);
+    m_Pendiente = false;
+    return worked;
+}
+
+} // namespace written

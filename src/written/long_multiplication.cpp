@@ -1,0 +1,205 @@
+#include "written/long_multiplication.h"
+
+#include "core/errors.h"
+#include "core/numbers.h"
+#include "core/random.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace written {
+
+namespace {
+
+QString withoutLeadingBlanks(const QString& text)
+{
+    qsizetype at = 0;
+    while (at < text.size() && text[at] == u' ')
+        ++at;
+    return text.sliced(at);
+}
+
+/// The whole number typed, cut towards minus infinity; infinite when a double cannot hold it.
+std::optional<double> readFactor(QStringView typed)
+{
+    const std::optional<double> number = core::parseNumber(typed);
+    if (!number)
+        return std::nullopt;
+    // The reader answers a number beyond every double with the largest one there is.
+    if (std::abs(*number) == std::numeric_limits<double>::max())
+        return std::numeric_limits<double>::infinity();
+    return std::floor(*number);
+}
+
+} // namespace
+
+LongMultiplication::LongMultiplication(core::RandomSource& random)
+    : m_random(random)
+{
+}
+
+void LongMultiplication::NuevaMultiplicacion()
+{
+    const double factor1 = drawFactor(m_CifrasFactor1);
+    const double factor2 = m_CualquierCifra ? drawFactor(m_CifrasFactor2) : drawChosenDigits();
+    if (!prepare({factor1, factor2, factor1 * factor2, true, {}}))
+        throw core::OverflowError(
+            u"Los factores de %1 y %2 cifras son demasiado grandes: elige menos cifras en el menú Opciones."_s
+                .arg(m_CifrasFactor1.value())
+                .arg(m_CifrasFactor2.value()));
+}
+
+double LongMultiplication::drawFactor(core::Int16 digits)
+{
+    const double limit = std::pow(10.0, digits.value());
+    if (!std::isfinite(limit))
+        return limit;
+    const double smallest = std::pow(10.0, digits.value() - 1);
+    double factor = 0;
+    do
+        factor = std::floor(limit * static_cast<double>(m_random.next())) + 1;
+    while (factor <= smallest || factor == limit);
+    return factor;
+}
+
+double LongMultiplication::drawChosenDigits()
+{
+    QString digits;
+    QString allowed = m_CifrasElegidas;
+    for (int place = 0; place < m_CifrasFactor2.value(); ++place) {
+        const core::Int16 drawn =
+            core::drawInteger(m_random, static_cast<int>(allowed.size()), 0);
+        digits += allowed[drawn.value()];
+        allowed = m_CifrasElegidas + u'0'; // zeros everywhere but in front
+    }
+    return readFactor(digits).value_or(0);
+}
+
+bool LongMultiplication::prepare(Exercise exercise)
+{
+    if (!std::isfinite(exercise.product))
+        return false;
+    exercise.rows = partialProducts(exercise.factor1, exercise.factor2);
+    m_exercise = std::move(exercise);
+    return true;
+}
+
+QStringList LongMultiplication::partialProducts(double factor1, double factor2) const
+{
+    QStringList rows;
+    const QString digits = core::wholeText(factor2);
+    for (qsizetype place = 0; place < digits.size(); ++place) {
+        const QChar digit = digits[digits.size() - 1 - place];
+        if (m_OcultarCeros && digit == u'0')
+            continue;
+        const int value = digit.isDigit() ? digit.digitValue() : 0; // a minus has a row too
+        rows += core::wholeText(value * factor1) + QString(place, u' ');
+    }
+    return rows;
+}
+
+QString LongMultiplication::factor1Text() const
+{
+    return core::wholeText(Factor1());
+}
+
+QString LongMultiplication::factor2Text() const
+{
+    return (m_exercise.hasSign ? u"x     "_s : QString()) + core::wholeText(Factor2());
+}
+
+QString LongMultiplication::resultText() const
+{
+    return core::wholeText(Producto());
+}
+
+bool LongMultiplication::firstRowIsResult() const
+{
+    return core::wholeText(Factor2()).size() == 1;
+}
+
+void LongMultiplication::chooseDigits(const QString& digits)
+{
+    m_CualquierCifra = digits.isEmpty();
+    m_CifrasElegidas = digits;
+}
+
+QString LongMultiplication::digitsCaption() const
+{
+    return u"&Seleccionar (%1) ..."_s.arg(m_CifrasElegidas);
+}
+
+QString LongMultiplication::zerosCaption() const
+{
+    return u"&Ocultar ceros intermedios "_s + (m_OcultarCeros ? u"(Si)"_s : u"(no)"_s);
+}
+
+TypedFactor LongMultiplication::typeFactor1(QStringView typed)
+{
+    const std::optional<double> factor = readFactor(typed);
+    return factor ? replaceFactors(*factor, Factor2(), false) : TypedFactor::Ignored;
+}
+
+TypedFactor LongMultiplication::typeFactor2(QStringView typed)
+{
+    const std::optional<double> factor = readFactor(typed);
+    if (!factor)
+        return TypedFactor::Ignored;
+    const TypedFactor outcome = replaceFactors(Factor1(), *factor, true);
+    if (outcome == TypedFactor::Accepted)
+        m_CifrasFactor2 = static_cast<int>(core::wholeText(*factor).size());
+    return outcome;
+}
+
+TypedFactor LongMultiplication::replaceFactors(double factor1, double factor2, bool hasSign)
+{
+    return prepare({factor1, factor2, factor1 * factor2, hasSign, {}}) ? TypedFactor::Accepted
+                                                                       : TypedFactor::TooLarge;
+}
+
+MultiplicationCheck LongMultiplication::check(QStringView result, const QStringList& rows)
+{
+    MultiplicationCheck found;
+    found.right = core::readNumber(result) == Producto();
+    if (!found.right) {
+        const qsizetype compared = std::min(rows.size(), expectedRows().size());
+        for (qsizetype row = 0; row < compared; ++row)
+            if (withoutLeadingBlanks(rows[row]) != expectedRows()[row])
+                found.wrongRows.push_back(static_cast<int>(row));
+    }
+    count(found.right);
+    return found;
+}
+
+void LongMultiplication::count(bool right)
+{
+    if (!m_Pendiente)
+        return;
+    if (right)
+        m_counters.countRight();
+    else
+        m_counters.countWrong();
+    m_Pendiente = !right;
+}
+
+std::optional<QString> LongMultiplication::IndicaProducto(
+    int posicion, int fila, int length) const
+{
+    int shift = posicion - length;
+    if (shift < 0)
+        ++shift; // the digit that is pointed at is the one right of the caret
+    const int place = fila + shift; // 0 at the units of factor 1, negative to their left
+    if (place >= 1)
+        return std::nullopt;
+    const QString factor1 = factor1Text();
+    const QString factor2 = factor2Text();
+    const QString digit1 =
+        -place < factor1.size() ? factor1.sliced(factor1.size() + place - 1, 1) : u"0"_s;
+    const QString digit2 = factor2.mid(factor2.size() - fila - 1, 1);
+    return digit1 + u" × "_s + digit2;
+}
+
+} // namespace written

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "core/int16.h"
+#include "shell/exercise.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace core {
+class RandomSource;
+}
+
+namespace written {
+
+/// What became of a factor that the pupil typed.
+enum class TypedFactor {
+    Ignored, ///< empty or not a number
+    TooLarge, ///< the product would leave the range of a double
+    Accepted,
+};
+
+/// What a check of the whole board found.
+struct MultiplicationCheck {
+    bool right = false;
+    std::vector<int> wrongRows; ///< indexes; empty when right: the rows are not looked at then
+};
+
+/// The rules of written multiplication: two factors, one partial product for each digit of
+/// the second one, and the result. Partial products are texts: each ends in as many blanks
+/// as its digit stands away from the units.
+class LongMultiplication {
+public:
+    /// Draws nothing yet. random must outlive the model.
+    explicit LongMultiplication(core::RandomSource& random);
+
+    /// Draws both factors as the settings ask and prepares the rows. Leaves Pendiente and the
+    /// counters alone. Throws core::OverflowError, and keeps the exercise, when factors of so
+    /// many digits have no product.
+    void NuevaMultiplicacion();
+
+    double Factor1() const { return m_exercise.factor1; }
+    double Factor2() const { return m_exercise.factor2; }
+    double Producto() const { return m_exercise.product; }
+    QString factor1Text() const;
+    /// The second factor as it is shown, with or without its "x" in front.
+    QString factor2Text() const;
+
+    /// The partial product that each row should hold, row 0 at the top.
+    const QStringList& expectedRows() const { return m_exercise.rows; }
+    QString resultText() const;
+    /// With a single digit in factor 2, the one partial product is the result.
+    bool firstRowIsResult() const;
+
+    core::Int16 CifrasFactor1() const { return m_CifrasFactor1; }
+    core::Int16 CifrasFactor2() const { return m_CifrasFactor2; }
+    /// The digits of the factors from the next exercise on.
+    void setCifrasFactor1(core::Int16 digits) { m_CifrasFactor1 = digits; }
+    void setCifrasFactor2(core::Int16 digits) { m_CifrasFactor2 = digits; }
+
+    bool CualquierCifra() const { return m_CualquierCifra; }
+    QString CifrasElegidas() const { return m_CifrasElegidas; }
+    /// The digits that factor 2 may use from the next exercise on; none chosen means any.
+    void chooseDigits(const QString& digits);
+    /// Any digit again; the chosen ones are remembered.
+    void allowAnyDigit() { m_CualquierCifra = true; }
+    /// Caption of the menu item that chooses digits, once it has been used.
+    QString digitsCaption() const;
+
+    bool OcultarCeros() const { return m_OcultarCeros; }
+    /// Whether zeros of factor 2 have no row, from the next exercise on.
+    void toggleOcultarCeros() { m_OcultarCeros = !m_OcultarCeros; }
+    QString zerosCaption() const;
+
+    /// Put a typed factor in place of the drawn one. Pendiente and the counters stay.
+    TypedFactor typeFactor1(QStringView typed);
+    TypedFactor typeFactor2(QStringView typed);
+
+    const shell::ExerciseCounters& counters() const { return m_counters; }
+    bool Pendiente() const { return m_Pendiente; }
+    /// The exercise counts from its first check on, as a new one does.
+    void setPending() { m_Pendiente = true; }
+
+    /// Judges the board and counts. Throws core::OverflowError, with nothing counted, when a
+    /// counter is full.
+    MultiplicationCheck check(QStringView result, const QStringList& rows);
+
+    /// The product of digits that belongs to a caret place in a row whose text has length
+    /// characters, such as "7 × 3"; nothing right of the units of factor 1.
+    std::optional<QString> IndicaProducto(int posicion, int fila, int length) const;
+
+private:
+    struct Exercise {
+        double factor1 = 0;
+        double factor2 = 0;
+        double product = 0;
+        bool hasSign = true; // whether the shown factor 2 has its "x"
+        QStringList rows;
+    };
+
+    double drawFactor(core::Int16 digits);
+    double drawChosenDigits();
+    TypedFactor replaceFactors(double factor1, double factor2, bool hasSign);
+    bool prepare(Exercise exercise);
+    QStringList partialProducts(double factor1, double factor2) const;
+    void count(bool right);
+
+    core::RandomSource& m_random;
+    Exercise m_exercise;
+    core::Int16 m_CifrasFactor1 = 4;
+    core::Int16 m_CifrasFactor2 = 2;
+    bool m_CualquierCifra = true;
+    QString m_CifrasElegidas;
+    bool m_OcultarCeros = false;
+    shell::ExerciseCounters m_counters;
+    bool m_Pendiente = true;
+};
+
+} // namespace written

@@ -1,0 +1,257 @@
+#include "written/long_multiplication_screen.h"
+
+#include "core/clock.h"
+#include "ui/screens.h"
+#include "ui/squared_box.h"
+#include "written/digit_dialog.h"
+
+using namespace Qt::StringLiterals;
+using ui::SquaredBox;
+using Mark = ui::VerdictBox::Mark;
+
+namespace written {
+
+namespace {
+
+/// The caret as the rules count it: the start of a selection, where there is one.
+int caretOf(const QLineEdit& box)
+{
+    return box.hasSelectedText() ? box.selectionStart() : box.cursorPosition();
+}
+
+void stepLeft(QLineEdit& box)
+{
+    if (const int caret = caretOf(box); caret > 0)
+        box.setCursorPosition(caret - 1);
+}
+
+void paint(SquaredBox& box, QRgb colour)
+{
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Text, QColor(colour));
+    box.setPalette(palette);
+}
+
+void empty(SquaredBox& box)
+{
+    box.write({});
+    paint(box, ui::look::Ink);
+}
+
+} // namespace
+
+void Form3::Form_Load()
+{
+    MnuOpcCi1Lis.check(m_model.CifrasFactor1().value() - 1);
+    MnuOpcCi2Lis.check(m_model.CifrasFactor2().value() - 1);
+    core::seedByClock(screens().random(), screens().clock());
+    NuevaMultiplicacion();
+    TbParcial[0]->setFocus();
+}
+
+void Form3::NuevaMultiplicacion()
+{
+    m_model.NuevaMultiplicacion();
+    PreparaFilas();
+    showFactors();
+    showMessage({});
+}
+
+void Form3::PreparaFilas()
+{
+    setRowCount(static_cast<int>(m_model.expectedRows().size()));
+    placeRows();
+    chooseSquares();
+    chainTabs();
+}
+
+void Form3::showFactors()
+{
+    TbFactor[0]->write(m_model.factor1Text());
+    TbFactor[1]->write(m_model.factor2Text());
+    for (SquaredBox* box : TbFactor)
+        box->showSelected();
+}
+
+void Form3::showMessage(const QString& text)
+{
+    Text1->setVerdict(text, Mark::None);
+}
+
+std::vector<SquaredBox*> Form3::answerBoxes() const
+{
+    std::vector<SquaredBox*> boxes = TbParcial;
+    boxes.push_back(TBResultado);
+    return boxes;
+}
+
+void Form3::Command1_Click()
+{
+    QStringList rows;
+    for (const SquaredBox* row : TbParcial)
+        rows << row->text();
+    const MultiplicationCheck found = m_model.check(TBResultado->text(), rows);
+    if (found.right) {
+        Text1->setVerdict(u"Resultado correcto "_s, Mark::Right);
+        Command2[0]->setEnabled(true);
+        Command2[0]->setFocus();
+    } else {
+        Text1->setVerdict(u"resultado incorrecto"_s, Mark::Wrong);
+        Command2[2]->setEnabled(true);
+        paint(*TBResultado, ui::look::Red);
+        for (const int row : found.wrongRows)
+            paint(*TbParcial.at(static_cast<std::size_t>(row)), ui::look::Red);
+    }
+    Text2->setText(m_model.counters().FormatoAlineado());
+}
+
+void Form3::Command2_Click(int Index)
+{
+    switch (Index) {
+    case 0:
+        NuevaMultiplicacion();
+        m_model.setPending();
+        TbParcial[0]->setFocus();
+        break;
+    case 1:
+        Borra();
+        TbParcial[0]->setFocus();
+        break;
+    default:
+        showSolution();
+        Command2[0]->setEnabled(true);
+        Command2[0]->setFocus();
+        break;
+    }
+}
+
+void Form3::Borra()
+{
+    for (SquaredBox* box : answerBoxes())
+        empty(*box);
+}
+
+void Form3::showSolution()
+{
+    TBResultado->write(m_model.resultText());
+    for (qsizetype row = 0; row < m_model.expectedRows().size(); ++row)
+        TbParcial.at(static_cast<std::size_t>(row))->write(m_model.expectedRows().at(row));
+}
+
+ui::KeyResult Form3::TbFactor_KeyPress()
+{
+    TbParcial[0]->setFocus();
+    return ui::KeyResult::Pass; // the box is read-only: copying is all that it answers
+}
+
+void Form3::TbParcial_KeyUp(int Index, int KeyCode)
+{
+    if (KeyCode == ui::key::Space || KeyCode >= ui::key::Digit0)
+        stepLeft(*TbParcial.at(static_cast<std::size_t>(Index)));
+}
+
+void Form3::TbParcial_KeyDown(int Index, int KeyCode)
+{
+    if (KeyCode == ui::key::Shift)
+        IndicaProducto(caretOf(*TbParcial.at(static_cast<std::size_t>(Index))), Index);
+}
+
+void Form3::IndicaProducto(int posicion, int fila)
+{
+    const qsizetype length = TbParcial.at(static_cast<std::size_t>(fila))->text().size();
+    const auto hint = m_model.IndicaProducto(posicion, fila, static_cast<int>(length));
+    if (hint)
+        showMessage(*hint);
+}
+
+void Form3::TbParcial_Change(int Index)
+{
+    if (Index == 0 && m_model.firstRowIsResult())
+        TBResultado->write(TbParcial[0]->text());
+    chooseSquares();
+}
+
+void Form3::TBResultado_KeyUp(int KeyCode)
+{
+    const bool digit = KeyCode >= ui::key::Digit0 && KeyCode <= ui::key::Digit9;
+    const bool keypadDigit = KeyCode >= ui::key::Keypad0 && KeyCode <= ui::key::Keypad9;
+    if (digit || keypadDigit || KeyCode == ui::key::Comma)
+        stepLeft(*TBResultado);
+}
+
+void Form3::TBResultado_Change()
+{
+    TBResultado->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    chooseSquares();
+}
+
+void Form3::MnuOpcCi1Lis_Click(int Index)
+{
+    MnuOpcCi1Lis.check(Index);
+    m_model.setCifrasFactor1(Index + 1);
+}
+
+void Form3::MnuOpcCi2Lis_Click(int Index)
+{
+    MnuOpcCi2Lis.check(Index);
+    m_model.setCifrasFactor2(Index + 1);
+}
+
+void Form3::MnuOpcSelLis_Click(int Index)
+{
+    if (Index == 1) {
+        screens().showModal(Dialog::screenName(), *this, [this] { takeChosenDigits(); });
+        return;
+    }
+    m_model.allowAnyDigit();
+    showChoiceOfDigits();
+}
+
+void Form3::takeChosenDigits()
+{
+    m_model.chooseDigits(screens().load<Dialog>().TablasSeleccionadas());
+    showChoiceOfDigits();
+}
+
+void Form3::showChoiceOfDigits()
+{
+    MnuOpcSelLis.check(m_model.CualquierCifra() ? 0 : 1);
+    MnuOpcSelLis.at(1)->setText(m_model.digitsCaption());
+    NuevaMultiplicacion();
+}
+
+void Form3::MnuOpcOcu_Click()
+{
+    m_model.toggleOcultarCeros();
+    MnuOpcOcu->setText(m_model.zerosCaption());
+    NuevaMultiplicacion();
+}
+
+void Form3::MnuOpcIn1_Click()
+{
+    const QString typed = ui::InputBox::ask(
+        *this, u"Introduzca el primer factor de la multiplicación:"_s, u"Multiplicaciones"_s);
+    acceptFactor(m_model.typeFactor1(typed));
+}
+
+void Form3::MnuOpcIn2_Click()
+{
+    const QString typed = ui::InputBox::ask(
+        *this, u"Introduzca el segundo factor de la multiplicación:"_s, u"Multiplicaciones"_s);
+    if (acceptFactor(m_model.typeFactor2(typed)))
+        showMessage({});
+}
+
+bool Form3::acceptFactor(TypedFactor outcome)
+{
+    if (outcome == TypedFactor::TooLarge)
+        ui::MessageBox::show(
+            *this, u"El valor introducido es demasiado grande."_s, u"Multiplicaciones"_s);
+    if (outcome != TypedFactor::Accepted)
+        return false;
+    PreparaFilas();
+    showFactors();
+    return true;
+}
+
+} // namespace written

@@ -1,0 +1,81 @@
+#include "written/multiples_divisors.h"
+
+#include "core/random.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace written {
+
+MultiplesDivisors::MultiplesDivisors(core::RandomSource& random)
+    : m_random(random)
+{
+}
+
+void MultiplesDivisors::newExercise()
+{
+    if (m_random.next() < 0.5f) {
+        Numero = core::drawInteger(m_random, 9, 2);
+        Modo = Mode::Multiples;
+        return;
+    }
+    drawFactors();
+    Numero = Factores[0] * Factores[1] * Factores[2];
+    Modo = Mode::Divisors;
+}
+
+void MultiplesDivisors::drawFactors()
+{
+    for (auto factor = Factores.begin(); factor != Factores.end(); ++factor) {
+        do {
+            *factor = core::drawInteger(m_random, 10, 1);
+        } while (std::find(Factores.begin(), factor, *factor) != factor);
+    }
+}
+
+QString MultiplesDivisors::instruction() const
+{
+    return Modo == Mode::Multiples
+        ? u"Introduzca tres múltiplos diferentes del número indicado"_s
+        : u"Introduzca tres divisores diferentes del número indicado.\n"
+          "No puede usar el 1 ni el número que se proporciona"_s;
+}
+
+MultiplesDivisors::Check MultiplesDivisors::check(
+    const std::array<double, Answers>& answers) const
+{
+    if (std::any_of(answers.begin(), answers.end(), [](double answer) { return answer < 1; }))
+        return {Verdict::Invalid};
+    for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
+        if (!isRight(*answer) || std::find(answers.begin(), answer, *answer) != answer)
+            return {Verdict::Wrong, static_cast<int>(answer - answers.begin())};
+    }
+    return {Verdict::Right};
+}
+
+bool MultiplesDivisors::isRight(double answer) const
+{
+    const double given = number();
+    if (Modo == Mode::Multiples)
+        return answer > given && std::fmod(answer, given) == 0;
+    const bool whole = std::floor(answer) == answer; // 60 / 2.5 leaves no remainder either
+    return whole && answer != 1 && answer != given && std::fmod(given, answer) == 0;
+}
+
+QString MultiplesDivisors::verdictText(Verdict verdict, QStringView standing)
+{
+    const QString text =
+        verdict == Verdict::Right ? u"Resultado correcto"_s : u"Resultado incorrecto"_s;
+    return standing == text ? text + u' ' : text;
+}
+
+std::array<int, MultiplesDivisors::Answers> MultiplesDivisors::solution() const
+{
+    if (Modo == Mode::Multiples)
+        return {3 * number(), 4 * number(), 5 * number()};
+    return {Factores[0].value(), Factores[1].value(), Factores[2].value()};
+}
+
+} // namespace written

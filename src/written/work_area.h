@@ -1,0 +1,95 @@
+#pragma once
+
+#include "ui/placement.h"
+#include "written/grid_text.h"
+
+#include <QWidget>
+
+namespace written {
+
+/// A text box on squared paper: every character of a GridText stands in a cell of its own,
+/// so that line r begins at character r × columns at every size. Typing, pasting and input
+/// methods write over the cells and cannot move them; there is no deleting, dropping or
+/// undoing. Draws no background: the paper lies behind it.
+class WorkArea : public QWidget, public ui::Scalable {
+    Q_OBJECT
+    Q_PROPERTY(QString plainText READ toPlainText NOTIFY textChanged USER true)
+    Q_PROPERTY(int cursorPosition READ cursorPosition WRITE setCursorPosition NOTIFY
+            cursorPositionChanged)
+    Q_PROPERTY(QString selectedText READ selectedText)
+
+public:
+    explicit WorkArea(QWidget* parent);
+
+    const GridText& grid() const { return m_grid; }
+    /// Replaces the text; the caret goes to its start.
+    void setGrid(const GridText& grid);
+    QString toPlainText() const { return m_grid.text(); }
+
+    /// Where the first cell lies on the parent, in twips; all others line up with it. The
+    /// type fits a cell.
+    void setFirstCell(const ui::TwipRect& cell);
+    void setFactor(double factor) override;
+
+    int cursorPosition() const { return m_caret; }
+    void setCursorPosition(int position);
+    void setSelection(int anchor, int caret);
+    int selectionStart() const { return std::min(m_anchor, m_caret); }
+    int selectionEnd() const { return std::max(m_anchor, m_caret); }
+    QString selectedText() const;
+
+    /// Writes over the cells from the caret, or the start of the selection, on. The caret
+    /// stays there.
+    void overtype(QChar typed);
+    void overtypeText(const QString& typed);
+
+    void copy() const;
+    void paste();
+
+    /// The cell of a character, in pixels of this control.
+    QRect cellRect(int position) const;
+    /// The character whose cell lies at a point, or the nearest one.
+    int positionAt(const QPoint& point) const;
+
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
+signals:
+    void textChanged();
+    void cursorPositionChanged();
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int columnEdge(int column) const;
+    int rowEdge(int visibleRow) const;
+    int rowCount() const;
+    int visibleRows() const;
+    void scrollTo(int firstRow);
+    void showCaret();
+    bool edit(const QKeyEvent& event);
+    bool moveCaret(const QKeyEvent& event);
+    void changed(const GridText& before, int from);
+    void paintCell(QPainter& painter, int position) const;
+
+    GridText m_grid;
+    ui::TwipRect m_firstCell{0, 0, 165, 240};
+    double m_factor = 1;
+    int m_firstRow = 0; ///< the topmost line in sight
+    int m_anchor = 0;
+    int m_caret = 0;
+    QString m_composed; ///< what an input method is composing at the caret
+    int m_wheel = 0; ///< turned, in eighths of a degree, and not yet scrolled
+};
+
+} // namespace written

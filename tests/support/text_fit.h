@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+/// The names of the controls on a screen whose text does not fit into them.
+inline QStringList textsCutOff(const QWidget& screen)
+{
+    QStringList names;
+    const auto check = [&](const QWidget* control, QSize needed, QSize room) {
+        if (control->isVisible() && !needed.isNull()
+            && (needed.width() > room.width() || needed.height() > room.height()))
+            names << control->objectName();
+    };
+    const auto textSize = [](const QWidget* control, const QString& text) {
+        return control->fontMetrics().size(Qt::TextSingleLine, text);
+    };
+    for (const QLineEdit* box : screen.findChildren<QLineEdit*>()) {
+        constexpr int Inner = 4; // what a line edit keeps for itself
+        const QMargins margins = box->textMargins();
+        check(box, textSize(box, box->text()),
+            box->size() - QSize(margins.left() + margins.right() + Inner, 0));
+    }
+    for (const QLabel* label : screen.findChildren<QLabel*>())
+        check(label, textSize(label, label->text()), label->size());
+    for (const QRadioButton* option : screen.findChildren<QRadioButton*>())
+        check(option, option->sizeHint(), option->size());
+    for (const QPushButton* button : screen.findChildren<QPushButton*>()) {
+        constexpr int Edges = 4;
+        check(button, textSize(button, button->text().remove(u'&')),
+            button->size() - QSize(Edges, Edges));
+    }
+    return names;
+}

@@ -1,0 +1,245 @@
+#include "core/errors.h"
+#include "core/random.h"
+#include "tables/fill_the_gap.h"
+
+#include "support/scripted_random.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <map>
+
+using namespace Qt::StringLiterals;
+using tables::FillTheGap;
+using Verdict = FillTheGap::Verdict;
+
+class FillTheGapTest : public QObject {
+    Q_OBJECT
+
+private:
+    using Factors = std::pair<int, int>;
+
+    ScriptedRandom random;
+    std::unique_ptr<FillTheGap> gap;
+
+    Factors factors() const { return {gap->shownFactor(), gap->hiddenFactor()}; }
+
+    void appendFactors(int a, int b)
+    {
+        random.appendInteger(a, 9, 2);
+        random.appendInteger(b, 9, 2);
+    }
+
+private slots:
+    void init()
+    {
+        random = {};
+        appendFactors(4, 7);
+        gap = std::make_unique<FillTheGap>(random);
+        gap->NuevoHueco();
+    }
+
+    void startsWithNothingCounted()
+    {
+        QCOMPARE(gap->counters().Ejercicios.value(), 0);
+        QCOMPARE(gap->counters().Errores.value(), 0);
+        QVERIFY(!gap->isCounted());
+    }
+
+    void drawsTwoFactorsAndHidesTheLarger_data()
+    {
+        QTest::addColumn<float>("first");
+        QTest::addColumn<float>("second");
+        QTest::addColumn<Factors>("drawn");
+        QTest::addColumn<int>("product");
+
+        const float highest = std::nextafter(1.0f, 0.0f);
+        QTest::newRow("lowest draws") << 0.0f << 0.0f << Factors(2, 2) << 4;
+        QTest::newRow("highest draws") << highest << highest << Factors(10, 10) << 100;
+        QTest::newRow("in order") << 0.0f << highest << Factors(2, 10) << 20;
+        QTest::newRow("swapped") << highest << 0.0f << Factors(2, 10) << 20;
+        QTest::newRow("nine steps") << 0.1112f << 0.1111f << Factors(2, 3) << 6;
+    }
+    void drawsTwoFactorsAndHidesTheLarger()
+    {
+        QFETCH(float, first);
+        QFETCH(float, second);
+        ScriptedRandom draws{first, second};
+        FillTheGap fresh(draws); // the first exercise is never drawn again
+        fresh.NuevoHueco();
+        QTEST(Factors(fresh.shownFactor(), fresh.hiddenFactor()), "drawn");
+        QTEST(fresh.product(), "product");
+        QCOMPARE(draws.left(), 0u);
+    }
+
+    void drawsAgainWhileAFactorStandsWhereItStood_data()
+    {
+        QTest::addColumn<Factors>("refused");
+
+        QTest::newRow("same exercise") << Factors(4, 7);
+        QTest::newRow("same first factor") << Factors(4, 9);
+        QTest::newRow("same second factor") << Factors(2, 7);
+        QTest::newRow("same once swapped") << Factors(7, 2);
+        QTest::newRow("twice the first factor") << Factors(4, 4);
+    }
+    void drawsAgainWhileAFactorStandsWhereItStood()
+    {
+        QFETCH(Factors, refused);
+        appendFactors(refused.first, refused.second);
+        appendFactors(refused.first, refused.second);
+        appendFactors(5, 8);
+        gap->NuevoHueco();
+        QCOMPARE(factors(), Factors(5, 8));
+        QCOMPARE(gap->product(), 40);
+        QCOMPARE(random.left(), 0u);
+    }
+
+    void aFactorMayComeBackInTheOtherPlace()
+    {
+        appendFactors(7, 9);
+        gap->NuevoHueco();
+        QCOMPARE(factors(), Factors(7, 9));
+        appendFactors(3, 7);
+        gap->NuevoHueco();
+        QCOMPARE(factors(), Factors(3, 7));
+        QCOMPARE(random.left(), 0u);
+    }
+
+    void theRedrawnExerciseIsNotThePreviousOne()
+    {
+        // 4 × 9 was refused for its 4: its 9 must not count as shown.
+        appendFactors(4, 9);
+        appendFactors(5, 9);
+        gap->NuevoHueco();
+        QCOMPARE(factors(), Factors(5, 9));
+        QCOMPARE(random.left(), 0u);
+    }
+
+    void firstExercisesHaveTheChancesOfTwoDraws()
+    {
+        core::SeededRandom seeded;
+        seeded.seed(11);
+        std::map<Factors, int> counts;
+        for (int i = 0; i < 81'000; ++i) {
+            FillTheGap fresh(seeded);
+            fresh.NuevoHueco();
+            ++counts[{fresh.shownFactor(), fresh.hiddenFactor()}];
+        }
+        QCOMPARE(counts.size(), 45u);
+        for (const auto& [drawn, count] : counts) {
+            const int expected = drawn.first == drawn.second ? 1000 : 2000;
+            QVERIFY2(std::abs(count - expected) < 240,
+                qPrintable(u"%1 × %2: %3"_s.arg(drawn.first).arg(drawn.second).arg(count)));
+        }
+    }
+
+    void neverSharesAFactorWithTheExerciseBefore()
+    {
+        core::SeededRandom seeded;
+        seeded.seed(13);
+        FillTheGap many(seeded);
+        std::map<Factors, int> counts;
+        Factors before;
+        for (int i = 0; i < 50'000; ++i) {
+            many.NuevoHueco();
+            const Factors now(many.shownFactor(), many.hiddenFactor());
+            QVERIFY(now.first >= 2 && now.first <= now.second && now.second <= 10);
+            QCOMPARE(many.product(), now.first * now.second);
+            QVERIFY(now.first != before.first);
+            QVERIFY(now.second != before.second);
+            ++counts[now];
+            before = now;
+        }
+        QCOMPARE(counts.size(), 45u); // every one still comes
+    }
+
+    void judgesByTheHiddenFactor_data()
+    {
+        QTest::addColumn<double>("answer");
+        QTest::addColumn<bool>("right");
+
+        QTest::newRow("hidden factor") << 7.0 << true;
+        QTest::newRow("shown factor") << 4.0 << false;
+        QTest::newRow("product") << 28.0 << false;
+        QTest::newRow("nothing") << 0.0 << false;
+        QTest::newRow("not whole") << 7.2 << false;
+        QTest::newRow("sign") << -7.0 << false;
+    }
+    void judgesByTheHiddenFactor()
+    {
+        QFETCH(double, answer);
+        QFETCH(bool, right);
+        QCOMPARE(gap->check(answer), right ? Verdict::Right : Verdict::Wrong);
+        QCOMPARE(gap->counters().Ejercicios.value(), 1);
+        QCOMPARE(gap->counters().Errores.value(), right ? 0 : 1);
+        QCOMPARE(gap->isCounted(), right);
+    }
+
+    void countsARightAnswerOnce()
+    {
+        gap->check(7);
+        gap->check(7);
+        gap->check(7);
+        QCOMPARE(gap->counters().Ejercicios.value(), 1);
+        QCOMPARE(gap->counters().Errores.value(), 0);
+    }
+
+    void countsEveryWrongAnswerAndTheRightOneAfterThem()
+    {
+        gap->check(6);
+        gap->check(0);
+        gap->check(7);
+        QCOMPARE(gap->counters().Ejercicios.value(), 3);
+        QCOMPARE(gap->counters().Errores.value(), 2);
+    }
+
+    void countsWrongAnswersAfterARightOneToo()
+    {
+        gap->check(7);
+        gap->check(6);
+        QCOMPARE(gap->counters().Ejercicios.value(), 2);
+        QCOMPARE(gap->counters().Errores.value(), 1);
+        QVERIFY(gap->isCounted());
+        gap->check(7);
+        QCOMPARE(gap->counters().Ejercicios.value(), 2);
+    }
+
+    void theNextExerciseCountsAgain()
+    {
+        gap->check(7);
+        appendFactors(5, 8);
+        gap->NuevoHueco();
+        QVERIFY(!gap->isCounted());
+        gap->check(8);
+        QCOMPARE(gap->counters().Ejercicios.value(), 2);
+    }
+
+    void writesTheVerdictOverTheStandingOne()
+    {
+        const auto text = &FillTheGap::verdictText;
+        QCOMPARE(text(Verdict::Right, {}), u"Respuesta correcta "_s);
+        QCOMPARE(text(Verdict::Right, u"Respuesta incorrecta"), u"Respuesta correcta "_s);
+        QCOMPARE(text(Verdict::Wrong, {}), u"Respuesta incorrecta"_s);
+        QCOMPARE(text(Verdict::Wrong, u"Respuesta incorrecta"), u" Respuesta incorrecta"_s);
+        QCOMPARE(text(Verdict::Wrong, u" Respuesta incorrecta"), u" Respuesta incorrecta"_s);
+        QCOMPARE(text(Verdict::Wrong, u"Respuesta correcta "), u" Respuesta incorrecta"_s);
+    }
+
+    void countsUpTo32767AndNoFurther()
+    {
+        gap->check(7);
+        for (int i = 1; i < 32767; ++i)
+            gap->check(0);
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, gap->check(0));
+        QCOMPARE(gap->counters().Ejercicios.value(), 32767);
+        QCOMPARE(gap->counters().Errores.value(), 32766);
+        QCOMPARE(gap->check(7), Verdict::Right); // counted before: nothing to add
+        appendFactors(5, 8);
+        gap->NuevoHueco();
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, gap->check(8));
+        QVERIFY(!gap->isCounted());
+    }
+};
+
+QTEST_GUILESS_MAIN(FillTheGapTest)
+#include "fill_the_gap_test.moc"

@@ -1,0 +1,102 @@
+#include "ui/glide.h"
+
+#include "support/screen_bench.h"
+#include "support/still_style.h"
+
+using namespace Qt::StringLiterals;
+
+/// Motion of controls. Places are pixels here: the glide only hands them to its mover.
+class GlideTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QApplication::setStyle(new ui::Style);
+        window = std::make_unique<QWidget>();
+        window->resize(400, 400);
+        control = new QWidget(window.get());
+        other = new QWidget(window.get());
+        places.clear();
+        glide = std::make_unique<ui::Glide>(
+            [this](QWidget* moved, double left, double top) {
+                moved->move(qRound(left), qRound(top));
+                if (moved == control)
+                    places << QPointF(left, top);
+            },
+            nullptr);
+    }
+    void cleanup()
+    {
+        glide.reset();
+        window.reset();
+    }
+
+    void movesStepByStepAndEndsExactly()
+    {
+        QElapsedTimer clock;
+        clock.start();
+        glide->send(control, {10, 20}, {50, 120});
+        QVERIFY(glide->isMoving());
+        QVERIFY(places.isEmpty()); // the first step comes with the first frame
+        QTRY_VERIFY(!glide->isMoving());
+        QVERIFY(clock.elapsed() >= ui::Glide::Milliseconds);
+        QCOMPARE(places.last(), QPointF(50, 120));
+        QVERIFY(places.size() > 2);
+        for (int i = 1; i < places.size(); ++i) {
+            QVERIFY(places.at(i).y() >= places.at(i - 1).y());
+            QVERIFY(places.at(i).y() <= 120);
+        }
+    }
+
+    void aNewGoalIsReachedFromWhereTheControlIs()
+    {
+        glide->send(control, {0, 0}, {0, 100});
+        QTRY_VERIFY(places.size() >= 2);
+        const double reached = places.last().y();
+        glide->send(control, places.last(), {0, 200});
+        QTRY_VERIFY(!glide->isMoving());
+        QCOMPARE(control->pos(), QPoint(0, 200));
+        const auto turn = std::ranges::find(places, QPointF(0, reached));
+        QVERIFY(std::ranges::is_sorted(turn, places.end(), {}, &QPointF::y));
+    }
+
+    void controlsMoveIndependently()
+    {
+        glide->send(control, {0, 0}, {0, 100});
+        glide->send(other, {0, 0}, {100, 0});
+        glide->put(control, {7, 9});
+        QCOMPARE(control->pos(), QPoint(7, 9));
+        QTRY_VERIFY(!glide->isMoving());
+        QCOMPARE(control->pos(), QPoint(7, 9)); // the glide was called off
+        QCOMPARE(other->pos(), QPoint(100, 0));
+    }
+
+    void stillStyleJumps()
+    {
+        QApplication::setStyle(new StillStyle);
+        glide->send(control, {0, 0}, {30, 40});
+        QVERIFY(!glide->isMoving());
+        QCOMPARE(control->pos(), QPoint(30, 40));
+    }
+
+    void aControlMayGoOnItsWay()
+    {
+        glide->send(control, {0, 0}, {0, 100});
+        glide->send(other, {0, 0}, {100, 0});
+        delete control;
+        control = nullptr;
+        QTRY_VERIFY(!glide->isMoving());
+        QCOMPARE(other->pos(), QPoint(100, 0));
+    }
+
+private:
+    std::unique_ptr<QWidget> window;
+    QWidget* control = nullptr;
+    QWidget* other = nullptr;
+    QList<QPointF> places; ///< of control, in order
+    std::unique_ptr<ui::Glide> glide;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(GlideTest)
+#include "glide_test.moc"
