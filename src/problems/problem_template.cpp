@@ -71,7 +71,7 @@ QString replaceData(QString text, DataValues& data, core::RandomSource& random)
 QString withDataValues(const Marker& marker, const DataValues& data)
 {
     QString expression = marker.inner.toString();
-    for (qsizetype at = 0; (at = expression.indexOf(u'&')) >= 0;) {
+    for (auto at = expression.indexOf(u'&'); at >= 0; at = expression.indexOf(u'&')) {
         const QStringView digit = QStringView(expression).mid(at + 1, 1);
         const int number = core::readInt16(digit).value();
         if (number < 1 || number > int(data.size()))

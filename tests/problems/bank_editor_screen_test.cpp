@@ -403,6 +403,21 @@ private slots:
         QCOMPARE(contents(u"Problemas3.dat"_s), Bank);
     }
 
+    void aClickOnTheWayOutThatIsTakenBackLeavesNoBox()
+    {
+        open();
+        writeStatement(u"& ("_s);
+        BoxAnswerer noBox;
+        auto& cancel = bench->control<QPushButton>(u"CancelButton"_s);
+        QTest::mousePress(&cancel, Qt::LeftButton);
+        QTest::mouseMove(&cancel, QPoint(-30, -30));
+        QTest::mouseRelease(&cancel, Qt::LeftButton, {}, QPoint(-30, -30));
+        QTest::qWait(20);
+        QCOMPARE(bench->focusName(), u"Text1"_s);
+        QCOMPARE(operations(), u"...."_s);
+        QVERIFY(!screen->isUnloaded());
+    }
+
     void anotherWindowLeavesNoBox()
     {
         open();

@@ -174,6 +174,9 @@ private slots:
         row("(7/2)", "4");
         row("{(&1)}", "7");
         row("{1}{2}(3)", "123");
+        // a value goes wherever the same marker stands, be it inside another one
+        row("{1} {{1}", "1 {1");
+        row("(1) ((1)", "1 (1");
         // one bracket without the other ends its step and stays
         row("{&1", "{&1");
         row("&1}", "&1}");

@@ -98,7 +98,7 @@ int main(int argc, char* argv[])
 {
     ui::prepareApplication();
     QApplication application(argc, argv);
-    ui::dress(application);
+    ui::dress();
     const QTemporaryDir folder;
     core::SeededRandom random;
     const core::SystemClock clock;

@@ -1,0 +1,102 @@
+#include "core/random.h"
+#include "problems/bank.h"
+#include "problems/bank_editor.h"
+#include "problems/expression.h"
+#include "problems/problem_template.h"
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using problems::Problem;
+
+namespace {
+
+constexpr int Rounds = 1'000;
+
+/// The expressions in a line's {...} markers, with the data put in.
+QStringList expressions(QString line, const problems::DataValues& data)
+{
+    static const QRegularExpression datum(u"\\[[^]]*\\]"_s);
+    static const QRegularExpression marker(u"\\{([^}]*)\\}"_s);
+    auto value = data.begin();
+    for (auto match = datum.match(line); match.hasMatch(); match = datum.match(line))
+        line.replace(match.capturedStart(), match.capturedLength(), QString::number(*value++));
+    QStringList found;
+    for (const auto& match : marker.globalMatch(line)) {
+        QString expression = match.captured(1);
+        for (std::size_t n = data.size(); n >= 1; --n)
+            expression.replace(u"&%1"_s.arg(n), QString::number(data[n - 1]));
+        found << expression;
+    }
+    return found;
+}
+
+} // namespace
+
+/// The bank that the program comes with.
+class StarterBankTest : public QObject {
+    Q_OBJECT
+
+private:
+    const QStringList lines =
+        problems::LeerBanco(QString::fromUtf8(PIZARRIN_RESOURCES)).value().lines;
+    const problems::ExpressionEvaluator evaluator{u"VBScript"_s};
+
+private slots:
+    void hasEnoughProblemsOfEveryKind()
+    {
+        QVERIFY(lines.size() >= 160);
+        QCOMPARE(QSet<QString>(lines.begin(), lines.end()).size(), lines.size());
+        for (std::size_t i = 0; i < 4; ++i) {
+            for (std::size_t j = i; j < 4; ++j) {
+                const auto both =
+                    std::count_if(lines.begin(), lines.end(), [&](const auto& line) {
+                        const QStringView operations = problems::CampoOperaciones(line);
+                        return operations.contains(problems::OperationSigns[i])
+                            && operations.contains(problems::OperationSigns[j]);
+                    });
+                QVERIFY2(both >= (i == j ? 40 : 15), qPrintable(u"%1 %2"_s.arg(i).arg(j)));
+            }
+        }
+    }
+
+    void isWrittenAsTheEditorWritesIt()
+    {
+        QFile file(QString::fromUtf8(PIZARRIN_RESOURCES) + u"/Problemas3.dat"_s);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        QCOMPARE(bytes.count("\r\n"), lines.size());
+        QCOMPARE(bytes.count('\n'), lines.size());
+        QVERIFY(bytes.endsWith("\r\n"));
+        for (const QString& line : lines) {
+            const problems::TemplateFields fields = problems::splitLine(line);
+            QCOMPARE(problems::joinLine(fields), line);
+            QVERIFY2(!fields.statement.isEmpty(), qPrintable(line));
+            QVERIFY2(fields.operations != decltype(fields.operations){}, qPrintable(line));
+        }
+    }
+
+    void everyProblemWorksOutWithEveryDraw()
+    {
+        static const QRegularExpression leftOver(u"[][{}()&|_]"_s);
+        core::SeededRandom random;
+        random.seed(20'260);
+        for (const QString& line : lines) {
+            for (int round = 0; round < Rounds; ++round) {
+                const Problem problem = problems::InstanciarProblema(line, random, evaluator);
+                QVERIFY2(!(problem.statement + problem.unit).contains(leftOver),
+                    qPrintable(problem.statement));
+                QVERIFY2(problem.answer >= 0 && problem.answer <= 32'767, qPrintable(line));
+                for (const QString& expression : expressions(line, problem.data)) {
+                    const double value = evaluator.evaluate(expression);
+                    QVERIFY2(value == std::floor(value), qPrintable(line + expression));
+                }
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(StarterBankTest)
+#include "starter_bank_test.moc"
