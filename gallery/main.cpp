@@ -22,6 +22,7 @@ int main(int argc, char* argv[])
     gallery::addFillTheGap(gallery);
     gallery::addMultiplesDivisors(gallery);
     gallery::addMultiplicationTables(gallery);
+    gallery::addProblems(gallery);
     gallery::addProblemsEditor(gallery);
     gallery::addQuickTables(gallery);
     gallery::addRace(gallery);

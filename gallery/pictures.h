@@ -12,6 +12,7 @@ void addCombinedOperations(Gallery& gallery);
 void addFillTheGap(Gallery& gallery);
 void addMultiplesDivisors(Gallery& gallery);
 void addMultiplicationTables(Gallery& gallery);
+void addProblems(Gallery& gallery);
 void addProblemsEditor(Gallery& gallery);
 void addQuickTables(Gallery& gallery);
 void addRace(Gallery& gallery);

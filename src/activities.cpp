@@ -1,6 +1,8 @@
 #include "activities.h"
 
 #include "problems/bank_editor_screen.h"
+#include "problems/problem_session_screen.h"
+#include "problems/selection_screen.h"
 #include "tables/fill_the_gap_screen.h"
 #include "games/number_rain_screen.h"
 #include "games/race_options_screen.h"
@@ -62,6 +64,8 @@ void addScreens(ui::Screens& screens)
     screens.setMainScreen(shell::Form1::screenName());
     screens.add<tables::Form2>();
     screens.add<problems::DLGProblemas>();
+    screens.add<problems::DLGSelProb>();
+    screens.add<problems::FormProblemas>();
     screens.add<tables::Form4>();
     screens.add<tables::Form8>();
     screens.add<tables::FrmMultHuecos>();

@@ -204,9 +204,8 @@ void Screen::report(const QString& text)
 
 void Screen::letEventsRun()
 {
+    const Waiting waiting(*this, nullptr);
     QCoreApplication::processEvents();
-    if (m_unloaded)
-        throw ScreenUnloaded();
 }
 
 Screen::Waiting::Waiting(Screen& screen, QDialog* box)

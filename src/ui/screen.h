@@ -53,12 +53,13 @@ public:
     /// another handler of the screen waits for a box.
     void guarded(const std::function<void()>& body);
 
-    /// Lets pending events run in the middle of a handler. Throws ScreenUnloaded when the
-    /// screen was unloaded by one of them.
+    /// Lets pending events run in the middle of a handler. No other handler of the screen
+    /// starts meanwhile, but it can be unloaded: then ScreenUnloaded is thrown.
     void letEventsRun();
 
-    /// While one of these lives, a handler of the screen waits for a box, which is closed
-    /// when the screen is unloaded. Its end throws ScreenUnloaded when the screen is gone.
+    /// While one of these lives, a handler of the screen waits, for a box where there is one,
+    /// which is closed when the screen is unloaded. Its end throws ScreenUnloaded when the
+    /// screen is gone.
     class Waiting {
     public:
         Waiting(Screen& screen, QDialog* box);
@@ -228,6 +229,7 @@ private:
     bool m_reporting = false;
     bool m_unloaded = false;
     bool m_activated = false;
+    bool m_loading = false; ///< Form_Load is running
 };
 
 } // namespace ui

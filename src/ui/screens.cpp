@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace ui {
 
@@ -51,16 +50,25 @@ Screen& Screens::load(const QString& name)
         return *screen;
     if (name != m_mainScreen)
         installToolkitTexts();
-    std::unique_ptr<Screen> screen(m_factories.at(name)(*this));
-    screen->Form_Load();
+    const QPointer<Screen> screen(m_factories.at(name)(*this));
+    m_loaded.emplace_back(screen); // at once: what Form_Load lets run must not make a second
+    try {
+        screen->m_loading = true;
+        screen->Form_Load();
+        screen->m_loading = false;
+    } catch (...) {
+        delete screen.data();
+        throw;
+    }
     screen->comeUp();
-    m_loaded.emplace_back(screen.get());
-    return *screen.release();
+    return *screen;
 }
 
 void Screens::show(const QString& name)
 {
     Screen& screen = load(name);
+    if (screen.m_loading) // whoever loads it will show it
+        return;
     screen.show();
     screen.raise();
     screen.activateWindow();

@@ -3,6 +3,7 @@
 #include "ui/look.h"
 #include "ui/screen.h"
 
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStyleFactory>
@@ -17,6 +18,7 @@ namespace {
 constexpr double ButtonRadius = 8;
 constexpr double BoxRadius = 6;
 constexpr QSize SmallestButton(96, 34); // where a layout decides, as in boxes
+constexpr double TitleGap = 4; // between a frame and its title
 constexpr int IconSize = 32;
 constexpr int IconMargin = 14; // left of a button's icon and between it and the caption
 
@@ -100,6 +102,15 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         drawRounded(painter, option->rect, option->palette.brush(QPalette::Base),
             QColor(look::Line), factor, BoxRadius * factor);
         return;
+    case PE_FrameGroupBox: {
+        QRect frame = option->rect;
+        if (const auto* box = qobject_cast<const QGroupBox*>(widget); box != nullptr)
+            frame.setTop(frame.top() + box->fontMetrics().height()
+                + qRound(TitleGap * factor)); // below the title
+        drawRounded(
+            painter, frame, QColor(look::Card), QColor(look::Line), factor, BoxRadius * factor);
+        return;
+    }
     case PE_FrameFocusRect:
         if (Screen::of(widget) != nullptr && widget->window() == Screen::of(widget))
             return; // the screen's ring shows the focus
@@ -122,6 +133,14 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     if (element == CE_PushButtonLabel) {
         if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
             drawButtonLabel(painter, *button, factor);
+            return;
+        }
+    }
+    if (element == CE_CheckBox || element == CE_RadioButton) {
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+            QStyleOptionButton inside(*button);
+            inside.rect.setLeft(inside.rect.left() + qRound(look::BoxMargin * factor));
+            QProxyStyle::drawControl(element, &inside, painter, widget); // off the focus ring
             return;
         }
     }

@@ -197,6 +197,24 @@ private slots:
         QVERIFY(!wentOn);
     }
 
+    void noHandlerStartsWhileEventsRun()
+    {
+        int clicks = 0;
+        screen->whenClicked = [&] {
+            ++clicks;
+            QMetaObject::invokeMethod(
+                screen, [this] { screen->command->click(); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                screen, [this] { screen->list.at(1)->trigger(); }, Qt::QueuedConnection);
+            screen->letEventsRun();
+        };
+        screen->command->click();
+        QCOMPARE(clicks, 1);
+        QCOMPARE(screen->picked, QList<int>());
+        screen->list.at(1)->trigger();
+        QCOMPARE(screen->picked, QList<int>{1});
+    }
+
     void pickedItemChangesNoCheckByItself()
     {
         QVERIFY(screen->list.at(0)->isChecked());

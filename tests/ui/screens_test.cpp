@@ -122,6 +122,33 @@ private slots:
         QCOMPARE(bench->screens.loaded(u"Sample"_s), nullptr);
     }
 
+    void screenThatIsLoadingIsNotMadeTwice()
+    {
+        addSample([this](SampleScreen& screen) {
+            QMetaObject::invokeMethod(
+                this, [this] { bench->screens.show(u"Sample"_s); }, Qt::QueuedConnection);
+            screen.letEventsRun();
+            QVERIFY(!screen.isVisible());
+        });
+        bench->screens.show(u"Sample"_s);
+        QCOMPARE(samples, 1);
+        QVERIFY(bench->screens.loaded(u"Sample"_s)->isVisible());
+    }
+
+    void screenUnloadedWhileItLoadsIsGone()
+    {
+        QPointer<ui::Screen> sample;
+        addSample([&](SampleScreen& screen) {
+            sample = &screen;
+            QMetaObject::invokeMethod(
+                this, [this] { bench->screens.unload(u"Sample"_s); }, Qt::QueuedConnection);
+            screen.letEventsRun();
+        });
+        QVERIFY_THROWS_EXCEPTION(ui::ScreenUnloaded, bench->screens.show(u"Sample"_s));
+        QCOMPARE(bench->screens.loaded(u"Sample"_s), nullptr);
+        QVERIFY(!sample);
+    }
+
     void mainScreenTakesTheOthersWithIt()
     {
         bench->screens.setMainScreen(u"Main"_s);
@@ -154,8 +181,21 @@ private slots:
     }
 
 private:
+    /// Makes the sample screen known, with what it does when it loads.
+    void addSample(const std::function<void(SampleScreen&)>& whenLoading)
+    {
+        samples = 0;
+        bench->screens.add(u"Sample"_s, [this, whenLoading](ui::Screens& screens) -> ui::Screen* {
+            ++samples;
+            auto* screen = new SampleScreen(screens);
+            screen->whenLoading = [screen, whenLoading] { whenLoading(*screen); };
+            return screen;
+        });
+    }
+
     std::unique_ptr<ScreenBench> bench;
     QStringList log;
+    int samples = 0;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(ScreensTest)

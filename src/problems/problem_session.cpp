@@ -1,0 +1,153 @@
+#include "problems/problem_session.h"
+
+#include "core/random.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace problems {
+
+namespace {
+
+constexpr core::Int16 Selected = -1; // what a mask holds for a selected operation
+constexpr std::size_t Subtraction = 3;
+
+bool has(OperationMask operations, std::size_t operation)
+{
+    return (operations >> operation & 1U) != 0;
+}
+
+} // namespace
+
+ProblemSession::ProblemSession(core::RandomSource& random)
+    : m_random(random)
+    , m_evaluator(u"VBScript"_s)
+{
+}
+
+void ProblemSession::setBank(Bank bank)
+{
+    m_operations = operationsOf(bank.lines);
+    m_bank = std::move(bank);
+    beginCycle();
+}
+
+void ProblemSession::CargaDatos(core::Int16 Selección, OperationMask MaskOpera)
+{
+    m_mode = Selección;
+    for (std::size_t k = 0; k < m_maskOp.size(); ++k)
+        m_maskOp[k] = has(MaskOpera, k) ? Selected : core::Int16();
+}
+
+bool ProblemSession::CumpleSeleccion(QStringView line) const
+{
+    return isSelected(operationsOf(line));
+}
+
+bool ProblemSession::isSelected(OperationMask operations) const
+{
+    if (m_mode == 0)
+        return true;
+    if (m_mode == 1) {
+        for (std::size_t k = 0; k < Subtraction; ++k) {
+            if (has(operations, k) && m_maskOp[k] != 0)
+                return true;
+        }
+        // Deliberate: a selected operation is -1, so subtraction alone never qualifies.
+        return has(operations, Subtraction) && m_maskOp[Subtraction] == 1;
+    }
+    if (m_mode != 2)
+        return false;
+    for (std::size_t k = 0; k < m_maskOp.size(); ++k) {
+        if (m_maskOp[k] != 0 && !has(operations, k))
+            return false;
+    }
+    return true;
+}
+
+bool ProblemSession::isEligible(int index) const
+{
+    const auto at = static_cast<std::size_t>(index);
+    return !m_bank.used[at] && isSelected(m_operations[at]);
+}
+
+void ProblemSession::beginCycle()
+{
+    m_bank.used.assign(m_operations.size(), false);
+}
+
+bool ProblemSession::canDraw() const
+{
+    for (int index = 1; index <= lastIndex(); ++index) {
+        if (isEligible(index))
+            return true;
+    }
+    return false;
+}
+
+void ProblemSession::ensureDrawable()
+{
+    if (lastIndex() == 0)
+        throw core::Error(u"El banco solo tiene el problema de la línea 1, y el primero no se "
+                          "propone nunca. Añada otro en «Gestión de problemas...»."_s);
+    int eligible = 0;
+    for (int index = 0; index <= lastIndex(); ++index)
+        eligible += isEligible(index) ? 1 : 0;
+    const bool fewLeft = 10 * eligible < lastIndex() + 1;
+    // The first line may be all that is left: then the draw would never end.
+    if (fewLeft || !canDraw())
+        beginCycle();
+    if (!canDraw())
+        throw core::Error(u"No hay ningún problema que cumpla la selección."_s);
+}
+
+int ProblemSession::drawLine(const std::function<void()>& beforeDraw)
+{
+    for (;;) {
+        beforeDraw();
+        const int index = core::drawInteger(m_random, lastIndex(), 1).value();
+        if (isEligible(index))
+            return index;
+    }
+}
+
+Problem ProblemSession::prepare(int index)
+{
+    try {
+        return InstanciarProblema(m_bank.lines.at(index), m_random, m_evaluator);
+    } catch (const core::Error& error) {
+        throw TemplateError(
+            u"El problema de la línea %1 del banco no se puede preparar.\n\n%2"_s.arg(
+                QString::number(index + 1), error.text()));
+    }
+}
+
+void ProblemSession::NuevoProblema(const std::function<void()>& beforeDraw)
+{
+    ensureDrawable();
+    const int index = drawLine(beforeDraw);
+    m_bank.used[static_cast<std::size_t>(index)] = true;
+    m_problem = prepare(index);
+    m_solved = false;
+}
+
+ProblemSession::Verdict ProblemSession::check(double answer)
+{
+    if (answer != m_problem.answer) {
+        m_counters.countWrong();
+        return Verdict::Wrong;
+    }
+    if (!m_solved)
+        m_counters.countRight();
+    m_solved = true;
+    return Verdict::Right;
+}
+
+qint32 ProblemSession::showSolution()
+{
+    m_solved = true;
+    return m_problem.answer;
+}
+
+} // namespace problems

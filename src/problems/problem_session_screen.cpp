@@ -1,0 +1,199 @@
+#include "problems/problem_session_screen.h"
+
+#include "core/clock.h"
+#include "core/numbers.h"
+#include "problems/bank.h"
+#include "problems/bank_editor_screen.h"
+#include "problems/selection_screen.h"
+#include "problems/statement_box.h"
+#include "ui/screens.h"
+
+#include <QAction>
+
+using namespace Qt::StringLiterals;
+using ui::look::Family;
+using Mark = ui::VerdictBox::Mark;
+
+namespace problems {
+
+namespace {
+
+constexpr double Width = 9900;
+constexpr double Height = 7680;
+constexpr double Margin = 240;
+constexpr double StatementHeight = 3090; // six lines
+constexpr double AnswerTop = 4050;
+constexpr double AnswerHeight = 720;
+
+// Events run before each draw. Only where hardly a line of a huge bank is selected are there
+// more draws than this; then a draw takes a hundredth of what looking for events does, so
+// they run every few microseconds instead.
+constexpr int DrawsWithEvents = 500;
+
+constexpr ui::look::Font StatementFont{Family::Arial, 17};
+constexpr ui::look::Font AnswerFont{Family::CourierNew, 28, true};
+
+} // namespace
+
+QString FormProblemas::screenName()
+{
+    return u"FormProblemas"_s;
+}
+
+FormProblemas::FormProblemas(ui::Screens& screens)
+    : ExerciseScreen(screens, screenName(), u"Problemas"_s, Width, Height)
+    , m_session(screens.random())
+{
+    makeMenu();
+    makeBoxes();
+    makeCommands({.check = {4170, 5400, 1560, 570},
+        .next = {4170, 6210, 1560, 570},
+        .clear = {2430, 6210, 1560, 570},
+        .solution = {5910, 6210, 1560, 570}});
+    LBEstado = label(u"LBEstado"_s, u"Ejercicios:   Errores:   "_s,
+        {Margin, Height - 540, Width - 2 * Margin, 300}, ui::look::Counters);
+}
+
+void FormProblemas::makeMenu()
+{
+    QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
+    on(item(options, u"MnuOpcGes"_s, u"&Gestión de problemas..."_s), &QAction::triggered,
+        [this] { MnuOpcGes_Click(); });
+    on(item(options, u"MnuOpcSel"_s, u"&Seleccionar problemas..."_s), &QAction::triggered,
+        [this] { MnuOpcSel_Click(); });
+    // Not guarded: it must close the screen in the middle of a draw too.
+    connect(item(options, u"MnuOpcSal"_s, u"&Salir Alt + F4"_s), &QAction::triggered, this,
+        [this] { MnuOpcSal_Click(); });
+}
+
+void FormProblemas::makeBoxes()
+{
+    label(u"LBInstruc"_s, u"Resuelva el problema, introduzca el resultado y pulse Hecho"_s,
+        {Margin, 180, Width - 2 * Margin, 390});
+    TBEnunciado = add(new StatementBox(canvas()), u"TBEnunciado"_s,
+        {Margin, 660, Width - 2 * Margin, StatementHeight}, StatementFont);
+    TBEnunciado->setAccessibleName(u"Enunciado"_s);
+
+    TBRespuesta = entryBox(
+        u"TBRespuesta"_s, {1680, AnswerTop, 2760, AnswerHeight}, AnswerFont, u"Respuesta"_s);
+    enterChecks(TBRespuesta);
+    label(u"LBRespuesta"_s, u"Respuesta"_s, {Margin, AnswerTop, 1320, AnswerHeight},
+        StatementFont, TBRespuesta);
+    LBUnidad = label(u"LBUnidad"_s, QString(),
+        {4620, AnswerTop, Width - Margin - 4620, AnswerHeight}, StatementFont);
+    LBUnidad->setWordWrap(true);
+
+    TBCorrecto = verdictBox(u"TBCorrecto"_s, {1680, 4860, 4500, 420}, u"Resultado"_s);
+}
+
+void FormProblemas::Form_Load()
+{
+    core::seedByClock(screens().random(), screens().clock());
+    TBRespuesta->setFocus();
+    try {
+        auto bank = LeerBanco(screens().resources(), MissingBank::StayInFolder);
+        if (!bank)
+            return;
+        m_session.setBank(*std::move(bank));
+        NuevoProblema();
+    } catch (const core::Error& error) {
+        // The screen comes up all the same: the bank is mended or selected from here.
+        m_loadFailure = error.text();
+    }
+}
+
+void FormProblemas::Form_Activate()
+{
+    if (!m_loadFailure.isEmpty())
+        ui::MessageBox::show(*this, std::exchange(m_loadFailure, {}));
+}
+
+void FormProblemas::CargaDatos(core::Int16 Selección, OperationMask MaskOpera)
+{
+    m_session.CargaDatos(Selección, MaskOpera);
+}
+
+void FormProblemas::NuevoProblema()
+{
+    int draws = 0;
+    m_session.NuevoProblema([&] {
+        if (draws < DrawsWithEvents || draws % DrawsWithEvents == 0)
+            letEventsRun();
+        ++draws;
+    });
+    TBEnunciado->setStatement(m_session.problem().statement);
+    LBUnidad->setText(m_session.problem().unit);
+    TBCorrecto->setVerdict({}, Mark::None);
+}
+
+void FormProblemas::showNextProblem()
+{
+    NuevoProblema();
+    TBRespuesta->clear();
+    TBRespuesta->setFocus();
+}
+
+void FormProblemas::Command1_Click()
+{
+    const auto verdict = m_session.check(core::readNumber(TBRespuesta->text()));
+    if (verdict == ProblemSession::Verdict::Wrong) {
+        TBCorrecto->setVerdict(u"Respuesta incorrecta"_s, Mark::Wrong);
+        TBRespuesta->clear();
+        TBRespuesta->setFocus();
+    } else {
+        TBCorrecto->setVerdict(u"Respuesta correcta"_s, Mark::Right);
+        Command2[0]->setFocus();
+    }
+    LBEstado->setText(m_session.counters().FormatoSimple());
+}
+
+void FormProblemas::Command2_Click(int Index)
+{
+    switch (Index) {
+    case 0:
+        showNextProblem();
+        break;
+    case 1:
+        TBRespuesta->clear();
+        TBRespuesta->setFocus();
+        break;
+    default:
+        TBRespuesta->setText(QString::number(m_session.showSolution()));
+        break;
+    }
+}
+
+void FormProblemas::MnuOpcGes_Click()
+{
+    auto& editor = screens().load<DLGProblemas>(); // first: if it fails, this screen stays
+    editor.onClosed = [&set = screens()] {
+        set.show(screenName()); // made afresh, if it was closed meanwhile
+        set.load<FormProblemas>().TBRespuesta->setFocus(); // hiding has moved the focus on
+    };
+    hide();
+    screens().show(DLGProblemas::screenName());
+    m_session.setBank({});
+    if (auto bank = LeerBanco(screens().resources()))
+        m_session.setBank(*std::move(bank));
+}
+
+void FormProblemas::MnuOpcSel_Click()
+{
+    auto& dialog = screens().load<DLGSelProb>();
+    dialog.CargaDatos = [form = QPointer(this)](core::Int16 Selección, OperationMask MaskOpera) {
+        if (form)
+            form->CargaDatos(Selección, MaskOpera);
+    };
+    screens().showModal(DLGSelProb::screenName(), *this, [this] {
+        screens().show(screenName());
+        showNextProblem();
+    });
+}
+
+void FormProblemas::MnuOpcSal_Click()
+{
+    screens().unload(DLGProblemas::screenName());
+    unload();
+}
+
+} // namespace problems

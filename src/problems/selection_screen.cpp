@@ -1,0 +1,136 @@
+#include "problems/selection_screen.h"
+
+#include "problems/bank.h"
+#include "ui/screens.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QRadioButton>
+
+using namespace Qt::StringLiterals;
+
+namespace problems {
+
+namespace {
+
+constexpr double Width = 8280;
+constexpr double Height = 4500;
+constexpr double Margin = 240;
+constexpr double Gap = 240;
+constexpr double FrameTop = Margin;
+constexpr double FrameHeight = 2730;
+constexpr double OptionsWidth = 4680;
+constexpr double ChecksLeft = Margin + OptionsWidth + Gap;
+constexpr double ChecksWidth = Width - Margin - ChecksLeft;
+constexpr double FirstRow = 510; // in a frame
+constexpr double RowHeight = 510;
+constexpr double CommandWidth = 1800;
+constexpr double CommandHeight = 570;
+
+} // namespace
+
+QString DLGSelProb::screenName()
+{
+    return u"DLGSelProb"_s;
+}
+
+DLGSelProb::DLGSelProb(ui::Screens& screens)
+    : Screen(screens, screenName(), u"Selección de problemas"_s, Width, Height)
+{
+    makeOptions();
+    makeChecks();
+    Text1 =
+        displayBox(u"Text1"_s, {Margin, FrameTop + FrameHeight + 120, Width - 2 * Margin, 450},
+            ui::look::Verdict, u"Enunciados disponibles"_s, u"0 tipos seleccionados"_s);
+
+    const QColor neutral = ui::look::palette().color(QPalette::Button);
+    const ui::TwipRect right{Width - Margin - CommandWidth, Height - Margin - CommandHeight,
+        CommandWidth, CommandHeight};
+    OKButton = button(u"OKButton"_s, u"Aceptar"_s,
+        {right.left - 120 - CommandWidth, right.top, CommandWidth, CommandHeight}, neutral);
+    on(OKButton, &QPushButton::clicked, &DLGSelProb::OKButton_Click);
+    on(button(u"CancelButton"_s, u"Cancelar"_s, right, neutral), &QPushButton::clicked,
+        &DLGSelProb::CancelButton_Click);
+}
+
+void DLGSelProb::makeOptions()
+{
+    QGroupBox* parent = frame(
+        u"Frame1"_s, u"&Tipo de problemas"_s, {Margin, FrameTop, OptionsWidth, FrameHeight});
+    const std::array captions{u"Todos los tipos"_s, u"Con alguna de las seleccionadas"_s,
+        u"Con todas las seleccionadas"_s};
+    for (int i = 0; i < 3; ++i) {
+        auto*& option = Option1.at(static_cast<std::size_t>(i));
+        option = new QRadioButton(captions.at(static_cast<std::size_t>(i)), parent);
+        addChoice(option, u"Option1(%1)"_s.arg(i), i, OptionsWidth);
+        on(option, &QRadioButton::toggled, [this] { Option1_Click(); });
+    }
+}
+
+void DLGSelProb::makeChecks()
+{
+    QGroupBox* parent =
+        frame(u"Frame2"_s, u"&Operaciones"_s, {ChecksLeft, FrameTop, ChecksWidth, FrameHeight});
+    const std::array captions{u"&Multiplic"_s, u"&Divisiones"_s, u"&Sumas"_s, u"&Restas"_s};
+    for (int i = 0; i < 4; ++i) {
+        auto*& check = Check1.at(static_cast<std::size_t>(i));
+        check = new QCheckBox(captions.at(static_cast<std::size_t>(i)), parent);
+        addChoice(check, u"Check1(%1)"_s.arg(i), i, ChecksWidth);
+        on(check, &QCheckBox::toggled, [this] { Check1_Click(); });
+    }
+    Check1[0]->setAccessibleName(u"Multiplicaciones"_s);
+}
+
+QGroupBox* DLGSelProb::frame(
+    const QString& name, const QString& caption, const ui::TwipRect& place)
+{
+    return add(new QGroupBox(caption, canvas()), name, place);
+}
+
+void DLGSelProb::addChoice(QAbstractButton* choice, const QString& name, int row, double width)
+{
+    add(choice, name, {180, FirstRow + row * RowHeight, width - 360, RowHeight});
+}
+
+void DLGSelProb::Form_Load()
+{
+    if (const auto bank = LeerBanco(screens().resources()))
+        m_model.load(bank->lines);
+    Option1[0]->setFocus();
+}
+
+void DLGSelProb::ContarDisponibles()
+{
+    const int count = m_model.ContarDisponibles(option(), checkedOperations());
+    Text1->setText(ProblemSelection::availableText(count));
+    OKButton->setEnabled(count >= 1);
+}
+
+ProblemSelection::Option DLGSelProb::option() const
+{
+    for (std::size_t i = 0; i < Option1.size(); ++i) {
+        if (Option1[i]->isChecked())
+            return static_cast<ProblemSelection::Option>(i);
+    }
+    return ProblemSelection::NoOption;
+}
+
+OperationMask DLGSelProb::checkedOperations() const
+{
+    OperationMask mask = 0;
+    for (std::size_t k = 0; k < Check1.size(); ++k) {
+        if (Check1[k]->isChecked())
+            mask = static_cast<OperationMask>(mask | 1U << k);
+    }
+    return mask;
+}
+
+void DLGSelProb::OKButton_Click()
+{
+    const auto chosen = option();
+    if (CargaDatos)
+        CargaDatos(chosen == ProblemSelection::NoOption ? 0 : chosen, checkedOperations());
+    unload();
+}
+
+} // namespace problems

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/int16.h"
+#include "problems/selection.h"
+#include "ui/screen.h"
+
+#include <array>
+
+class QAbstractButton;
+class QCheckBox;
+class QGroupBox;
+class QRadioButton;
+
+namespace problems {
+
+/// The dialog that restricts which problems are drawn, by the operations they exercise.
+class DLGSelProb : public ui::Screen {
+public:
+    static QString screenName();
+
+    explicit DLGSelProb(ui::Screens& screens);
+
+    /// Receives the choice when "Aceptar" takes it; the dialog's opener sets it.
+    std::function<void(core::Int16 Selección, OperationMask MaskOpera)> CargaDatos;
+
+protected:
+    void Form_Load() override;
+
+private:
+    void makeOptions();
+    void makeChecks();
+    QGroupBox* frame(const QString& name, const QString& caption, const ui::TwipRect& place);
+    void addChoice(QAbstractButton* choice, const QString& name, int row, double width);
+
+    void Option1_Click() { ContarDisponibles(); }
+    void Check1_Click() { ContarDisponibles(); }
+    void OKButton_Click();
+    void CancelButton_Click() { unload(); }
+
+    void ContarDisponibles();
+    ProblemSelection::Option option() const;
+    OperationMask checkedOperations() const;
+
+    ProblemSelection m_model;
+    std::array<QRadioButton*, 3> Option1{};
+    std::array<QCheckBox*, 4> Check1{};
+    ui::TextBox* Text1 = nullptr;
+    ui::Button* OKButton = nullptr;
+};
+
+} // namespace problems
