@@ -18,17 +18,17 @@ int main(int argc, char* argv[])
     gallery::Gallery gallery(arguments.value(1, u"pictures"_s),
         QString::fromUtf8(PIZARRIN_RESOURCES), arguments.mid(2));
     gallery::addMenu(gallery);
-    gallery::addCombinedOperations(gallery);
-    gallery::addFillTheGap(gallery);
-    gallery::addMultiplesDivisors(gallery);
     gallery::addMultiplicationTables(gallery);
-    gallery::addProblems(gallery);
-    gallery::addProblemsEditor(gallery);
     gallery::addQuickTables(gallery);
-    gallery::addRace(gallery);
     gallery::addRepeatedSum(gallery);
-    gallery::addNumberRain(gallery);
+    gallery::addFillTheGap(gallery);
     gallery::addLongMultiplication(gallery);
     gallery::addLongDivision(gallery);
+    gallery::addCombinedOperations(gallery);
+    gallery::addMultiplesDivisors(gallery);
+    gallery::addProblems(gallery);
+    gallery::addProblemsEditor(gallery);
+    gallery::addNumberRain(gallery);
+    gallery::addRace(gallery);
     return 0;
 }

@@ -1,36 +1,23 @@
 #include "activities.h"
 
+#include "games/number_rain_screen.h"
+#include "games/race_options_screen.h"
+#include "games/race_screen.h"
 #include "problems/bank_editor_screen.h"
 #include "problems/problem_session_screen.h"
 #include "problems/selection_screen.h"
 #include "tables/fill_the_gap_screen.h"
-#include "games/number_rain_screen.h"
-#include "games/race_options_screen.h"
-#include "games/race_screen.h"
 #include "tables/multiplication_tables_screen.h"
 #include "tables/quick_tables_screen.h"
 #include "tables/repeated_sum_screen.h"
 #include "ui/screens.h"
+#include "written/combined_operations_screen.h"
 #include "written/digit_dialog.h"
 #include "written/long_division_screen.h"
 #include "written/long_multiplication_screen.h"
-#include "written/combined_operations_screen.h"
 #include "written/multiples_divisors_screen.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Stands in for a screen that does not exist yet.
-class Placeholder final : public ui::Screen {
-public:
-    Placeholder(ui::Screens& screens, const QString& name)
-        : Screen(screens, name, name, 6000, 4500)
-    {
-    }
-};
-
-} // namespace
 
 std::vector<shell::Activity> activities()
 {
@@ -52,29 +39,25 @@ std::vector<shell::Activity> activities()
 
 void addScreens(ui::Screens& screens)
 {
-    for (const shell::Activity& activity : activities()) {
-        screens.add(activity.screen, [name = activity.screen](ui::Screens& set) -> ui::Screen* {
-            return new Placeholder(set, name);
-        });
-    }
     screens.add(shell::Form1::screenName(), [](ui::Screens& set) -> ui::Screen* {
         const auto entries = activities();
         return new shell::Form1(set, entries);
     });
     screens.setMainScreen(shell::Form1::screenName());
-    screens.add<tables::Form2>();
+
+    screens.add<games::DlgCarrera>();
+    screens.add<games::Form5>();
+    screens.add<games::FrmCarrera>();
     screens.add<problems::DLGProblemas>();
     screens.add<problems::DLGSelProb>();
     screens.add<problems::FormProblemas>();
+    screens.add<tables::Form2>();
     screens.add<tables::Form4>();
     screens.add<tables::Form8>();
     screens.add<tables::FrmMultHuecos>();
-    screens.add<games::Form5>();
     screens.add<written::Dialog>();
     screens.add<written::Form3>();
     screens.add<written::Form6>();
     screens.add<written::FRMCombi>();
     screens.add<written::FrmMultidivi>();
-    screens.add<games::DlgCarrera>();
-    screens.add<games::FrmCarrera>();
 }

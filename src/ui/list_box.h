@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// A list of captions, with air between its lines. Whatever is clicked or reached by a key is selected, and stays so: a
-/// Ctrl+click does not take the selection away.
+/// A list of captions, with air between its lines. Whatever is clicked or reached by a key is
+/// selected, and stays so: a Ctrl+click does not take the selection away.
 class ListBox : public QListWidget {
 public:
     explicit ListBox(QWidget* parent);
