@@ -1,0 +1,311 @@
+#include "activities.h"
+#include "core/random.h"
+#include "support/screen_bench.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QDir>
+#include <QListWidget>
+#include <QMenuBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Captions that share an access key by design: the key walks from one to the other.
+const QMap<QString, QStringList> SharedKeys{
+    {u"Form1"_s, {u"L"_s, u"M"_s, u"S"_s}},
+    {u"DLGProblemas"_s, {u"R"_s, u"V"_s}},
+};
+
+QChar accessKey(const QString& caption)
+{
+    for (qsizetype i = 0; i + 1 < caption.size(); ++i) {
+        if (caption[i] == u'&' && caption[++i] != u'&')
+            return caption[i].toUpper();
+    }
+    return {};
+}
+
+double area(const QRect& rect)
+{
+    return static_cast<double>(rect.width()) * rect.height();
+}
+
+} // namespace
+
+/// Every screen as assistive tools, the keyboard and weak eyes meet it.
+class AccessibilityTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        for (const QFileInfo& file :
+            QDir(QString::fromUtf8(PIZARRIN_RESOURCES)).entryInfoList(QDir::Files))
+            QVERIFY(QFile::copy(file.filePath(), folder.filePath(file.fileName())));
+    }
+
+    void init()
+    {
+        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
+        addScreens(*screens);
+    }
+    void cleanup() { screens.reset(); }
+
+    void everyControlHasItsRoleAndASpanishName_data() { addScreenRows(); }
+    void everyControlHasItsRoleAndASpanishName()
+    {
+        ui::Screen& screen = open();
+        for (QWidget* control : controls(screen)) {
+            QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
+            QVERIFY2(face, qPrintable(control->objectName()));
+            const QString name = face->text(QAccessible::Name);
+            if (isDecoration(*control))
+                continue;
+            QVERIFY2(!name.isEmpty(), qPrintable(control->objectName()));
+            QVERIFY2(name != control->objectName(), qPrintable(name));
+            QCOMPARE(int(face->role()), int(expectedRole(control)));
+        }
+    }
+
+    void accessKeysAreUnique_data() { addScreenRows(); }
+    void accessKeysAreUnique()
+    {
+        ui::Screen& screen = open();
+        QStringList keys;
+        for (const auto* button : screen.findChildren<QAbstractButton*>())
+            keys << accessKey(button->text());
+        for (const auto* label : screen.findChildren<QLabel*>()) {
+            if (label->buddy() != nullptr)
+                keys << accessKey(label->text());
+        }
+        for (const auto* menu : screen.findChildren<QMenuBar*>())
+            for (const QAction* action : menu->actions())
+                keys << accessKey(action->text());
+        keys.removeAll(QString(QChar()));
+        keys.removeAll(QString());
+        keys.sort();
+        QStringList twice;
+        for (qsizetype i = 1; i < keys.size(); ++i) {
+            if (keys.at(i) == keys.at(i - 1) && !twice.contains(keys.at(i)))
+                twice << keys.at(i);
+        }
+        QCOMPARE(twice, SharedKeys.value(screen.objectName()));
+    }
+
+    void textsAreReadable_data() { addScreenRows(); }
+    void textsAreReadable()
+    {
+        ui::Screen& screen = open();
+        for (const QWidget* control : controls(screen)) {
+            if (isDecoration(*control) || !screen.rect().intersects(placeOn(screen, *control)))
+                continue; // the latter are hidden off the canvas
+            const QPalette palette = control->palette();
+            const bool button = qobject_cast<const QPushButton*>(control) != nullptr;
+            const auto text = button ? QPalette::ButtonText : control->foregroundRole();
+            auto ground = button ? QPalette::Button : control->backgroundRole();
+            const bool box = qobject_cast<const QLineEdit*>(control) != nullptr
+                || qobject_cast<const QAbstractScrollArea*>(control) != nullptr;
+            QColor behind = palette.color(box ? QPalette::Base : ground);
+            const QColor ink = palette.color(box ? QPalette::Text : text);
+            if (behind.alpha() < 255)
+                behind = groundOf(*control);
+            const double ratio = ui::look::contrast(ink, behind);
+            QVERIFY2(ratio >= 4.5,
+                qPrintable(u"%1: %2 on %3 is %4"_s.arg(
+                    control->objectName(), ink.name(), behind.name(), QString::number(ratio))));
+        }
+    }
+
+    void tabOrderFollowsTheReadingOrder_data() { addScreenRows(); }
+    void tabOrderFollowsTheReadingOrder()
+    {
+        ui::Screen& screen = open();
+        if (screen.objectName() == u"Form3"_s)
+            return; // its order is given: the row by the result, then the buttons
+        const QList<QWidget*> order = tabOrder(screen);
+        QVERIFY(screen.objectName() == u"FrmCarrera"_s || !order.isEmpty());
+        for (qsizetype i = 1; i < order.size(); ++i) {
+            const QRect before = placeOn(screen, *order.at(i - 1));
+            const QRect after = placeOn(screen, *order.at(i));
+            // Down the screen, or on to the next column.
+            const bool onwards = after.bottom() > before.top() || after.left() > before.right();
+            QVERIFY2(onwards,
+                qPrintable(
+                    order.at(i - 1)->objectName() + u" before "_s + order.at(i)->objectName()));
+        }
+    }
+
+    void focusIsVisibleOnEveryControl_data() { addScreenRows(); }
+    void focusIsVisibleOnEveryControl()
+    {
+        ui::Screen& screen = open();
+        const QList<QWidget*> order = tabOrder(screen);
+        for (QWidget* control : order) {
+            if (order.size() == 1)
+                break; // it never loses the focus
+            QWidget* other = control == order.first() ? order.last() : order.first();
+            other->setFocus(Qt::TabFocusReason);
+            QTest::qWait(1);
+            const QImage without =
+                screen.grab(placeOn(screen, *control).adjusted(-6, -6, 6, 6)).toImage();
+            control->setFocus(Qt::TabFocusReason);
+            if (!control->hasFocus())
+                continue; // it hands its focus on, to a control that is tried itself
+            QTest::qWait(1);
+            QVERIFY2(screen.grab(placeOn(screen, *control).adjusted(-6, -6, 6, 6)).toImage()
+                    != without,
+                qPrintable(control->objectName()));
+        }
+    }
+
+    void controlsStandInsideTheirCanvas_data() { addScreenRows(); }
+    void controlsStandInsideTheirCanvas()
+    {
+        ui::Screen& screen = open();
+        for (const QWidget* control : controls(screen)) {
+            const QRect place = placeOn(screen, *control);
+            const QRect inside = place.intersected(screen.rect());
+            // Whole, or hidden off the canvas.
+            QVERIFY2(inside.isEmpty() || area(inside) == area(place),
+                qPrintable(control->objectName()));
+        }
+    }
+
+    void verdictsAndExercisesAreAnnounced_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("verdict");
+        QTest::addColumn<QString>("exercise"); // a box that the next exercise fills
+        QTest::newRow("Form3") << u"Form3"_s << u"Text1"_s << u"TbFactor(0)"_s;
+        QTest::newRow("Form4") << u"Form4"_s << u"Text1"_s << u"TbSuma"_s;
+        QTest::newRow("Form6") << u"Form6"_s << u"Text4"_s << u"Text2"_s;
+        QTest::newRow("FRMCombi") << u"FRMCombi"_s << u"Text1"_s << u"TBOperación"_s;
+        QTest::newRow("FrmMultHuecos")
+            << u"FrmMultHuecos"_s << u"TbResultado"_s << u"TbTermin(2)"_s;
+        QTest::newRow("FormProblemas")
+            << u"FormProblemas"_s << u"TBCorrecto"_s << u"TBEnunciado"_s;
+    }
+    void verdictsAndExercisesAreAnnounced()
+    {
+        // The offscreen platform hands no events on; what they tell of is the value.
+        QFETCH(QString, verdict);
+        QFETCH(QString, exercise);
+        ui::Screen& screen = open();
+        const auto value = [&](const QString& control) {
+            auto& widget = ScreenBench::find<QWidget>(screen, control);
+            return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Value);
+        };
+        const auto click = [&](const QString& button) {
+            ScreenBench::find<QPushButton>(screen, button).click();
+        };
+        const QString before = value(verdict);
+        click(u"Command1"_s);
+        QVERIFY(value(verdict) != before);
+        QVERIFY(!value(verdict).isEmpty());
+        const QString old = value(exercise);
+        click(u"Command2(2)"_s); // some screens go on only from the solution
+        for (int i = 0; i < 20 && value(exercise) == old; ++i)
+            click(u"Command2(0)"_s);
+        QVERIFY(value(exercise) != old);
+    }
+
+private:
+    static void addScreenRows()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("Form1") << u"Form1"_s;
+        for (const shell::Activity& activity : activities())
+            QTest::newRow(qPrintable(activity.screen)) << activity.screen;
+        for (const QString& dialog : dialogs())
+            QTest::newRow(qPrintable(dialog)) << dialog;
+    }
+
+    static QStringList dialogs()
+    {
+        return {u"Dialog"_s, u"DlgCarrera"_s, u"DLGProblemas"_s, u"DLGSelProb"_s};
+    }
+
+    ui::Screen& open()
+    {
+        QFETCH(QString, name);
+        screens->show(name);
+        ui::Screen& screen = *screens->loaded(name);
+        [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&screen);
+        return screen;
+    }
+
+    /// Named controls that are shown.
+    static QList<QWidget*> controls(const ui::Screen& screen)
+    {
+        QList<QWidget*> found;
+        for (QWidget* widget : screen.findChildren<QWidget*>()) {
+            if (!widget->objectName().isEmpty() && widget->isVisible()
+                && !widget->objectName().startsWith(u"qt_"_s)
+                && qobject_cast<QMenu*>(widget) == nullptr)
+                found << widget;
+        }
+        return found;
+    }
+
+    static QAccessible::Role expectedRole(const QWidget* control)
+    {
+        if (qobject_cast<const QLineEdit*>(control)
+            || qobject_cast<const QPlainTextEdit*>(control))
+            return QAccessible::EditableText;
+        if (qobject_cast<const QPushButton*>(control))
+            return QAccessible::Button;
+        return QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control))->role();
+    }
+
+    /// What is no control and says nothing: a sheet of paper, a line, a picture.
+    static bool isDecoration(const QWidget& control)
+    {
+        if (const auto* label = qobject_cast<const QLabel*>(&control))
+            return label->text().isEmpty();
+        const auto role =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control))->role();
+        return role == QAccessible::Client && control.focusPolicy() == Qt::NoFocus;
+    }
+
+    /// The colour that most of the control shows.
+    static QColor groundOf(const QWidget& control)
+    {
+        QWidget* parent = control.parentWidget();
+        const QImage image = parent->grab(control.geometry()).toImage();
+        QHash<QRgb, int> counts;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                ++counts[image.pixel(x, y)];
+        const auto most = std::max_element(counts.cbegin(), counts.cend());
+        return QColor::fromRgb(most.key());
+    }
+
+    static QRect placeOn(const ui::Screen& screen, const QWidget& control)
+    {
+        return {control.mapTo(&screen, QPoint(0, 0)), control.size()};
+    }
+
+    static QList<QWidget*> tabOrder(const ui::Screen& screen)
+    {
+        QList<QWidget*> order;
+        for (QWidget* widget = screen.nextInFocusChain(); widget != &screen;
+             widget = widget->nextInFocusChain()) {
+            const bool reached = (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+            if (reached && widget->isVisible() && widget->isEnabled()
+                && !widget->objectName().isEmpty()
+                && screen.rect().contains(placeOn(screen, *widget).center()))
+                order << widget;
+        }
+        return order;
+    }
+
+    core::SeededRandom random;
+    FakeClock clock;
+    QTemporaryDir folder;
+    std::unique_ptr<ui::Screens> screens;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(AccessibilityTest)
+#include "accessibility_test.moc"
