@@ -96,6 +96,29 @@ private slots:
             }
         }
     }
+
+    void examplesOfTheManualWorkOut()
+    {
+        QFile manual(QString::fromUtf8(PIZARRIN_MANUAL));
+        QVERIFY(manual.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(manual.readAll());
+        static const QRegularExpression example(u"`([^`\n]*(?:\\|[^`\n]*){3})`"_s);
+        core::SeededRandom random;
+        int examples = 0;
+        for (const auto& match : example.globalMatch(text)) {
+            ++examples;
+            for (int round = 0; round < Rounds; ++round) {
+                const Problem problem =
+                    problems::InstanciarProblema(match.captured(1), random, evaluator);
+                QVERIFY2(problem.answer >= 0, qPrintable(match.captured(1)));
+                for (const QString& expression : expressions(match.captured(1), problem.data)) {
+                    const double value = evaluator.evaluate(expression);
+                    QVERIFY2(value == std::floor(value), qPrintable(expression));
+                }
+            }
+        }
+        QCOMPARE(examples, 10);
+    }
 };
 
 QTEST_GUILESS_MAIN(StarterBankTest)
