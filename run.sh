@@ -8,7 +8,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 # True when there is a display that answers; a variable alone may be left over.
 has_display() {
   if [ -n "${WAYLAND_DISPLAY:-}" ]; then
-    [ -S "${XDG_RUNTIME_DIR:-/run/user/$(id -u)}/$WAYLAND_DISPLAY" ] && return
+    case $WAYLAND_DISPLAY in
+      /*) [ -S "$WAYLAND_DISPLAY" ] && return ;;
+      *) [ -S "${XDG_RUNTIME_DIR:-/run/user/$(id -u)}/$WAYLAND_DISPLAY" ] && return ;;
+    esac
   fi
   case ${DISPLAY:-} in
     "") return 1 ;;

@@ -1,5 +1,5 @@
 // Whole games of the model, played at random and watched, and what the falling numbers cost
-// the computer. Run it on a real display: number_rain_bench [seconds for each drawing]
+// the computer. Usage: number_rain_bench [seconds for each drawing]
 
 #include "core/clock.h"
 #include "core/random.h"

@@ -59,8 +59,7 @@ double open(ui::Screens& screens, QPushButton& button, PaintWatch& watch)
     QApplication::processEvents(); // what else the first frame paints
     const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     settle();
-    for (const QString& dialog : {u"DlgCarrera"_s})
-        screens.unload(dialog);
+    screens.unload(u"DlgCarrera"_s);
     return milliseconds;
 }
 

@@ -5,7 +5,7 @@ Usage: bench/start.py [build folder] [rounds]
 
 Each round starts one of the two programs, waits until its window is painted (its middle is
 no longer the root window's black), and reads the time and, half a second later, the memory
-(PSS). Prints the medians and the ratios. Runs Xvfb by itself; needs xvfb, x11-apps (xwd).
+(PSS). Prints the medians and the ratios. Runs Xvfb by itself (package xvfb).
 """
 import os
 import pathlib

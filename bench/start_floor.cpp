@@ -1,4 +1,4 @@
-// The smallest program of twelve buttons in this toolkit: what start.sh compares with.
+// The smallest program of twelve buttons in this toolkit: what start.py compares with.
 #include <QApplication>
 #include <QGridLayout>
 #include <QPushButton>

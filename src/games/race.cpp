@@ -129,13 +129,13 @@ Race::Verdict Race::countSolved()
 
 void Race::secondPassed()
 {
-    if (isUnderWay())
+    if (m_clocksRun)
         Segundos += 1;
 }
 
 Race::RivalStep Race::rivalStep()
 {
-    if (!isUnderWay())
+    if (!m_clocksRun)
         return RivalStep::Ignored;
     PasosRival += 1;
     if (PasosRival < RivalStepsToWin)

@@ -9,10 +9,11 @@ class RandomSource;
 namespace games {
 
 /// The rules of the race: the pupil's car goes a step for every operation solved, the
-/// rival's a step for every tick of its timer. Shows nothing and owns no clock: the screen
-/// calls secondPassed() and rivalStep() while clocksRun().
+/// rival's a step for every tick of its timer. Shows nothing and owns no clock: ticks are
+/// calls.
 ///
-/// Nothing counts before a race is prepared or after it has ended.
+/// Nothing counts before a race is prepared or after it has ended, and no tick before the
+/// first operation is solved.
 class Race {
 public:
     enum class Verdict {

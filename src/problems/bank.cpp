@@ -106,8 +106,13 @@ bool writeAll(QSaveFile& file, QByteArrayView bytes)
 void replaceFile(const QString& name, const QByteArray& bytes)
 {
     QSaveFile file(name);
-    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit())
-        return;
+    if (file.open(QIODevice::WriteOnly)) {
+        // Whoever may replace the bank may replace its backup, whoever made that.
+        if (QFile::exists(BankFile))
+            file.setPermissions(QFile::permissions(BankFile));
+        if (writeAll(file, bytes) && file.commit())
+            return;
+    }
     fail(u"No se puede guardar «%1»."_s.arg(QDir::toNativeSeparators(QDir(name).absolutePath())),
         reasonNotWritten(file) + u"\nEl banco de problemas anterior sigue como estaba."_s);
 }

@@ -164,6 +164,8 @@ void DLGProblemas::storeEntry()
         ui::MessageBox::show(*this, refusal);
         return;
     }
+    if (selectedEntry() == BankEditor::NoEntry)
+        selectEntry(0); // shows the problem that is about to be replaced
     const int entry = m_model.store(selectedEntry(), stored);
     List1->item(entry)->setText(m_model.line(entry));
     if (List1->count() == m_model.newEntry())

@@ -86,6 +86,13 @@ bool ProblemSession::canDraw() const
     return false;
 }
 
+bool ProblemSession::hasSelectedBehindFirst() const
+{
+    return lastIndex() > 0
+        && std::any_of(m_operations.begin() + 1, m_operations.end(),
+            [this](OperationMask operations) { return isSelected(operations); });
+}
+
 void ProblemSession::ensureDrawable()
 {
     if (lastIndex() == 0)
@@ -95,8 +102,9 @@ void ProblemSession::ensureDrawable()
     for (int index = 0; index <= lastIndex(); ++index)
         eligible += isEligible(index) ? 1 : 0;
     const bool fewLeft = 10 * eligible < lastIndex() + 1;
-    // The first line may be all that is left: then the draw would never end.
-    if (fewLeft || !canDraw())
+    // The first line may be all that is left: then the draw would never end. A new cycle is
+    // begun for that only where it helps.
+    if (fewLeft || (!canDraw() && hasSelectedBehindFirst()))
         beginCycle();
     if (!canDraw())
         throw core::Error(u"No hay ningún problema que cumpla la selección."_s);

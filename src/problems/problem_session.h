@@ -51,6 +51,7 @@ public:
 
 private:
     bool isSelected(OperationMask operations) const;
+    bool hasSelectedBehindFirst() const;
     bool isEligible(int index) const;
     int lastIndex() const { return static_cast<int>(m_bank.lines.size()) - 1; }
     bool canDraw() const;

@@ -36,7 +36,6 @@ private:
 
     MultiplicationTables m_model;
     ui::MenuList MnuOpcTabLis;
-    ui::MenuList MnuOpcActLis;
     ui::Memo* TbTabla1 = nullptr;
     ui::Memo* TbTabla2 = nullptr;
     std::array<ui::TextBox*, 5> TbOperación{};

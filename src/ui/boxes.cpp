@@ -1,5 +1,6 @@
 #include "ui/boxes.h"
 
+#include "ui/application.h"
 #include "ui/look.h"
 #include "ui/screen.h"
 
@@ -74,15 +75,14 @@ QWidget* parentOf(Screen& owner)
     return owner.isVisible() ? &owner : QApplication::activeWindow();
 }
 
-/// Runs a box as owner's and returns whether it was accepted. The box lives on the heap:
-/// it is deleted with its parent when that is unloaded behind it.
-int run(Screen& owner, const QPointer<QDialog>& box)
+/// Runs a box as owner's. The box lives on the heap: it is deleted with its parent when
+/// that is unloaded behind it.
+void run(Screen& owner, const QPointer<QDialog>& box)
 {
     const Screen::Waiting waiting(owner, box);
-    const int result = box->exec();
+    box->exec();
     if (box)
         box->deleteLater();
-    return result;
 }
 
 /// Lets the text be as wide as its longest line, up to a measure that grows with the font.
@@ -102,6 +102,7 @@ void widen(const Box& box, const Screen& owner)
 
 QPointer<Box> makeBox(Screen& owner, const QString& text, const QString& title, bool question)
 {
+    installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
     box->setFont(look::scaled(look::Instruction, owner.factor()));
     box->setWindowTitle(title);

@@ -50,7 +50,17 @@ constexpr std::array NamedKeys{
     KeyPair{Qt::Key_Minus, 189},
     KeyPair{Qt::Key_Period, 190},
     KeyPair{Qt::Key_Colon, 190},
-    KeyPair{Qt::Key_Slash, 191},
+    // The signs over the digits, as they stand on the Spanish keyboard.
+    KeyPair{Qt::Key_Exclam, 49},
+    KeyPair{Qt::Key_QuoteDbl, 50},
+    KeyPair{Qt::Key_periodcentered, 51},
+    KeyPair{Qt::Key_Dollar, 52},
+    KeyPair{Qt::Key_Percent, 53},
+    KeyPair{Qt::Key_Ampersand, 54},
+    KeyPair{Qt::Key_Slash, 55},
+    KeyPair{Qt::Key_ParenLeft, 56},
+    KeyPair{Qt::Key_ParenRight, 57},
+    KeyPair{Qt::Key_Equal, 48},
     KeyPair{Qt::Key_Asterisk, 187},
 };
 
@@ -89,6 +99,8 @@ int keyCode(const QKeyEvent& event)
         return key::F1 + qtKey - Qt::Key_F1;
     if (const int code = find(NamedKeys, qtKey))
         return code;
+    if (qtKey >= Qt::Key_Dead_Grave && qtKey <= Qt::Key_Dead_Longsolidusoverlay)
+        return key::Other; // an accent key types too, with the next one
     return event.text().isEmpty() && qtKey >= Qt::Key_Escape ? 0 : key::Other;
 }
 

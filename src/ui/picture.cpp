@@ -14,14 +14,16 @@ namespace {
 [[noreturn]] void fail(const QString& fileName, const QString& folder, const QString& reason)
 {
     throw core::FileError(
-        u"No se puede mostrar la imagen «%1»: %2. Copia de nuevo el archivo en "
+        u"No se puede mostrar la imagen «%1»: %2. Copie de nuevo el archivo en "
         "la carpeta «%3»."_s.arg(fileName, reason, QDir::toNativeSeparators(folder)));
 }
 
-/// The toolkit decodes a JPEG that breaks off in the middle and fills the rest with grey.
+/// The toolkit decodes a JPEG that breaks off in the middle and fills the rest with grey. A
+/// thumbnail inside has an end marker of its own, before the last scan starts.
 bool breaksOff(const QByteArray& data)
 {
-    return data.startsWith("\xFF\xD8") && !data.contains("\xFF\xD9");
+    return data.startsWith("\xFF\xD8")
+        && data.lastIndexOf("\xFF\xD9") <= data.lastIndexOf("\xFF\xDA");
 }
 
 } // namespace

@@ -142,8 +142,11 @@ void Screen::showEvent(QShowEvent* event)
 void Screen::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    if (!event->spontaneous() && m_runningHandlers == 0 && !m_unloaded)
-        tellClosed();
+    if (event->spontaneous() || m_runningHandlers > 0 || m_unloaded)
+        return;
+    ++m_runningHandlers; // whom it tells may open a box: the screen must outlive its hiding
+    tellClosed();
+    endHandler();
 }
 
 void Screen::tellClosed()
@@ -212,13 +215,14 @@ Screen::Waiting::Waiting(Screen& screen, QDialog* box)
     : m_screen(screen)
     , m_exceptions(std::uncaught_exceptions())
 {
-    m_screen.m_box = box;
+    m_outer = std::exchange(m_screen.m_box, box);
     ++m_screen.m_waiting;
     ++m_screen.m_runningHandlers; // the screen must outlive the box whoever opened it
 }
 
 Screen::Waiting::~Waiting() noexcept(false)
 {
+    m_screen.m_box = m_outer;
     --m_screen.m_waiting;
     const bool gone = m_screen.isUnloaded();
     m_screen.endHandler();
@@ -298,23 +302,27 @@ void Screen::setDesignSize(double width, double height)
         layOut();
         return;
     }
-    resizeToDesign(m_factor);
+    resizeToDesign(m_factorGivenWay > 0 ? m_factorGivenWay : m_factor);
     keepOnDisplay();
 }
 
 void Screen::keepOnDisplay()
 {
     const QRect available = screen()->availableGeometry();
-    const int below = frameGeometry().bottom() - available.bottom();
-    if (below > 0 && isVisible())
-        move(x(), std::max(available.top(), y() - below));
+    const int below = std::max(0, frameGeometry().bottom() - available.bottom());
+    const int beside = std::max(0, frameGeometry().right() - available.right());
+    if (isVisible() && (below > 0 || beside > 0))
+        move(std::max(available.left(), x() - beside), std::max(available.top(), y() - below));
 }
 
 void Screen::comeUp()
 {
     const QRect available = screen()->availableGeometry();
     resizeToDesign(Screens::initialFactor(MenuHeight, available.height()));
-    move(available.center() - rect().center());
+    // The window manager's frame stands above the canvas: it counts when centring.
+    const int frame = static_cast<int>(Screens::FrameHeight);
+    move(available.x() + (available.width() - width()) / 2,
+        available.y() + std::max(0, (available.height() - height() - frame) / 2));
 }
 
 void Screen::resizeToDesign(double factor)
@@ -327,13 +335,17 @@ void Screen::resizeToDesign(double factor)
     const auto pixels = [](double length) { return static_cast<int>(std::ceil(length)); };
     const double smallest = std::min(SmallestFactor, fitting);
     setMinimumSize(pixels(width * smallest), pixels(height * smallest));
-    resize(pixels(width * fitting), pixels(height * fitting));
+    m_ownSize = QSize(pixels(width * fitting), pixels(height * fitting));
+    resize(m_ownSize);
     layOut(); // the size may be the same, the design not
+    m_factorGivenWay = fitting < factor ? factor : 0; // resizing has forgotten it
 }
 
 void Screen::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    if (event->size() != m_ownSize)
+        m_factorGivenWay = 0; // a person has chosen another size
     layOut();
 }
 

@@ -69,6 +69,7 @@ public:
 
     private:
         Screen& m_screen;
+        QPointer<QDialog> m_outer; ///< the box that another handler waits for
         int m_exceptions;
     };
 
@@ -220,6 +221,8 @@ private:
     double m_designWidth;
     double m_designHeight;
     double m_factor = 1;
+    double m_factorGivenWay = 0; ///< the factor meant, while the display is too small for it
+    QSize m_ownSize; ///< the last size that the screen gave itself
     std::unordered_map<const QWidget*, Control> m_controls;
     std::unordered_map<const QWidget*, KeyFilter*> m_keyFilters;
     QPointer<QDialog> m_box; ///< the box that a handler waits for

@@ -69,6 +69,7 @@ void Screens::show(const QString& name)
     Screen& screen = load(name);
     if (screen.m_loading) // whoever loads it will show it
         return;
+    screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
     screen.show();
     screen.raise();
     screen.activateWindow();

@@ -16,7 +16,7 @@ public:
     static int fittingSize(QFont font, double width, double height);
 
     /// The size of a square, and how far below the top of the box the written ones begin; in
-    /// twips. The type fits a square and is never larger than that of an operation.
+    /// twips. The type fits a square and is never larger than 34 pixels at factor 1.
     void setSquare(double width, double height, double top);
 
     /// Lets the text run from the left instead, its first character in a square that begins

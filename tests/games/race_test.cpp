@@ -338,6 +338,15 @@ private slots:
         QCOMPARE(race->operation(), QString());
     }
 
+    void noTickCountsBeforeTheFirstRightAnswer()
+    {
+        prepare(7, 5);
+        race->secondPassed();
+        QCOMPARE(race->rivalStep(), RivalStep::Ignored);
+        QCOMPARE(race->seconds(), 0);
+        QCOMPARE(race->rivalSteps(), 0);
+    }
+
     void newRaceStartsFromTheLine()
     {
         prepare(7, 5);

@@ -646,6 +646,9 @@ private slots:
         store();
         QCOMPARE(entries(), (QStringList{Lines[1], Lines[2], New}));
         QCOMPARE(selected(), QList<int>{2});
+        // The problem that was replaced stands in the boxes.
+        QCOMPARE(shown(),
+            (QStringList{u"Reparte [4_8] cromos."_s, u"{&1*2}"_s, u"cromos"_s, u"*/.."_s}));
     }
 
     void deletesTheSelectedEntry()

@@ -126,6 +126,19 @@ private slots:
         QCOMPARE(random->left(), 0u);
     }
 
+    void noNewCycleWhereItWouldNotHelp()
+    {
+        session->setBank(bankOf({u"*"_s, u"/"_s, u"/"_s, u"/"_s, u"/"_s}));
+        script({1}, 5);
+        QCOMPARE(next(), u"P1"_s);
+        session->CargaDatos(1, 1); // only the first line, which is never drawn
+        QVERIFY(!failure().isEmpty());
+        session->CargaDatos(0, 0);
+        script({1, 2}, 5); // P1 has still been shown
+        QCOMPARE(next(), u"P2"_s);
+        QCOMPARE(random->left(), 0u);
+    }
+
     void noneOfTenLeftIsANewCycle()
     {
         exhaustMultiplications();

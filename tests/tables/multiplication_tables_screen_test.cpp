@@ -197,6 +197,45 @@ private slots:
         QCOMPARE(line(), u"1 × 1 = "_s);
         QCOMPARE(screen->windowTitle(), u"Tabla del 1 - Repasar tabla en orden"_s);
         QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto"_s);
+        // Highlights outlive the box.
+        QTest::qWait(20);
+        QCOMPARE(bench->control<QLineEdit>(u"Text1"_s).selectedText(), u"Resultado correcto"_s);
+        verifySigns(true);
+    }
+
+    void nextTableWalksTheMenuAndWraps()
+    {
+        const QList<int> order{2, 5, 10, 3, 4, 6, 7, 8, 9, 1};
+        for (int i = 0; i < 10; ++i) {
+            bench->click(u"Command3(1)"_s);
+            QCOMPARE(screen->windowTitle(), u"Tabla del %1 - Ver tabla"_s.arg(order.at(i)));
+            for (int item = 0; item < 10; ++item)
+                QCOMPARE(bench->control<QAction>(u"MnuOpcTabLis(%1)"_s.arg(item)).isChecked(),
+                    item == (i + 1) % 10);
+        }
+    }
+
+    void everyMenuItemAnswersItsAccessKey()
+    {
+        const auto keys = [&](std::initializer_list<Qt::Key> path) {
+            altKey(Qt::Key_O);
+            QWidget* popup = &bench->control<QMenu>(u"MnuOpc"_s);
+            for (Qt::Key key : path) {
+                QVERIFY(QTest::qWaitFor([&] { return QApplication::activePopupWidget(); }));
+                popup = QApplication::activePopupWidget();
+                QTest::keyClick(popup, key);
+            }
+        };
+        keys({Qt::Key_T, Qt::Key_7});
+        QCOMPARE(screen->windowTitle(), u"Tabla del 7 - Ver tabla"_s);
+        keys({Qt::Key_A, Qt::Key_R}); // shared by both reviews: the first is only marked
+        QApplication::activePopupWidget()->close();
+        bench->control<QMenu>(u"MnuOpc"_s).close();
+        keys({Qt::Key_A, Qt::Key_V});
+        QCOMPARE(screen->windowTitle(), u"Tabla del 7 - Ver tabla"_s);
+        const QPointer<Form2> alive(screen);
+        keys({Qt::Key_S});
+        QTRY_VERIFY(!alive);
     }
 
     void noAtTheEndGoesOnToTheNextActivity()

@@ -30,6 +30,12 @@ private slots:
         QTest::newRow("space") << int(Qt::Key_Space) << none << u" "_s << 32;
         QTest::newRow("letter") << int(Qt::Key_A) << none << u"a"_s << 65;
         QTest::newRow("ñ") << int(Qt::Key_Ntilde) << none << u"ñ"_s << 231;
+        QTest::newRow("sign over 1")
+            << int(Qt::Key_Exclam) << Qt::KeyboardModifiers(Qt::ShiftModifier) << u"!"_s << 49;
+        QTest::newRow("sign over 0")
+            << int(Qt::Key_Equal) << Qt::KeyboardModifiers(Qt::ShiftModifier) << u"="_s << 48;
+        QTest::newRow("keypad slash") << int(Qt::Key_Slash) << keypad << u"/"_s << 111;
+        QTest::newRow("accent") << int(Qt::Key_Dead_Acute) << none << QString() << 231;
         QTest::newRow("left") << int(Qt::Key_Left) << none << QString() << 37;
         QTest::newRow("keypad left") << int(Qt::Key_Left) << keypad << QString() << 37;
         QTest::newRow("Delete") << int(Qt::Key_Delete) << none << u"\x7f"_s << 46;

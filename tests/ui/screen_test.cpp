@@ -85,6 +85,17 @@ private slots:
         QVERIFY(screen->height() <= available);
         QVERIFY(screen->factor() < 1);
         QCOMPARE(screen->canvas()->height(), qRound(2000 * screen->factor()));
+        screen->setDesignSize(4500, 3000);
+        QCOMPARE(screen->factor(), 1.0); // it only gave way
+    }
+
+    void sizeThatAPersonChoseStays()
+    {
+        screen->setDesignSize(4500, 30000);
+        screen->resize(screen->width() + 50, screen->height() + 30);
+        const double chosen = screen->factor();
+        screen->setDesignSize(4500, 3000);
+        QVERIFY(std::abs(screen->factor() - chosen) < 0.01); // but for whole pixels
     }
 
     void escapeDoesNotClose()
