@@ -11,10 +11,15 @@ void SeededRandom::seed(double value)
     m_engine.seed(static_cast<std::uint32_t>(bits ^ (bits >> 32)));
 }
 
-float SeededRandom::next()
+float fractionOf(std::uint32_t bits)
 {
     // 24 bits are what a single-precision fraction holds: more would round up to 1.0.
-    return static_cast<float>(m_engine() >> 8) * 0x1p-24f;
+    return static_cast<float>(bits >> 8) * 0x1p-24f;
+}
+
+float SeededRandom::next()
+{
+    return fractionOf(static_cast<std::uint32_t>(m_engine()));
 }
 
 Int16 drawInteger(RandomSource& random, int count, int first)

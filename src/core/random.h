@@ -19,6 +19,9 @@ public:
     virtual float next() = 0;
 };
 
+/// The draw that 32 random bits stand for: 0 <= r < 1, never 1 for the highest of them.
+float fractionOf(std::uint32_t bits);
+
 /// A uniform generator: the same seed gives the same draws on every system.
 class SeededRandom final : public RandomSource {
 public:

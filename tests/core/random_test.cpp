@@ -11,6 +11,13 @@ class RandomTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void highestBitsStayBelowOne()
+    {
+        QCOMPARE(core::fractionOf(0xFFFFFFFF), std::nextafter(1.0f, 0.0f));
+        QCOMPARE(core::fractionOf(0), 0.0f);
+        QCOMPARE(core::fractionOf(0x80000000), 0.5f);
+    }
+
     void drawsStayBelowOne()
     {
         core::SeededRandom random;
