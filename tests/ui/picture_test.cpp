@@ -6,6 +6,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The same JPEG, but its header says 60000 × 60000 pixels.
+QByteArray enlarged(QByteArray jpeg)
+{
+    const qsizetype frame = jpeg.indexOf("\xFF\xC0");
+    const QByteArray size("\xEA\x60\xEA\x60", 4);
+    return jpeg.replace(frame + 5, size.size(), size);
+}
+
+} // namespace
+
 class PictureTest : public QObject {
     Q_OBJECT
 
@@ -29,6 +41,9 @@ private slots:
         QTest::newRow("head only") << whole.left(100) << u"el archivo está dañado"_s;
         QTest::newRow("breaks off")
             << whole.left(whole.size() / 2) << u"el archivo está dañado"_s;
+        QTest::newRow("breaks off behind a thumbnail's end") << whole.left(20) + "\xFF\xD9"
+                + whole.mid(20, whole.size() / 2) << u"el archivo está dañado"_s;
+        QTest::newRow("gigantic") << enlarged(whole) << u"el archivo está dañado"_s;
     }
     void whatIsNoWholePictureIsToldByName()
     {
