@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the program and its tests, optimised and with the
-# sanitizers, and runs every test in both.
+# sanitizers, and runs every test in both; the optimised ones of screens in real windows too.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . scripts/setup.sh
@@ -14,10 +14,15 @@ export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:strict_string_checks=1}
 export LSAN_OPTIONS=${LSAN_OPTIONS:-suppressions=$PWD/tests/leaks.txt:print_suppressions=0}
 export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
 
-need_packages "${build_packages[@]}"
+run_tests() { # test preset
+  quietly "probar $1" ctest --preset "$1" -j "$(nproc)"
+  echo "Pruebas ($1):"
+  grep -A 3 'tests passed' "build/probar-$1.log" || echo "ninguna: falta con qué"
+}
+
+need_packages "${build_packages[@]}" xvfb openbox dbus-daemon dbus-bin at-spi2-core
 for preset in release asan; do
   build_preset "$preset"
-  quietly "probar $preset" ctest --preset "$preset" -j "$(nproc)"
-  echo "Pruebas ($preset):"
-  grep -A 3 'tests passed' "build/probar-$preset.log"
+  run_tests "$preset"
 done
+run_tests windows

@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "games/night_sky.h"
 #include "games/rain_drop.h"
+#include "ui/announcement.h"
 #include "ui/glide.h"
 #include "ui/screens.h"
 
@@ -188,6 +189,7 @@ void Form5::show(const RainStep& step)
     if (step.phasePrepared) {
         Text1->setText(m_model.instruction());
         Text1->showSelected();
+        ui::announce(*Text1, m_model.instruction());
     }
     for (int slot = 0; slot < RainState::Slots; ++slot)
         showNumber(slot, step.launched == slot);

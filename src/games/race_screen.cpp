@@ -6,6 +6,7 @@
 #include "games/race_keypad_button.h"
 #include "games/race_options_screen.h"
 #include "games/race_track.h"
+#include "ui/announcement.h"
 #include "ui/glide.h"
 #include "ui/picture.h"
 #include "ui/screens.h"
@@ -247,6 +248,7 @@ void FrmCarrera::moveCar(std::size_t index, double left)
 void FrmCarrera::NuevaOperacion()
 {
     TBOperación->setText(m_race.operation());
+    ui::announce(*TBOperación, m_race.operation());
     TBResultado->clear();
     TBResultado->setFocus();
 }

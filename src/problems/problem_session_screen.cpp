@@ -6,6 +6,7 @@
 #include "problems/bank_editor_screen.h"
 #include "problems/selection_screen.h"
 #include "problems/statement_box.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <QAction>
@@ -123,6 +124,7 @@ void FormProblemas::NuevoProblema()
     });
     TBEnunciado->setStatement(m_session.problem().statement);
     LBUnidad->setText(m_session.problem().unit);
+    ui::announce(*TBEnunciado, m_session.problem().statement);
     TBCorrecto->setVerdict({}, Mark::None);
 }
 

@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "tables/blackboard.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -92,6 +93,8 @@ void FrmMultHuecos::NuevoHueco()
     TbTermin[2]->setText(QString::number(m_model.product()));
     for (ui::TextBox* shown : {TbTermin[0], TbSignos[0], TbSignos[1], TbTermin[2]})
         shown->showSelected();
+    ui::announce(
+        *TbTermin[2], u"%1 x … = %2"_s.arg(m_model.shownFactor()).arg(m_model.product()));
 }
 
 void FrmMultHuecos::Command1_Click()

@@ -2,6 +2,7 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <QAction>
@@ -177,6 +178,7 @@ void Form2::showQuestion()
     TbOperación[4]->setFocus();
     showSigns();
     Command2[2]->setEnabled(false);
+    ui::announce(*TbOperación[2], u"%1 × %2"_s.arg(m_model.table()).arg(m_model.multiplier()));
 }
 
 void Form2::showSigns()

@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "tables/quick_tables_widgets.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <QApplication>
@@ -217,6 +218,7 @@ void Form8::showOperation()
     TbDatos[2]->setText(QString::number(m_model.state().FactorB.value()));
     TbDatos[4]->clear();
     LBOperación->setText(m_model.operationText());
+    ui::announce(*LBOperación, m_model.operationText());
     showRemaining(); // the label keeps its colour until the next second
 }
 

@@ -4,6 +4,7 @@
 #include "core/errors.h"
 #include "core/numbers.h"
 #include "tables/blackboard.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -100,6 +101,7 @@ void Form4::NuevaSuma()
     m_model.NuevaSuma();
     Command2[0]->setEnabled(m_model.canContinue());
     TbSuma->setPlainText(m_model.sumText());
+    ui::announce(*TbSuma, m_model.sumText());
     Text1->setVerdict({}, Mark::None);
     clearAnswer();
     TbSuma->setFocus();

@@ -1,9 +1,9 @@
 #include "ui/text_box.h"
 
+#include "ui/announcement.h"
 #include "ui/look.h"
 #include "ui/screen.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -145,10 +145,8 @@ void VerdictBox::setVerdict(const QString& text, Mark mark)
         setPalette(*std::exchange(m_palette, std::nullopt));
     setText(text);
     update();
-    if (!text.isEmpty()) {
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    if (!text.isEmpty())
+        announce(*this, text);
 }
 
 void VerdictBox::retire()

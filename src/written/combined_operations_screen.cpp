@@ -2,6 +2,7 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "written/scratch_area.h"
 
@@ -70,6 +71,7 @@ void FRMCombi::newExpression()
     m_model.newExpression();
     Text1->retire();
     TBOperación->setText(m_model.text());
+    ui::announce(*TBOperación, m_model.text());
     TBCálculos->setPlainText(m_model.text());
     TBCálculos->moveCursor(QTextCursor::End);
     TBResultado->setFocus();

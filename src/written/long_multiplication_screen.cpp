@@ -1,6 +1,7 @@
 #include "written/long_multiplication_screen.h"
 
 #include "core/clock.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
 #include "written/digit_dialog.h"
@@ -71,6 +72,7 @@ void Form3::showFactors()
     TbFactor[1]->write(m_model.factor2Text());
     for (SquaredBox* box : TbFactor)
         box->showSelected();
+    ui::announce(*TbFactor[1], m_model.factor1Text() + u" x "_s + m_model.factor2Text());
 }
 
 void Form3::showMessage(const QString& text)

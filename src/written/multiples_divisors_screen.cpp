@@ -2,6 +2,7 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <algorithm>
@@ -79,6 +80,7 @@ void FrmMultidivi::newExercise()
     TBMensajes->retire();
     Text1->setPlainText(m_model.instruction());
     Text2->setText(QString::number(m_model.number()));
+    ui::announce(*Text2, m_model.instruction() + u' ' + Text2->text());
 }
 
 void FrmMultidivi::clearAnswers()

@@ -377,7 +377,7 @@ private slots:
         bench->pick(u"MnuOpcGes"_s);
         ui::Screen* editor = bench->screens.loaded(u"DLGProblemas"_s);
         QVERIFY(editor);
-        QVERIFY(editor->isVisible());
+        QVERIFY(QTest::qWaitForWindowActive(editor));
         QVERIFY(!editor->isModal());
         QVERIFY(!screen->isVisible());
         QCOMPARE(bench->screens.loaded(u"FormProblemas"_s), screen);
@@ -591,9 +591,9 @@ private:
     }
     void closeDialog(const QString& button) const
     {
-        QTest::mouseClick(
-            &ScreenBench::find<QPushButton>(*bench->screens.loaded(u"DLGSelProb"_s), button),
-            Qt::LeftButton);
+        ui::Screen& dialog = *bench->screens.loaded(u"DLGSelProb"_s);
+        ScreenBench::activate(dialog);
+        QTest::mouseClick(&ScreenBench::find<QPushButton>(dialog, button), Qt::LeftButton);
     }
     /// Accepts a selection; the next problem is that of this line of the bank of five.
     void select(const QStringList& choices, int index)

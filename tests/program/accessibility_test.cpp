@@ -4,9 +4,13 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QCheckBox>
 #include <QDir>
+#include <QGroupBox>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QRadioButton>
+#include <QTextEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -173,44 +177,6 @@ private slots:
         }
     }
 
-    void verdictsAndExercisesAreAnnounced_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("verdict");
-        QTest::addColumn<QString>("exercise"); // a box that the next exercise fills
-        QTest::newRow("Form3") << u"Form3"_s << u"Text1"_s << u"TbFactor(0)"_s;
-        QTest::newRow("Form4") << u"Form4"_s << u"Text1"_s << u"TbSuma"_s;
-        QTest::newRow("Form6") << u"Form6"_s << u"Text4"_s << u"Text2"_s;
-        QTest::newRow("FRMCombi") << u"FRMCombi"_s << u"Text1"_s << u"TBOperación"_s;
-        QTest::newRow("FrmMultHuecos")
-            << u"FrmMultHuecos"_s << u"TbResultado"_s << u"TbTermin(2)"_s;
-        QTest::newRow("FormProblemas")
-            << u"FormProblemas"_s << u"TBCorrecto"_s << u"TBEnunciado"_s;
-    }
-    void verdictsAndExercisesAreAnnounced()
-    {
-        // The offscreen platform hands no events on; what they tell of is the value.
-        QFETCH(QString, verdict);
-        QFETCH(QString, exercise);
-        ui::Screen& screen = open();
-        const auto value = [&](const QString& control) {
-            auto& widget = ScreenBench::find<QWidget>(screen, control);
-            return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Value);
-        };
-        const auto click = [&](const QString& button) {
-            ScreenBench::find<QPushButton>(screen, button).click();
-        };
-        const QString before = value(verdict);
-        click(u"Command1"_s);
-        QVERIFY(value(verdict) != before);
-        QVERIFY(!value(verdict).isEmpty());
-        const QString old = value(exercise);
-        click(u"Command2(2)"_s); // some screens go on only from the solution
-        for (int i = 0; i < 20 && value(exercise) == old; ++i)
-            click(u"Command2(0)"_s);
-        QVERIFY(value(exercise) != old);
-    }
-
 private:
     static void addScreenRows()
     {
@@ -232,7 +198,8 @@ private:
         QFETCH(QString, name);
         screens->show(name);
         ui::Screen& screen = *screens->loaded(name);
-        [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&screen);
+        if (name != u"FrmCarrera"_s) // its options come up at once, above it
+            ScreenBench::activate(screen);
         return screen;
     }
 
@@ -251,19 +218,32 @@ private:
 
     static QAccessible::Role expectedRole(const QWidget* control)
     {
-        if (qobject_cast<const QLineEdit*>(control)
-            || qobject_cast<const QPlainTextEdit*>(control))
+        if (qobject_cast<const QLineEdit*>(control) || qobject_cast<const QTextEdit*>(control)
+            || qobject_cast<const QPlainTextEdit*>(control)
+            || control->inherits("written::WorkArea"))
             return QAccessible::EditableText;
         if (qobject_cast<const QPushButton*>(control))
             return QAccessible::Button;
-        return QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control))->role();
+        if (const auto* label = qobject_cast<const QLabel*>(control))
+            return label->pixmap().isNull() ? QAccessible::StaticText : QAccessible::Graphic;
+        if (qobject_cast<const QListWidget*>(control))
+            return QAccessible::List;
+        if (qobject_cast<const QCheckBox*>(control))
+            return QAccessible::CheckBox;
+        if (qobject_cast<const QRadioButton*>(control))
+            return QAccessible::RadioButton;
+        if (qobject_cast<const QGroupBox*>(control))
+            return QAccessible::Grouping;
+        if (control->objectName() == u"PbFoco"_s)
+            return QAccessible::Client; // the sky of the rain, where no number has the focus
+        return QAccessible::NoRole; // a kind of control that this test does not know
     }
 
     /// What is no control and says nothing: a sheet of paper, a line, a picture.
     static bool isDecoration(const QWidget& control)
     {
         if (const auto* label = qobject_cast<const QLabel*>(&control))
-            return label->text().isEmpty();
+            return label->text().isEmpty() && label->pixmap().isNull();
         const auto role =
             QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control))->role();
         return role == QAccessible::Client && control.focusPolicy() == Qt::NoFocus;

@@ -30,9 +30,22 @@ public:
         screens.add<S>();
         screens.show(S::screenName());
         auto& screen = *screens.loaded(S::screenName());
-        [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&screen);
+        activate(screen);
         m_screen = &screen;
         return static_cast<S&>(screen);
+    }
+
+    /// Makes a screen the active window and ends the test program when it does not become it.
+    /// Asks more than once: a window manager may still be busy with the window before.
+    static void activate(QWidget& screen)
+    {
+        for (int tries = 0; tries < 20; ++tries) {
+            screen.activateWindow();
+            if (QTest::qWaitForWindowActive(&screen, 250))
+                return;
+        }
+        std::fprintf(stderr, "%s did not become active\n", qPrintable(screen.objectName()));
+        std::abort();
     }
 
     /// Looks for controls in this screen, which the test has opened by itself.
@@ -47,8 +60,11 @@ public:
 
     template <typename T> static T& find(const QObject& parent, const QString& name)
     {
-        if (auto* found = parent.findChild<T*>(name))
-            return *found;
+        // A menu and its action share a name.
+        for (QObject* object : parent.findChildren<QObject*>(name)) {
+            if (auto* found = dynamic_cast<T*>(object))
+                return *found;
+        }
         std::fprintf(stderr, "no control %s\n", qPrintable(name));
         std::abort();
     }

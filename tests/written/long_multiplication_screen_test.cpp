@@ -784,8 +784,7 @@ private:
 
     QLineEdit& focusOn(const QString& name)
     {
-        screen->activateWindow(); // offscreen, no window manager does it behind a box
-        [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(screen);
+        ScreenBench::activate(*screen); // offscreen, no window manager does it behind a box
         auto& box = bench->control<QLineEdit>(name);
         box.setFocus();
         return box;
