@@ -72,7 +72,8 @@ void Form3::showFactors()
     TbFactor[1]->write(m_model.factor2Text());
     for (SquaredBox* box : TbFactor)
         box->showSelected();
-    ui::announce(*TbFactor[1], m_model.factor1Text() + u" x "_s + m_model.factor2Text());
+    ui::announce(
+        *TbFactor[1], (m_model.factor1Text() + u' ' + m_model.factor2Text()).simplified());
 }
 
 void Form3::showMessage(const QString& text)
