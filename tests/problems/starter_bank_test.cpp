@@ -3,6 +3,7 @@
 #include "problems/bank_editor.h"
 #include "problems/expression.h"
 #include "problems/problem_template.h"
+#include "support/scripted_random.h"
 
 #include <QtTest>
 
@@ -99,13 +100,10 @@ private slots:
 
     void examplesOfTheManualWorkOut()
     {
-        QFile manual(QString::fromUtf8(PIZARRIN_MANUAL));
-        QVERIFY(manual.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(manual.readAll());
         static const QRegularExpression example(u"`([^`\n]*(?:\\|[^`\n]*){3})`"_s);
         core::SeededRandom random;
         int examples = 0;
-        for (const auto& match : example.globalMatch(text)) {
+        for (const auto& match : example.globalMatch(manual())) {
             ++examples;
             for (int round = 0; round < Rounds; ++round) {
                 const Problem problem =
@@ -118,6 +116,46 @@ private slots:
             }
         }
         QCOMPARE(examples, 10);
+    }
+
+    void examplesOfTheManualReadAsItSays()
+    {
+        static const QRegularExpression example(
+            u"`([^`\n]*(?:\\|[^`\n]*){3})`\\s+Con ([0-9, y]+): «([^»]*)»\\s+"
+            "Respuesta:[^.\n]*?([0-9]+)\\."_s);
+        int examples = 0;
+        for (const auto& match : example.globalMatch(manual())) {
+            ++examples;
+            ScriptedRandom random = drawing(match.captured(2), match.captured(1));
+            const Problem problem =
+                problems::InstanciarProblema(match.captured(1), random, evaluator);
+            QCOMPARE(problem.statement, match.captured(3));
+            QCOMPARE(problem.answer, match.captured(4).toInt());
+            QCOMPARE(random.left(), std::size_t(0));
+        }
+        QCOMPARE(examples, 10);
+    }
+
+private:
+    static QString manual()
+    {
+        QFile file(QString::fromUtf8(PIZARRIN_MANUAL));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+    /// The draws that give a line's data these values, written "4, 3 y 10".
+    static ScriptedRandom drawing(const QString& values, const QString& line)
+    {
+        static const QRegularExpression number(u"[0-9]+"_s);
+        static const QRegularExpression datum(u"\\[([0-9]+)_([0-9]+)\\]"_s);
+        ScriptedRandom random;
+        auto value = number.globalMatch(values);
+        for (const auto& match : datum.globalMatch(line)) {
+            const int first = match.captured(1).toInt();
+            const int count = match.captured(2).toInt() - first + 1;
+            random.appendInteger(value.next().captured().toInt(), count, first);
+        }
+        return random;
     }
 };
 
