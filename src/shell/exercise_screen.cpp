@@ -1,5 +1,7 @@
 #include "shell/exercise_screen.h"
 
+#include "core/errors.h"
+
 using namespace Qt::StringLiterals;
 
 namespace shell {
@@ -27,6 +29,14 @@ void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& so
 void ExerciseScreen::enterChecks(QWidget* answerBox)
 {
     onEnter(answerBox, [this] { Command1_Click(); });
+}
+
+void ExerciseScreen::countSilently(const std::function<void()>& count)
+{
+    try {
+        count();
+    } catch (const core::OverflowError&) {
+    }
 }
 
 bool ExerciseScreen::askToRepeat()

@@ -26,6 +26,9 @@ protected:
     /// Enter in this box does what "&Hecho" does.
     void enterChecks(QWidget* answerBox);
 
+    /// For the screens that show no box, whatever fails: full counters stay as they are.
+    static void countSilently(const std::function<void()>& count);
+
     /// "Actividad terminada": true when the pupil wants to repeat the series.
     bool askToRepeat();
 

@@ -27,16 +27,19 @@ void FillTheGap::NuevoHueco()
     Contado = false;
 }
 
-FillTheGap::Verdict FillTheGap::check(double answer)
+FillTheGap::Verdict FillTheGap::judge(double answer) const
 {
-    if (answer != FactorB.value()) {
+    return answer == FactorB.value() ? Verdict::Right : Verdict::Wrong;
+}
+
+void FillTheGap::count(Verdict verdict)
+{
+    if (verdict == Verdict::Wrong) {
         m_counters.countWrong();
-        return Verdict::Wrong;
-    }
-    if (!Contado)
+    } else if (!Contado) {
         m_counters.countRight();
-    Contado = true;
-    return Verdict::Right;
+        Contado = true;
+    }
 }
 
 QString FillTheGap::verdictText(Verdict verdict, QStringView standing)

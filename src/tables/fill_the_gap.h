@@ -31,9 +31,11 @@ public:
     /// Draws an exercise that has neither factor in the place where the last one had it.
     void NuevoHueco();
 
-    /// Judges and counts an answer: the first right one to each exercise, and every wrong
-    /// one. Throws core::OverflowError, with the counters unchanged, beyond 16 bits.
-    Verdict check(double answer);
+    Verdict judge(double answer) const;
+
+    /// Counts a judged answer: the first right one to each exercise, and every wrong one.
+    /// Throws core::OverflowError, with the counters unchanged, beyond 16 bits.
+    void count(Verdict verdict);
 
     /// The verdict as it is written over the standing one: a wrong one gets a blank in
     /// front while there is one, so that the pupil sees that something happened.

@@ -99,7 +99,7 @@ void FrmMultHuecos::NuevoHueco()
 
 void FrmMultHuecos::Command1_Click()
 {
-    const auto verdict = m_model.check(core::readNumber(TbTermin[1]->text()));
+    const auto verdict = m_model.judge(core::readNumber(TbTermin[1]->text()));
     const bool right = verdict == FillTheGap::Verdict::Right;
     TbResultado->setVerdict(
         FillTheGap::verdictText(verdict, TbResultado->text()), right ? Mark::Right : Mark::Wrong);
@@ -107,6 +107,7 @@ void FrmMultHuecos::Command1_Click()
         Command2[0]->setFocus();
     else
         TbTermin[1]->clear();
+    countSilently([&] { m_model.count(verdict); });
     TbEjercicios->setText(m_model.counters().FormatoSimple());
 }
 

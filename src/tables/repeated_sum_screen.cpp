@@ -1,7 +1,6 @@
 #include "tables/repeated_sum_screen.h"
 
 #include "core/clock.h"
-#include "core/errors.h"
 #include "core/numbers.h"
 #include "tables/blackboard.h"
 #include "ui/announcement.h"
@@ -120,20 +119,11 @@ void Form4::Command1_Click()
     const bool right = verdict == RepeatedSum::Verdict::Right;
     Text1->setVerdict(right ? u"Respuesta correcta"_s : u"Respuesta incorrecta"_s,
         right ? Mark::Right : Mark::Wrong);
-    count(verdict);
+    countSilently([&] { m_model.count(verdict); });
     Command2[0]->setEnabled(m_model.canContinue());
     tbResultados->setText(m_model.counters().FormatoAlineado());
     if (right)
         Command2[0]->setFocus(); // it keeps where it is while "&Continuar" is disabled
-}
-
-void Form4::count(RepeatedSum::Verdict verdict)
-{
-    try {
-        m_model.count(verdict);
-    } catch (const core::OverflowError&) {
-        // This screen shows no box, whatever fails: full counters stay as they are.
-    }
 }
 
 void Form4::Command2_Click(int Index)

@@ -26,7 +26,6 @@ private:
     void NuevaSuma();
     void clearAnswer();
     void showSolution();
-    void count(RepeatedSum::Verdict verdict);
 
     RepeatedSum m_model;
     BoardText* TbSuma = nullptr;

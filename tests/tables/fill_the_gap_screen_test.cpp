@@ -214,6 +214,22 @@ private slots:
         QCOMPARE(counters(), u"Ejercicios: 1 Errores: 0"_s);
     }
 
+    void fullCountersShowNoBox()
+    {
+        BoxAnswerer noBox;
+        auto& check = bench->control<QPushButton>(u"Command1"_s);
+        for (int i = 0; i < 32767; ++i)
+            check.click();
+        QCOMPARE(counters(), u"Ejercicios: 32767 Errores: 32767"_s);
+        check.click();
+        verifyVerdict(u" Respuesta incorrecta"_s, Mark::Wrong);
+        answer(u"7"_s);
+        verifyVerdict(u"Respuesta correcta "_s, Mark::Right);
+        QCOMPARE(bench->focusName(), u"Command2(0)"_s);
+        QCOMPARE(counters(), u"Ejercicios: 32767 Errores: 32767"_s);
+        QTest::qWait(20);
+    }
+
     void theShownSelectionOutlivesTheFocusAndTheWindow()
     {
         answer(u"8"_s);
