@@ -54,25 +54,33 @@ bool hasLooseAmpersand(QStringView text)
     return text.contains(u"& ");
 }
 
-QString leaveStatement(TemplateFields& fields)
+QString statementFault(const TemplateFields& fields)
 {
-    fields.operations[Division] = fields.statement.contains(u'(');
-    fields.operations[Addition] = fields.statement.contains(u'+');
-    fields.operations[Subtraction] = fields.statement.contains(u'-');
     if (!hasLooseAmpersand(fields.statement))
         return {};
     return u"Hay una expresión incorrecta en el enunciado. "
            "No debe dejar espacios entre el signo & y el número que lo sigue."_s;
 }
 
-QString leaveAnswer(TemplateFields& fields)
+QString answerFault(const TemplateFields& fields)
 {
-    if (fields.answer.contains(u'*'))
-        fields.operations[Multiplication] = true;
     if (!hasLooseAmpersand(fields.answer))
         return {};
     return u"Hay una expresión incorrecta en el resultado. "
            "No debe dejar espacios entre el signo & y el número que lo sigue. "_s;
+}
+
+void markFromStatement(TemplateFields& fields)
+{
+    fields.operations[Division] = fields.statement.contains(u'(');
+    fields.operations[Addition] = fields.statement.contains(u'+');
+    fields.operations[Subtraction] = fields.statement.contains(u'-');
+}
+
+void markFromAnswer(TemplateFields& fields)
+{
+    if (fields.answer.contains(u'*'))
+        fields.operations[Multiplication] = true;
 }
 
 QString tryOut(const TemplateFields& fields, core::RandomSource& random,

@@ -28,13 +28,17 @@ TemplateFields splitLine(const QString& line);
 /// The line of these fields, blanks around each of the texts left out.
 QString joinLine(const TemplateFields& fields);
 
-/// What is wrong with a statement that is being left; empty when nothing is. Marks the
-/// operations that the statement gives away.
-QString leaveStatement(TemplateFields& fields);
+/// What is wrong with a statement that is being left; empty when nothing is.
+QString statementFault(const TemplateFields& fields);
 
-/// What is wrong with an answer that is being left; empty when nothing is. Marks the
-/// operation that the answer gives away.
-QString leaveAnswer(TemplateFields& fields);
+/// What is wrong with an answer that is being left; empty when nothing is.
+QString answerFault(const TemplateFields& fields);
+
+/// Marks those of three operations that the statement gives away, and clears the others.
+void markFromStatement(TemplateFields& fields);
+
+/// Marks the multiplication when the answer gives it away; clears nothing.
+void markFromAnswer(TemplateFields& fields);
 
 /// Whether an '&' is followed by a blank, which no marker allows.
 bool hasLooseAmpersand(QStringView text);

@@ -51,8 +51,8 @@ DLGProblemas::DLGProblemas(ui::Screens& screens)
     makeOperations();
     makeActions();
     makeWaysOut();
-    checkOnLeaving(Text1, &DLGProblemas::Text1_Validate);
-    checkOnLeaving(Text2, &DLGProblemas::Text2_Validate);
+    checkOnLeaving(Text1, statementFault, &DLGProblemas::Text1_Validate);
+    checkOnLeaving(Text2, answerFault, &DLGProblemas::Text2_Validate);
 }
 
 void DLGProblemas::makeList()
@@ -160,15 +160,20 @@ void DLGProblemas::makeWaysOut()
     on(CancelButton, &QPushButton::clicked, &DLGProblemas::CancelButton_Click);
 }
 
-void DLGProblemas::checkOnLeaving(QWidget* box, QString (DLGProblemas::*validate)())
+void DLGProblemas::checkOnLeaving(
+    QWidget* box, QString (*fault)(const TemplateFields&), void (DLGProblemas::*validate)())
 {
-    const auto check = [this, validate] {
-        QString reason;
-        guarded([&] { reason = (this->*validate)(); });
+    const auto check = [this, fault, validate] {
+        const QString reason = fault(fields());
+        if (reason.isEmpty())
+            guarded([&] { (this->*validate)(); });
         return reason;
     };
-    const auto tell = [this](const QString& reason) {
-        guarded([&] { ui::MessageBox::show(*this, reason); });
+    const auto tell = [this, validate](const QString& reason) {
+        guarded([&] {
+            ui::MessageBox::show(*this, reason);
+            (this->*validate)();
+        });
     };
     (new ui::LeaveCheck(box, check, tell))->exempt(CancelButton);
 }

@@ -67,20 +67,18 @@ void DLGProblemas::List1_Click()
     showOperations(shown);
 }
 
-QString DLGProblemas::Text1_Validate()
+void DLGProblemas::Text1_Validate()
 {
     TemplateFields left = fields();
-    const QString reason = leaveStatement(left);
+    markFromStatement(left);
     showOperations(left);
-    return reason;
 }
 
-QString DLGProblemas::Text2_Validate()
+void DLGProblemas::Text2_Validate()
 {
     TemplateFields left = fields();
-    const QString reason = leaveAnswer(left);
+    markFromAnswer(left);
     showOperations(left);
-    return reason;
 }
 
 void DLGProblemas::Command2_Click()

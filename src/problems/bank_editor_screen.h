@@ -40,12 +40,14 @@ private:
     void makeOperations();
     void makeActions();
     void makeWaysOut();
-    void checkOnLeaving(QWidget* box, QString (DLGProblemas::*validate)());
+    /// When the box is left: the fault is told first, then the handler runs in any case.
+    void checkOnLeaving(
+        QWidget* box, QString (*fault)(const TemplateFields&), void (DLGProblemas::*validate)());
     void restrictKeys(QWidget* box);
 
     void List1_Click();
-    QString Text1_Validate();
-    QString Text2_Validate();
+    void Text1_Validate();
+    void Text2_Validate();
     void Command1_Click() { insertDatum(Target::Statement); }
     void Command2_Click();
     void Command3_Click() { insertDatum(Target::Answer); }

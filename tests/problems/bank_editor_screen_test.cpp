@@ -303,9 +303,12 @@ private slots:
         open();
         writeStatement(u"{& 1} (+"_s);
         BoxAnswerer boxes({u"Aceptar"_s, u"Aceptar"_s});
+        QString marksBehindBox;
+        boxes.whileOpen = [&](QDialog&) { marksBehindBox = operations(); };
         QTest::keyClick(&statement(), Qt::Key_Tab);
         QTRY_COMPARE(boxes.texts, QStringList{StatementMistake});
         QTRY_COMPARE(focusBehindBox(), u"Text1"_s);
+        QCOMPARE(marksBehindBox, u"...."_s); // the box comes first
         QCOMPARE(boxes.titles, QStringList{u"Pizarrin"_s});
         QCOMPARE(boxes.icons, QList{QMessageBox::NoIcon});
         QCOMPARE(boxes.buttons, QStringList{u"Aceptar"_s});

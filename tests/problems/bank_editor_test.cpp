@@ -79,7 +79,7 @@ private slots:
         QTEST(problems::joinLine({texts[0], texts[1], texts[2], operations}), "line");
     }
 
-    void leavingTheStatementSetsThreeOperations_data()
+    void theStatementSetsThreeOperations_data()
     {
         QTest::addColumn<QString>("statement");
         QTest::addColumn<Operations>("operations");
@@ -91,56 +91,57 @@ private slots:
         QTest::newRow("-") << u"a-b"_s << Operations{true, false, false, true};
         QTest::newRow("all") << u"(a+b)-c"_s << Operations{true, true, true, true};
     }
-    void leavingTheStatementSetsThreeOperations()
+    void theStatementSetsThreeOperations()
     {
         QFETCH(QString, statement);
         QFETCH(Operations, operations);
         for (const bool before : {false, true}) {
             TemplateFields fields{statement, u"1*2"_s, {}, {true, before, before, before}};
-            QCOMPARE(problems::leaveStatement(fields), QString());
+            QCOMPARE(problems::statementFault(fields), QString());
+            problems::markFromStatement(fields);
             QCOMPARE(fields.operations, operations);
             fields.operations[0] = false;
-            problems::leaveStatement(fields);
+            problems::markFromStatement(fields);
             QCOMPARE(fields.operations[0], false);
             QCOMPARE(fields.statement, statement);
         }
     }
 
-    void leavingTheStatementFindsALooseAmpersand()
+    void findsALooseAmpersandInTheStatement()
     {
         const QString message = u"Hay una expresión incorrecta en el enunciado. No debe dejar "
                                 "espacios entre el signo & y el número que lo sigue."_s;
         TemplateFields fields{u"{& 1} + 2"_s, u"{&1}"_s, {}, {}};
-        QCOMPARE(problems::leaveStatement(fields), message);
-        QCOMPARE(fields.operations, (Operations{false, false, true, false})); // all the same
+        QCOMPARE(problems::statementFault(fields), message);
         fields.statement = u"Pan & vino"_s;
-        QCOMPARE(problems::leaveStatement(fields), message);
+        QCOMPARE(problems::statementFault(fields), message);
         for (const QString& fine : {u"{&1}"_s, u"a &"_s, u"&\u00A01"_s, u"&&1"_s}) {
             fields.statement = fine;
-            QCOMPARE(problems::leaveStatement(fields), QString());
+            QCOMPARE(problems::statementFault(fields), QString());
         }
     }
 
-    void leavingTheAnswerMarksMultiplicationOnly()
+    void theAnswerMarksMultiplicationOnly()
     {
         TemplateFields fields{u"a"_s, u"{&1*&2+3-(1/1)}"_s, {}, {}};
-        QCOMPARE(problems::leaveAnswer(fields), QString());
+        problems::markFromAnswer(fields);
         QCOMPARE(fields.operations, (Operations{true, false, false, false}));
         fields = {u"a*b"_s, u"{&1}"_s, {}, {true, true, true, true}};
-        QCOMPARE(problems::leaveAnswer(fields), QString());
+        problems::markFromAnswer(fields);
         QCOMPARE(fields.operations, (Operations{true, true, true, true})); // nothing cleared
         fields.operations[0] = false;
-        problems::leaveAnswer(fields);
+        problems::markFromAnswer(fields);
         QCOMPARE(fields.operations[0], false);
     }
 
-    void leavingTheAnswerFindsALooseAmpersand()
+    void findsALooseAmpersandInTheAnswer()
     {
         TemplateFields fields{u"a & b"_s, u"{& 1*2}"_s, {}, {}};
-        QCOMPARE(problems::leaveAnswer(fields),
+        QCOMPARE(problems::answerFault(fields),
             u"Hay una expresión incorrecta en el resultado. No debe dejar espacios entre el "
             "signo & y el número que lo sigue. "_s);
-        QCOMPARE(fields.operations[0], true);
+        fields.answer = u"{&1*2}"_s;
+        QCOMPARE(problems::answerFault(fields), QString());
     }
 
     void triesOutAllThreeTexts()
