@@ -23,7 +23,8 @@ copy_libraries() { # destination, files...
 
 build_deb() {
   quietly "configurar paquete" cmake -S . -B build/deb -G Ninja -DCMAKE_BUILD_TYPE=Release \
-    -DPIZARRIN_TESTS=OFF -DCMAKE_INSTALL_PREFIX=/usr
+    -DPIZARRIN_TESTS=OFF -DCMAKE_INSTALL_PREFIX=/usr \
+    ${PIZARRIN_CONTACT+-DPIZARRIN_CONTACT="$PIZARRIN_CONTACT"}
   quietly "compilar paquete" cmake --build build/deb
   (umask 022 && quietly "empaquetar deb" cpack --config build/deb/CPackConfig.cmake -B dist)
   rm -rf dist/_CPack_Packages
