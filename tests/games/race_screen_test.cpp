@@ -625,7 +625,7 @@ private:
         bench->attach(*screen);
         QTRY_VERIFY(bench->screens.loaded(u"DlgCarrera"_s));
         dialog = static_cast<DlgCarrera*>(bench->screens.loaded(u"DlgCarrera"_s));
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        ScreenBench::activate(*dialog);
     }
 
     void openRace(int factor1, int factor2)

@@ -377,7 +377,7 @@ private slots:
         bench->pick(u"MnuOpcGes"_s);
         ui::Screen* editor = bench->screens.loaded(u"DLGProblemas"_s);
         QVERIFY(editor);
-        QVERIFY(QTest::qWaitForWindowActive(editor));
+        ScreenBench::activate(*editor);
         QVERIFY(!editor->isModal());
         QVERIFY(!screen->isVisible());
         QCOMPARE(bench->screens.loaded(u"FormProblemas"_s), screen);

@@ -40,9 +40,11 @@ public:
     static void activate(QWidget& screen)
     {
         for (int tries = 0; tries < 20; ++tries) {
-            screen.activateWindow();
-            if (QTest::qWaitForWindowActive(&screen, 250))
+            if (QTest::qWaitForWindowActive(&screen, 250)) {
+                settle();
                 return;
+            }
+            screen.activateWindow();
         }
         std::fprintf(stderr, "%s did not become active\n", qPrintable(screen.objectName()));
         std::abort();
@@ -101,6 +103,14 @@ public:
     ui::Screens screens;
 
 private:
+    /// A real window manager goes on moving the focus for some milliseconds, faster than any
+    /// person; a window that is closed meanwhile takes the focus with it.
+    static void settle()
+    {
+        if (QGuiApplication::platformName() != u"offscreen")
+            QTest::qWait(30);
+    }
+
     QPointer<ui::Screen> m_screen;
 };
 

@@ -843,7 +843,7 @@ private:
     }
     void tick(std::initializer_list<int> digits)
     {
-        QVERIFY(QTest::qWaitForWindowActive(&dialog()));
+        ScreenBench::activate(dialog());
         for (const int digit : digits) {
             auto& box = dialogControl<QCheckBox>(u"Check1(%1)"_s.arg(digit - 1));
             QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
