@@ -33,9 +33,10 @@ protected:
     virtual void beep();
 
 private:
-    void makeBoxes();
     void makeTrack();
+    void makeBoxes();
     void makeKeypad();
+    void makeCommands();
     void CreaTeclado();
 
     ui::KeyResult Form_KeyDown(int KeyCode);
