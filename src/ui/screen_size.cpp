@@ -15,7 +15,6 @@ namespace ui {
 
 namespace {
 
-constexpr double MenuHeight = 8700 / TwipsPerPixel; // what the factor of all screens goes by
 constexpr double SmallestFactor = 0.5;
 
 } // namespace
@@ -49,7 +48,8 @@ void Screen::keepOnDisplay()
 void Screen::comeUp()
 {
     const QRect available = screen()->availableGeometry();
-    resizeToDesign(Screens::initialFactor(MenuHeight, available.height()));
+    resizeToDesign(
+        Screens::initialFactor(Screens::MainWindowHeight / TwipsPerPixel, available.height()));
     // The window manager's frame stands above the canvas: it counts when centring.
     const int frame = static_cast<int>(Screens::FrameHeight);
     move(available.x() + (available.width() - width()) / 2,
