@@ -1,4 +1,5 @@
 #include "games/race_screen.h"
+
 #include "games/race_track.h"
 #include "ui/glide.h"
 #include "ui/screens.h"
@@ -62,8 +63,8 @@ void FrmCarrera::makeTrack()
 
 void FrmCarrera::makeBoxes()
 {
-    Text1 = displayBox(u"Text1"_s, {Margin, 300, 6000, 360}, ui::look::Instruction,
-        u"Instrucción"_s, u"Resuelve la operación para avanzar"_s);
+    displayBox(u"Text1"_s, {Margin, 300, 6000, 360}, ui::look::Instruction, u"Instrucción"_s,
+        u"Resuelve la operación para avanzar"_s);
     TBOperación = displayBox(u"TBOperación"_s, {Margin, 990, 6000, 960}, OperationFont,
         u"Operación"_s, u"7 x 5 + 8 ="_s);
     TBOperación->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

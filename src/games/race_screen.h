@@ -61,7 +61,6 @@ private:
 
     Race m_race;
     PictureNames NombresImagen;
-    ui::TextBox* Text1 = nullptr;
     ui::TextBox* TBOperación = nullptr;
     ui::TextBox* TBResultado = nullptr;
     ui::VerdictBox* Text4 = nullptr;
