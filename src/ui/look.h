@@ -40,7 +40,6 @@ inline constexpr Font Counters{Family::Arial, 12};
 inline constexpr Font Instruction{Family::Arial, 15};
 inline constexpr Font Verdict{Family::Arial, 17, true};
 inline constexpr Font Command{Family::Arial, 13, true};
-inline constexpr Font Operation{Family::CourierNew, 28, true};
 
 /// The font at a factor, with a metric-compatible fallback family.
 QFont scaled(const Font& font, double factor);
