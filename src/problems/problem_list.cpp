@@ -1,12 +1,8 @@
 #include "problems/problem_list.h"
 
+#include "ui/look.h"
+
 namespace problems {
-
-namespace {
-
-constexpr double CornerMargin = 3; // pixels at factor 1
-
-} // namespace
 
 ProblemList::ProblemList(QWidget* parent)
     : ListBox(parent, Start::Flush)
@@ -15,7 +11,7 @@ ProblemList::ProblemList(QWidget* parent)
 
 void ProblemList::setFactor(double factor)
 {
-    const int corner = qRound(CornerMargin * factor);
+    const int corner = qRound(ui::look::CornerMargin * factor);
     setViewportMargins(corner, corner, corner, corner);
 }
 

@@ -25,6 +25,7 @@ inline constexpr QRgb Cyan = 0xFF00FFFF; ///< 16776960
 
 inline constexpr int MenuBarHeight = 28;
 inline constexpr int BoxMargin = 6; ///< between the edge of an entry box and its text
+inline constexpr int CornerMargin = 3; ///< keeps what a box holds off its round corners
 inline constexpr int RingWidth = 3; ///< focus ring
 
 enum class Family { Arial, CourierNew, Verdana };
