@@ -1,5 +1,6 @@
-#include "games/race_keypad_button.h"
 #include "games/race_screen.h"
+
+#include "games/race_keypad_button.h"
 #include "games/race_track.h"
 
 #include <QFrame>
