@@ -63,6 +63,22 @@ double open(ui::Screens& screens, QPushButton& button, PaintWatch& watch)
     return milliseconds;
 }
 
+/// Prints how long the activity of a menu button takes to open.
+void measure(ui::Screens& screens, QPushButton& button, const QString& screen, PaintWatch& watch)
+{
+    double longest = 0;
+    double first = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        const double taken = open(screens, button, watch);
+        first = round == 0 ? taken : first;
+        longest = std::max(longest, taken);
+        screens.unload(screen);
+        settle();
+    }
+    std::printf("%-14s first %6.1f ms, longest of %d %6.1f ms\n", qPrintable(screen), first,
+        Rounds, longest);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -81,17 +97,7 @@ int main(int argc, char* argv[])
     const auto entries = activities();
     for (std::size_t i = 0; i < entries.size(); ++i) {
         auto* button = menu.findChild<QPushButton*>(u"Command1(%1)"_s.arg(i));
-        double longest = 0;
-        double first = 0;
-        for (int round = 0; round < Rounds; ++round) {
-            const double taken = open(screens, *button, watch);
-            first = round == 0 ? taken : first;
-            longest = std::max(longest, taken);
-            screens.unload(entries.at(i).screen);
-            settle();
-        }
-        std::printf("%-14s first %6.1f ms, longest of %d %6.1f ms\n",
-            qPrintable(entries.at(i).screen), first, Rounds, longest);
+        measure(screens, *button, entries.at(i).screen, watch);
     }
     return 0;
 }

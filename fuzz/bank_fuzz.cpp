@@ -11,7 +11,6 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 

@@ -10,8 +10,6 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 namespace gallery {

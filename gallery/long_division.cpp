@@ -72,40 +72,50 @@ void addSolutions(gallery::Gallery& gallery)
     solve(gallery, u"division-solucion-mayor"_s, u"-2147483648"_s, u"-21474"_s, 5, false);
 }
 
-} // namespace
-
-void gallery::addLongDivision(Gallery& gallery)
+void addExercises(gallery::Gallery& gallery)
 {
-    gallery.add(u"division"_s, Form);
-    gallery.add(u"division-a-medias"_s, Form, [](Stage& stage) {
+    gallery.add(u"division-a-medias"_s, Form, [](gallery::Stage& stage) {
         showDivision(stage, u"7391"_s, u"24"_s);
         write(stage, 1, 2, u"191"_s);
         write(stage, 2, 3, u"2"_s);
     });
-    gallery.add(u"division-seleccion"_s, Form, [](Stage& stage) {
+    gallery.add(u"division-seleccion"_s, Form, [](gallery::Stage& stage) {
         showDivision(stage, u"7391"_s, u"24"_s);
         write(stage, 1, 2, u"191"_s);
         for (int i = 0; i < 4; ++i)
             QTest::keyClick(&stage.control<QWidget>(Work), Qt::Key_Left, Qt::ShiftModifier);
     });
-    gallery.add(u"division-mal"_s, Form, [](Stage& stage) {
+    gallery.add(u"division-mal"_s, Form, [](gallery::Stage& stage) {
         showDivision(stage, u"25"_s, u"2"_s, 3);
         write(stage, 1, 1, u"05"_s);
         answer(stage, u"10,500"_s);
     });
-    gallery.add(u"division-bien"_s, Form, [](Stage& stage) {
+    gallery.add(u"division-bien"_s, Form, [](gallery::Stage& stage) {
         showDivision(stage, u"7391"_s, u"24"_s);
         write(stage, 1, 2, u"191"_s);
         write(stage, 2, 3, u"23"_s);
         answer(stage, u"307"_s);
     });
-    gallery.add(u"division-faltan-decimales"_s, Form, [](Stage& stage) {
+}
+
+void addBoxes(gallery::Gallery& gallery)
+{
+    gallery.add(u"division-faltan-decimales"_s, Form, [](gallery::Stage& stage) {
         showDivision(stage, u"25"_s, u"2"_s, 3);
         stage.photographBox([&] { answer(stage, u"12,5"_s); }, u"Aceptar"_s);
     });
-    gallery.add(u"division-introducir"_s, Form, [](Stage& stage) {
+    gallery.add(u"division-introducir"_s, Form, [](gallery::Stage& stage) {
         stage.photographBox([&] { stage.pick(u"MnuOpcInt"_s); }, u"Cancelar"_s, u"7391"_s);
     });
+}
+
+} // namespace
+
+void gallery::addLongDivision(Gallery& gallery)
+{
+    gallery.add(u"division"_s, Form);
+    addExercises(gallery);
+    addBoxes(gallery);
     gallery.add(u"division-larga"_s, Form, [](Stage& stage) {
         showDivision(stage, u"00000000000000000000000007391"_s, u"24"_s, 5);
     });

@@ -26,6 +26,20 @@ void choose(gallery::Stage& stage, const QString& name)
     stage.control<QAbstractButton>(name).click();
 }
 
+void addSelection(gallery::Gallery& gallery)
+{
+    gallery.add(u"problemas-seleccion"_s, u"DLGSelProb"_s);
+    gallery.add(u"problemas-seleccion-todas"_s, u"DLGSelProb"_s, [](gallery::Stage& stage) {
+        for (const QString& name : {u"Option1(2)"_s, u"Check1(0)"_s, u"Check1(2)"_s})
+            choose(stage, name);
+    });
+    gallery.add(u"problemas-seleccion-ninguno"_s, u"DLGSelProb"_s, [](gallery::Stage& stage) {
+        for (const QString& name :
+            {u"Option1(2)"_s, u"Check1(0)"_s, u"Check1(1)"_s, u"Check1(2)"_s, u"Check1(3)"_s})
+            choose(stage, name);
+    });
+}
+
 } // namespace
 
 void gallery::addProblems(Gallery& gallery)
@@ -46,14 +60,5 @@ void gallery::addProblems(Gallery& gallery)
         dynamic_cast<problems::FormProblemas&>(stage.screen()).CargaDatos(1, 8);
         stage.photographBox([&] { stage.click(u"Command2(0)"_s); }, u"Aceptar"_s);
     });
-    gallery.add(u"problemas-seleccion"_s, u"DLGSelProb"_s);
-    gallery.add(u"problemas-seleccion-todas"_s, u"DLGSelProb"_s, [](Stage& stage) {
-        for (const QString& name : {u"Option1(2)"_s, u"Check1(0)"_s, u"Check1(2)"_s})
-            choose(stage, name);
-    });
-    gallery.add(u"problemas-seleccion-ninguno"_s, u"DLGSelProb"_s, [](Stage& stage) {
-        for (const QString& name :
-            {u"Option1(2)"_s, u"Check1(0)"_s, u"Check1(1)"_s, u"Check1(2)"_s, u"Check1(3)"_s})
-            choose(stage, name);
-    });
+    addSelection(gallery);
 }

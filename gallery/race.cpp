@@ -8,14 +8,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString Form = u"FrmCarrera"_s;
 const QString Answer = u"TBResultado"_s;
 
 /// Waits for the options that come up with the race.
-ui::Screen& options(const gallery::Stage& stage)
+ui::Screen& options(gallery::Stage& stage)
 {
-    auto& screens = const_cast<gallery::Stage&>(stage).screens();
-    const bool up = QTest::qWaitFor([&] { return screens.loaded(u"DlgCarrera"_s) != nullptr; });
-    if (!up)
+    auto& screens = stage.screens();
+    if (!QTest::qWaitFor([&] { return screens.loaded(u"DlgCarrera"_s) != nullptr; }))
         qFatal("the options did not come up");
     return *screens.loaded(u"DlgCarrera"_s);
 }
@@ -66,12 +66,9 @@ void freeze(gallery::Stage& stage)
     QTest::qWait(200); // the cars come to rest
 }
 
-} // namespace
-
-void gallery::addRace(Gallery& gallery)
+void addOptions(gallery::Gallery& gallery)
 {
-    const QString form = u"FrmCarrera"_s;
-    gallery.add(u"carrera-opciones"_s, form, [](Stage& stage) {
+    gallery.add(u"carrera-opciones"_s, Form, [](gallery::Stage& stage) {
         ui::Screen& dialog = options(stage);
         dialog.resize(
             (QSizeF(dialog.size()) * stage.screen().factor() / dialog.factor()).toSize());
@@ -80,8 +77,12 @@ void gallery::addRace(Gallery& gallery)
         QTest::qWait(20);
         stage.picture = dialog.grab();
     });
-    gallery.add(u"carrera-salida"_s, form, [](Stage& stage) { start(stage, 0, 9, 0); });
-    gallery.add(u"carrera-en-marcha"_s, form, [](Stage& stage) {
+}
+
+void addRunning(gallery::Gallery& gallery)
+{
+    gallery.add(u"carrera-salida"_s, Form, [](gallery::Stage& stage) { start(stage, 0, 9, 0); });
+    gallery.add(u"carrera-en-marcha"_s, Form, [](gallery::Stage& stage) {
         start(stage, 8, 5, 2);
         solve(stage, 1);
         freeze(stage);
@@ -92,7 +93,7 @@ void gallery::addRace(Gallery& gallery)
         stage.type(Answer, u"4"_s);
         freeze(stage);
     });
-    gallery.add(u"carrera-teclado"_s, form, [](Stage& stage) {
+    gallery.add(u"carrera-teclado"_s, Form, [](gallery::Stage& stage) {
         start(stage, 4, 6, 3);
         stage.click(u"CBConmutar"_s);
         solve(stage, 1);
@@ -100,7 +101,11 @@ void gallery::addRace(Gallery& gallery)
         stage.press(Answer, Qt::Key_Return);
         freeze(stage);
     });
-    gallery.add(u"carrera-meta"_s, form, [](Stage& stage) {
+}
+
+void addEnds(gallery::Gallery& gallery)
+{
+    gallery.add(u"carrera-meta"_s, Form, [](gallery::Stage& stage) {
         start(stage, 7, 3, 1);
         solve(stage, 14);
         tick(stage, u"Timer2"_s, 52);
@@ -109,17 +114,26 @@ void gallery::addRace(Gallery& gallery)
         stage.picture = {};
         freeze(stage);
     });
-    gallery.add(u"carrera-ganada"_s, form, [](Stage& stage) {
+    gallery.add(u"carrera-ganada"_s, Form, [](gallery::Stage& stage) {
         start(stage, 7, 3, 1);
         solve(stage, 14);
         tick(stage, u"Timer1"_s, 23);
         stage.photographBox([&] { solve(stage, 1); }, u"Aceptar"_s);
     });
-    gallery.add(u"carrera-perdida"_s, form, [](Stage& stage) {
+    gallery.add(u"carrera-perdida"_s, Form, [](gallery::Stage& stage) {
         start(stage, 1, 0, 0);
         solve(stage, 9);
         tick(stage, u"Timer2"_s, 59);
         tick(stage, u"Timer1"_s, 26);
         stage.photographBox([&] { tick(stage, u"Timer2"_s, 1); }, u"Aceptar"_s);
     });
+}
+
+} // namespace
+
+void gallery::addRace(Gallery& gallery)
+{
+    addOptions(gallery);
+    addRunning(gallery);
+    addEnds(gallery);
 }

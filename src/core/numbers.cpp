@@ -13,6 +13,9 @@ namespace core {
 
 namespace {
 
+constexpr double Smallest32 = std::numeric_limits<qint32>::min();
+constexpr double Largest32 = std::numeric_limits<qint32>::max();
+
 struct Prefix {
     double value = 0;
     bool hasDigits = false;
@@ -37,21 +40,14 @@ double finiteValue(const std::string& decimal)
         : std::numeric_limits<double>::max();
 }
 
-Prefix readPrefix(QStringView text)
+/// The digits from a place in a text on, with the one separator as a point; moves the place
+/// behind them.
+std::string takeDecimal(QStringView text, qsizetype& at)
 {
-    Prefix prefix;
-    qsizetype at = 0;
-    while (at < text.size() && text[at].isSpace())
-        ++at;
-    bool negative = false;
-    if (at < text.size() && (text[at] == u'-' || text[at] == u'+'))
-        negative = text[at++] == u'-';
-
     std::string decimal;
     bool hasSeparator = false;
     for (; at < text.size(); ++at) {
         if (isDigit(text[at])) {
-            prefix.hasDigits = true;
             if (decimal == "0")
                 decimal.clear(); // leading zeros say nothing about the size
             decimal += static_cast<char>(text[at].unicode());
@@ -62,7 +58,22 @@ Prefix readPrefix(QStringView text)
             break;
         }
     }
+    return decimal;
+}
+
+Prefix readPrefix(QStringView text)
+{
+    qsizetype at = 0;
+    while (at < text.size() && text[at].isSpace())
+        ++at;
+    bool negative = false;
+    if (at < text.size() && (text[at] == u'-' || text[at] == u'+'))
+        negative = text[at++] == u'-';
+    const std::string decimal = takeDecimal(text, at);
+
+    Prefix prefix;
     prefix.length = at;
+    prefix.hasDigits = !decimal.empty() && decimal != ".";
     if (prefix.hasDigits)
         prefix.value = finiteValue(decimal);
     if (negative && prefix.value != 0) // never -0
@@ -75,6 +86,26 @@ QString quoted(QStringView text)
     constexpr qsizetype Longest = 40;
     const QString shown = text.trimmed().toString();
     return shown.size() <= Longest ? shown : shown.left(Longest) + u"…"_s;
+}
+
+double roundWithin(double value, double smallest, double largest)
+{
+    const double rounded = roundHalfEven(value);
+    if (!(rounded >= smallest && rounded <= largest)) // false for NaN too
+        throw OverflowError(u"El resultado %1 no cabe: debe estar entre %2 y %3."_s.arg(
+            generalText(value, QLocale(QLocale::Spanish)), wholeText(smallest),
+            wholeText(largest)));
+    return rounded;
+}
+
+double readWithin(QStringView text, double smallest, double largest)
+{
+    try {
+        return roundWithin(readNumber(text), smallest, largest);
+    } catch (const OverflowError&) {
+        throw OverflowError(u"«%1» no es un número entero de %2 a %3."_s.arg(
+            quoted(text), wholeText(smallest), wholeText(largest)));
+    }
 }
 
 } // namespace
@@ -95,22 +126,12 @@ std::optional<double> parseNumber(QStringView text)
 
 Int16 readInt16(QStringView text)
 {
-    try {
-        return toInt16(readNumber(text));
-    } catch (const OverflowError&) {
-        throw OverflowError(
-            u"«%1» no es un número entero de -32768 a 32767."_s.arg(quoted(text)));
-    }
+    return {static_cast<int>(readWithin(text, Int16::Min, Int16::Max))};
 }
 
 qint32 readInt32(QStringView text)
 {
-    try {
-        return toInt32(readNumber(text));
-    } catch (const OverflowError&) {
-        throw OverflowError(
-            u"«%1» no es un número entero de -2147483648 a 2147483647."_s.arg(quoted(text)));
-    }
+    return static_cast<qint32>(readWithin(text, Smallest32, Largest32));
 }
 
 double roundHalfEven(double value)
@@ -126,22 +147,12 @@ double roundHalfEven(double value)
 
 Int16 toInt16(double value)
 {
-    const double rounded = roundHalfEven(value);
-    if (!(rounded >= Int16::Min && rounded <= Int16::Max)) // false for NaN too
-        throw OverflowError(u"El resultado %1 no cabe: debe estar entre -32768 y 32767."_s.arg(
-            generalText(value, QLocale(QLocale::Spanish))));
-    return {static_cast<int>(rounded)};
+    return {static_cast<int>(roundWithin(value, Int16::Min, Int16::Max))};
 }
 
 qint32 toInt32(double value)
 {
-    const double rounded = roundHalfEven(value);
-    if (!(rounded >= std::numeric_limits<qint32>::min()
-            && rounded <= std::numeric_limits<qint32>::max()))
-        throw OverflowError(
-            u"El resultado %1 no cabe: debe estar entre -2147483648 y 2147483647."_s.arg(
-                generalText(value, QLocale(QLocale::Spanish))));
-    return static_cast<qint32>(rounded);
+    return static_cast<qint32>(roundWithin(value, Smallest32, Largest32));
 }
 
 QString generalText(double value, const QLocale& locale)

@@ -10,10 +10,7 @@ namespace games {
 
 namespace {
 
-constexpr int FullPoints = 100;
-constexpr int FullLives = 3;
 constexpr int HitsToPass = 15;
-constexpr int SlotsReset = 10; // the ten last keep their numbers from try to try
 
 struct Setting {
     int interval; // ms
@@ -26,16 +23,6 @@ constexpr std::array Settings{Setting{800, 5, 1}, Setting{500, 5, 10}, Setting{3
 const Setting& settingOf(Difficulty difficulty)
 {
     return Settings[static_cast<std::size_t>(difficulty)];
-}
-
-QString livesAfterBlank(Int16 lives)
-{
-    return u"Vidas : %1"_s.arg(lives.value());
-}
-
-QString fullPointsText()
-{
-    return u"%1 puntos"_s.arg(FullPoints);
 }
 
 } // namespace
@@ -89,21 +76,10 @@ RainStep NumberRain::click(int slot)
     if (blocked() || slot < 0 || slot >= RainState::Slots || m_state.Libre[slot])
         return {};
     const Gota& gota = m_state.Gotas[slot];
-    if (EsObjetivo(gota.Valor)) {
-        // Every sum before the first change: one that overflows leaves the game as it was.
-        const Int16 points = m_state.Puntos + 10 * gota.Velocidad;
-        const Int16 hits = m_state.Aciertos + 1;
-        const bool passed = hits >= HitsToPass;
-        const Int16 total = passed ? m_state.PuntosTotales + points : m_state.PuntosTotales;
-        m_state.Puntos = points;
-        m_state.Aciertos = hits;
-        if (passed) {
-            FaseSuperada(total);
-            return take();
-        }
-    } else {
+    if (!EsObjetivo(gota.Valor))
         m_state.Puntos -= m_state.PenaError * gota.Velocidad;
-    }
+    else if (hit(gota))
+        return take();
     if (m_state.Puntos > 0) {
         showPoints();
         m_step.focus = RainFocus::PbFoco;
@@ -112,6 +88,20 @@ RainStep NumberRain::click(int slot)
         CompruebaPuntos(slot, true);
     }
     return take();
+}
+
+bool NumberRain::hit(const Gota& gota)
+{
+    // Every sum before the first change: one that overflows leaves the game as it was.
+    const Int16 points = m_state.Puntos + 10 * gota.Velocidad;
+    const Int16 hits = m_state.Aciertos + 1;
+    const bool passed = hits >= HitsToPass;
+    const Int16 total = passed ? m_state.PuntosTotales + points : m_state.PuntosTotales;
+    m_state.Puntos = points;
+    m_state.Aciertos = hits;
+    if (passed)
+        FaseSuperada(total);
+    return passed;
 }
 
 bool NumberRain::EsObjetivo(Int16 number) const
@@ -134,7 +124,7 @@ void NumberRain::CompruebaPuntos(int slot, bool porError)
 
 void NumberRain::loseLife(bool porError)
 {
-    m_state.Puntos = FullPoints;
+    m_state.Puntos = RainState::FullPoints;
     --m_state.Vidas;
     m_running = false;
     if (m_state.Vidas < 1) {
@@ -143,7 +133,7 @@ void NumberRain::loseLife(bool porError)
                 m_state.PuntosTotales.value()));
         return;
     }
-    m_livesText = livesAfterBlank(m_state.Vidas);
+    showLives();
     ask(RainBox::Kind::LifeLost, u"Lluvia de números"_s,
         porError ? u"Has cometido demasiados errores y pierdes una vida. "
                    "Deberás volver a empezar esta fase."_s
@@ -197,54 +187,9 @@ RainStep NumberRain::answer(bool yes)
     return take();
 }
 
-void NumberRain::newGame()
-{
-    PreparaFase(1);
-    m_state.Puntos = FullPoints;
-    m_state.PuntosTotales = 0;
-    m_state.Vidas = FullLives;
-    m_state.Lanzados = 0;
-    m_pointsText = fullPointsText();
-    m_livesText = livesAfterBlank(m_state.Vidas);
-    resetFirstSlots();
-    wait();
-}
-
-void NumberRain::repeatPhase()
-{
-    m_state.Puntos = FullPoints;
-    resetFirstSlots();
-    m_state.Lanzados = 0;
-    wait();
-    showPoints();
-}
-
-void NumberRain::nextPhase()
-{
-    PreparaFase(m_state.Fase + 1);
-    m_state.Puntos = FullPoints;
-    resetFirstSlots();
-    m_state.Lanzados = 0;
-    m_pointsText = fullPointsText();
-    m_livesText = u"Vidas: %1"_s.arg(m_state.Vidas.value()); // no blank before this colon
-    wait();
-}
-
-void NumberRain::wait()
-{
-    m_running = false;
-    m_waiting = true;
-    m_step.focus = RainFocus::CbEmpezar;
-}
-
 void NumberRain::release(int slot)
 {
     m_state.Libre[slot] = true;
-}
-
-void NumberRain::resetFirstSlots()
-{
-    std::fill_n(m_state.Libre.begin(), SlotsReset, true);
 }
 
 void NumberRain::showPoints()
@@ -252,27 +197,9 @@ void NumberRain::showPoints()
     m_pointsText = QString::number(m_state.Puntos.value());
 }
 
-void NumberRain::PreparaFase(Int16 fase)
+void NumberRain::showLives()
 {
-    const bool byParity = fase <= 2;
-    const Int16 last = byParity ? Int16(20) : 10 * fase;
-    const Int16 divisor = byParity ? Int16(2) : fase;
-    const Int16 remainder = fase == 1 ? 1 : 0;
-    m_state.Fase = fase;
-    m_state.Objetivos.clear();
-    m_state.Otros.clear();
-    for (int v = 1; v <= last.value(); ++v)
-        (v % divisor == remainder ? m_state.Objetivos : m_state.Otros).push_back(v);
-
-    m_caption = u"Lluvia de números - Fase %1"_s.arg(fase.value());
-    if (fase == 1)
-        m_instruction = u"Elimina los  números impares. "
-                        "Selecciona la dificultad antes de empezar."_s;
-    else if (fase == 2)
-        m_instruction = u"Elimina todos los números pares"_s;
-    else
-        m_instruction = u"Elimina todos los múltiplos de %1"_s.arg(fase.value());
-    m_step.phasePrepared = true;
+    m_livesText = u"Vidas : %1"_s.arg(m_state.Vidas.value());
 }
 
 } // namespace games

@@ -31,11 +31,13 @@ struct Gota {
 /// Everything that a game of number rain remembers.
 struct RainState {
     static constexpr int Slots = 20;
+    static constexpr int FullPoints = 100;
+    static constexpr int FullLives = 3;
 
     core::Int16 Fase = 1;
-    core::Int16 Puntos = 100; ///< of the current phase
+    core::Int16 Puntos = FullPoints; ///< of the current phase
     core::Int16 PuntosTotales; ///< kept from the phases passed in this game
-    core::Int16 Vidas = 3;
+    core::Int16 Vidas = FullLives;
     core::Int16 Lanzados; ///< numbers launched in the current phase
     core::Int16 Aciertos; ///< right clicks since the screen was made, whatever the game
     core::Int16 PenaEscape;
@@ -123,6 +125,7 @@ private:
     bool MueveNumeros(int first);
     void runTick(int first);
 
+    bool hit(const Gota& gota); ///< true when it passes the phase
     bool fallsOut(int slot);
     void drift(Gota& gota);
     void launchWhenDue();
@@ -137,6 +140,8 @@ private:
     void release(int slot);
     void resetFirstSlots();
     void showPoints();
+    void showFullPoints();
+    void showLives();
 
     core::RandomSource& m_random;
     int m_height;

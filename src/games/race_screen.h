@@ -33,9 +33,10 @@ protected:
     virtual void beep();
 
 private:
-    void makeBoxes();
     void makeTrack();
+    void makeBoxes();
     void makeKeypad();
+    void makeCommands();
     void CreaTeclado();
 
     ui::KeyResult Form_KeyDown(int KeyCode);
@@ -60,7 +61,6 @@ private:
 
     Race m_race;
     PictureNames NombresImagen;
-    ui::TextBox* Text1 = nullptr;
     ui::TextBox* TBOperación = nullptr;
     ui::TextBox* TBResultado = nullptr;
     ui::VerdictBox* Text4 = nullptr;

@@ -5,9 +5,9 @@
 #include "ui/screen.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 #include <array>
+#include <utility>
 
 namespace games {
 

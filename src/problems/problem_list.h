@@ -1,22 +1,17 @@
 #pragma once
 
+#include "ui/list_box.h"
 #include "ui/placement.h"
-
-#include <QListWidget>
 
 namespace problems {
 
-/// A list of many long lines, each cut off with an ellipsis. Whatever is clicked or reached
-/// by a key is selected, and stays so: a Ctrl+click does not take the selection away.
-class ProblemList : public QListWidget, public ui::Scalable {
+/// The list of the bank's problems: its many long lines stay clear of the round corners at
+/// every factor.
+class ProblemList : public ui::ListBox, public ui::Scalable {
 public:
     explicit ProblemList(QWidget* parent);
 
     void setFactor(double factor) override;
-
-protected:
-    QItemSelectionModel::SelectionFlags selectionCommand(
-        const QModelIndex& index, const QEvent* event) const override;
 };
 
 } // namespace problems

@@ -1,5 +1,7 @@
 #include "problems/statement_box.h"
 
+#include "ui/look.h"
+
 #include <QTextBlockFormat>
 #include <QTextDocument>
 
@@ -9,7 +11,6 @@ namespace {
 
 constexpr double LineSpacing = 140; // per cent
 constexpr double TextMargin = 12; // pixels at factor 1
-constexpr double CornerMargin = 3; // keeps the background off the rounded corners
 
 } // namespace
 
@@ -32,7 +33,7 @@ void StatementBox::setStatement(const QString& statement)
 
 void StatementBox::setFactor(double factor)
 {
-    const int corner = qRound(CornerMargin * factor);
+    const int corner = qRound(ui::look::CornerMargin * factor);
     setViewportMargins(corner, corner, corner, corner);
     document()->setDocumentMargin(TextMargin * factor);
 }

@@ -9,7 +9,6 @@ namespace shell {
 /// Where the buttons of the main menu stand, in twips.
 class MainMenuLayout {
 public:
-    static constexpr int WindowHeight = 8700;
     static constexpr int ButtonWidth = 5000;
     static constexpr int LeftMargin = 500;
 

@@ -14,7 +14,7 @@ namespace shell {
 namespace {
 
 constexpr double MenuBarTwips = ui::look::MenuBarHeight * ui::TwipsPerPixel;
-constexpr double ClientHeight = MainMenuLayout::WindowHeight - MenuBarTwips;
+constexpr double ClientHeight = ui::Screens::MainWindowHeight - MenuBarTwips;
 // The right margin equals the left one.
 constexpr double ClientWidth = 2 * (MainMenuLayout::ButtonWidth + MainMenuLayout::LeftMargin);
 constexpr ui::look::Font ButtonFont{Family::Arial, 16, true}; // 12 points

@@ -34,7 +34,6 @@ public:
     int tableAt(int index) const;
     int table() const { return tableAt(TablaActual.value()); }
 
-    int currentTable() const { return TablaActual.value(); } ///< menu index, 0 to 9
     int currentActivity() const { return ActividadActual.value(); } ///< 0 to 2
     int nextTable() const; ///< menu index behind the current one, back to 0
     int nextActivity() const;

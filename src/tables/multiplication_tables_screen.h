@@ -19,7 +19,8 @@ protected:
 
 private:
     void makeMenu();
-    void makeBoxes();
+    void makeTables();
+    void makeQuestion();
 
     void Command3_Click(int Index);
     void MnuOpcTabLis_Click(int Index);

@@ -6,9 +6,14 @@ namespace ui {
 
 namespace {
 
+/// Lines of one height and any width: none has to be measured, however many there are.
 class LineDelegate final : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    LineDelegate(ListBox* list, ListBox::Start start)
+        : QStyledItemDelegate(list)
+        , m_start(start)
+    {
+    }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
@@ -17,16 +22,20 @@ public:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        option->text.prepend(QChar::Nbsp); // room at the left, at every factor
+        if (m_start == ListBox::Start::Indented)
+            option->text.prepend(QChar::Nbsp); // room at the left, at every factor
     }
+
+private:
+    ListBox::Start m_start;
 };
 
 } // namespace
 
-ListBox::ListBox(QWidget* parent)
+ListBox::ListBox(QWidget* parent, Start start)
     : QListWidget(parent)
 {
-    setItemDelegate(new LineDelegate(this));
+    setItemDelegate(new LineDelegate(this, start));
     setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }

@@ -4,11 +4,15 @@
 
 namespace ui {
 
-/// A list of captions, with air between its lines. Whatever is clicked or reached by a key is
-/// selected, and stays so: a Ctrl+click does not take the selection away.
+/// A list of captions, with air between its lines, each cut off with an ellipsis where it is
+/// too long. Whatever is clicked or reached by a key is selected, and stays so: a Ctrl+click
+/// does not take the selection away.
 class ListBox : public QListWidget {
 public:
-    explicit ListBox(QWidget* parent);
+    /// Where the captions begin: a blank from the edge, or at it.
+    enum class Start { Indented, Flush };
+
+    explicit ListBox(QWidget* parent, Start start = Start::Indented);
 
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(

@@ -25,6 +25,7 @@ inline constexpr QRgb Cyan = 0xFF00FFFF; ///< 16776960
 
 inline constexpr int MenuBarHeight = 28;
 inline constexpr int BoxMargin = 6; ///< between the edge of an entry box and its text
+inline constexpr int CornerMargin = 3; ///< keeps what a box holds off its round corners
 inline constexpr int RingWidth = 3; ///< focus ring
 
 enum class Family { Arial, CourierNew, Verdana };
@@ -40,7 +41,6 @@ inline constexpr Font Counters{Family::Arial, 12};
 inline constexpr Font Instruction{Family::Arial, 15};
 inline constexpr Font Verdict{Family::Arial, 17, true};
 inline constexpr Font Command{Family::Arial, 13, true};
-inline constexpr Font Operation{Family::CourierNew, 28, true};
 
 /// The font at a factor, with a metric-compatible fallback family.
 QFont scaled(const Font& font, double factor);

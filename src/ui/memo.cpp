@@ -4,12 +4,6 @@
 
 namespace ui {
 
-namespace {
-
-constexpr double CornerMargin = 3; // keeps the text's background off the rounded corners
-
-} // namespace
-
 Memo::Memo(Kind kind, QWidget* parent)
     : QPlainTextEdit(parent)
     , m_kind(kind)
@@ -29,9 +23,9 @@ Memo::Memo(Kind kind, QWidget* parent)
 void Memo::setFactor(double factor)
 {
     const bool entry = m_kind == Kind::Entry;
-    const int corner = entry ? qRound(CornerMargin * factor) : 0;
+    const int corner = entry ? qRound(look::CornerMargin * factor) : 0;
     setViewportMargins(corner, corner, corner, corner);
-    document()->setDocumentMargin(entry ? (look::BoxMargin - CornerMargin) * factor : 0);
+    document()->setDocumentMargin(entry ? (look::BoxMargin - look::CornerMargin) * factor : 0);
 }
 
 } // namespace ui

@@ -62,6 +62,10 @@ public:
     /// Unloading this screen unloads all others and ends the program.
     void setMainScreen(const QString& name) { m_mainScreen = name; }
 
+    /// Height of the main screen's window, menu bar included, in twips: the factor of all
+    /// screens goes by it.
+    static constexpr int MainWindowHeight = 8700;
+
     /// Room for a window manager's title bar and edges, in pixels.
     static constexpr double FrameHeight = 40;
 

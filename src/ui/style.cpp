@@ -34,6 +34,34 @@ void drawRounded(QPainter* painter, const QRect& rect, const QBrush& fill, const
     painter->restore();
 }
 
+bool standsOnScreen(const QWidget* widget)
+{
+    return widget != nullptr && widget->window() == Screen::of(widget);
+}
+
+bool isFramelessBox(const QWidget* widget)
+{
+    const auto* box = qobject_cast<const QLineEdit*>(widget);
+    return box != nullptr && !box->hasFrame();
+}
+
+void drawBox(QPainter* painter, const QStyleOption& option, double factor)
+{
+    drawRounded(painter, option.rect, option.palette.brush(QPalette::Base), QColor(look::Line),
+        factor, BoxRadius * factor);
+}
+
+/// Frames what stands below the title.
+void drawGroup(
+    QPainter* painter, const QStyleOption& option, const QWidget* widget, double factor)
+{
+    QRect frame = option.rect;
+    if (const auto* group = qobject_cast<const QGroupBox*>(widget); group != nullptr)
+        frame.setTop(frame.top() + group->fontMetrics().height() + qRound(TitleGap * factor));
+    drawRounded(
+        painter, frame, QColor(look::Card), QColor(look::Line), factor, BoxRadius * factor);
+}
+
 void drawButton(QPainter* painter, const QStyleOption& option, double factor, bool ringInside)
 {
     const bool down = option.state & (QStyle::State_Sunken | QStyle::State_On);
@@ -91,28 +119,18 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 {
     const double factor = Screen::factorOf(widget);
     switch (element) {
-    case PE_PanelLineEdit: {
-        const auto* box = qobject_cast<const QLineEdit*>(widget);
-        if (box == nullptr || box->hasFrame())
-            drawRounded(painter, option->rect, option->palette.brush(QPalette::Base),
-                QColor(look::Line), factor, BoxRadius * factor);
+    case PE_PanelLineEdit:
+        if (!isFramelessBox(widget))
+            drawBox(painter, *option, factor);
         return;
-    }
     case PE_Frame:
-        drawRounded(painter, option->rect, option->palette.brush(QPalette::Base),
-            QColor(look::Line), factor, BoxRadius * factor);
+        drawBox(painter, *option, factor);
         return;
-    case PE_FrameGroupBox: {
-        QRect frame = option->rect;
-        if (const auto* box = qobject_cast<const QGroupBox*>(widget); box != nullptr)
-            frame.setTop(frame.top() + box->fontMetrics().height()
-                + qRound(TitleGap * factor)); // below the title
-        drawRounded(
-            painter, frame, QColor(look::Card), QColor(look::Line), factor, BoxRadius * factor);
+    case PE_FrameGroupBox:
+        drawGroup(painter, *option, widget, factor);
         return;
-    }
     case PE_FrameFocusRect:
-        if (Screen::of(widget) != nullptr && widget->window() == Screen::of(widget))
+        if (standsOnScreen(widget))
             return; // the screen's ring shows the focus
         break;
     default:
@@ -126,8 +144,7 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
 {
     const double factor = Screen::factorOf(widget);
     if (element == CE_PushButtonBevel) {
-        const bool onScreen = widget != nullptr && widget->window() == Screen::of(widget);
-        drawButton(painter, *option, factor, !onScreen);
+        drawButton(painter, *option, factor, !standsOnScreen(widget));
         return;
     }
     if (element == CE_PushButtonLabel) {

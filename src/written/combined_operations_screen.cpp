@@ -32,9 +32,20 @@ FRMCombi::FRMCombi(ui::Screens& screens)
     : ExerciseScreen(screens, screenName(), u"Operaciones combinadas "_s, Width, Height)
     , m_model(screens.random())
 {
+    makeExpression();
+    makeAnswer();
+    makeCommands({.check = {3660, 5460, 3180, 600},
+                     .next = {3660, 6420, 3180, 600},
+                     .clear = {240, 6420, 3180, 600},
+                     .solution = {7080, 6420, 3180, 600}},
+        u"&Ver Solución"_s);
+}
+
+void FRMCombi::makeExpression()
+{
     const QString sample = u"2 x 8 + (5 * 9 - 2 -3)"_s;
-    TBInfo = displayBox(u"TBInfo"_s, {240, 180, 10020, 420}, ui::look::Instruction,
-        u"Instrucción"_s, u"Resuelva la operación siguiendo las reglas de precedencia"_s);
+    displayBox(u"TBInfo"_s, {240, 180, 10020, 420}, ui::look::Instruction, u"Instrucción"_s,
+        u"Resuelva la operación siguiendo las reglas de precedencia"_s);
 
     TBOperación = displayBox(
         u"TBOperación"_s, {240, 720, 10020, 840}, ExpressionFont, u"Operación"_s, sample);
@@ -46,18 +57,15 @@ FRMCombi::FRMCombi(ui::Screens& screens)
     TBCálculos->setAccessibleName(u"Cálculos"_s);
     TBCálculos->setToolTip(u"Haga aquí sus cálculos"_s);
     TBCálculos->setPlainText(sample);
+}
 
+void FRMCombi::makeAnswer()
+{
     TBResultado = entryBox(u"TBResultado"_s, {1680, 5400, 1740, 720}, AnswerFont, u"Resultado"_s);
     TBResultado->setAlignment(Qt::AlignCenter);
     enterChecks(TBResultado);
-    Label1 = label(u"Label1"_s, u"&Resultado"_s, {240, 5400, 1380, 720}, LabelFont, TBResultado);
+    label(u"Label1"_s, u"&Resultado"_s, {240, 5400, 1380, 720}, LabelFont, TBResultado);
     Text1 = verdictBox(u"Text1"_s, {7080, 5400, 3180, 720}, u"Comprobación"_s);
-
-    makeCommands({.check = {3660, 5460, 3180, 600},
-                     .next = {3660, 6420, 3180, 600},
-                     .clear = {240, 6420, 3180, 600},
-                     .solution = {7080, 6420, 3180, 600}},
-        u"&Ver Solución"_s);
 }
 
 void FRMCombi::Form_Load()

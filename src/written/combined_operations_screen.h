@@ -20,13 +20,14 @@ protected:
     void Command2_Click(int Index) override;
 
 private:
+    void makeExpression();
+    void makeAnswer();
+
     void newExpression();
 
     CombinedOperations m_model;
-    ui::TextBox* TBInfo = nullptr;
     ui::TextBox* TBOperación = nullptr;
     ScratchArea* TBCálculos = nullptr;
-    QLabel* Label1 = nullptr;
     ui::TextBox* TBResultado = nullptr;
     ui::VerdictBox* Text1 = nullptr;
 };

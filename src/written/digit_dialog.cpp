@@ -48,7 +48,7 @@ void Dialog::OKButton_Click()
     for (std::size_t i = 0; i < Check1.size(); ++i)
         if (Check1[i]->isChecked())
             digits += QString::number(i + 1);
-    m_TablasSeleccionadas = digits;
+    setTablasSeleccionadas(digits);
     hide();
 }
 

@@ -27,8 +27,11 @@ protected:
 
 private:
     void makeMenu();
-    void makeOperation();
-    void makeBoxes();
+    void makeSheet();
+    void makeWork();
+    void makeNumbers();
+    void makeLines();
+    void makeTexts();
     ui::SquaredBox* squaredBox(const QString& name, ui::TextBox::Kind kind,
         const QString& accessibleName, const ui::TwipRect& place);
 

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 using ui::SquaredBox;
 using ui::look::Family;
 
-// How the board of Form3 is built: its menu, its controls and where they stand.
+// How the board of Form3 is built: its controls and where they stand.
 
 namespace written {
 
@@ -91,33 +91,6 @@ Form3::Form3(ui::Screens& screens)
     makeTexts();
 }
 
-void Form3::makeMenu()
-{
-    QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
-    makeSettings(options);
-    on(item(options, u"MnuOpcIn1"_s, u"I&ntroducir factor 1"_s), &QAction::triggered,
-        &Form3::MnuOpcIn1_Click);
-    on(item(options, u"MnuOpcIn2"_s, u"In&troducir factor 2"_s), &QAction::triggered,
-        &Form3::MnuOpcIn2_Click);
-    on(item(options, u"MnuOpcSal"_s, u"S&alir (Alt-F4)"_s), &QAction::triggered,
-        [this] { unload(); });
-}
-
-void Form3::makeSettings(QMenu* options)
-{
-    MnuOpcCi1Lis = menuList(submenu(options, u"MnuOpcCi1"_s, u"&Cifras factor 1"_s),
-        u"MnuOpcCi1Lis"_s, numberedCaptions(1, 10));
-    onList(MnuOpcCi1Lis, &Form3::MnuOpcCi1Lis_Click);
-    MnuOpcCi2Lis = menuList(submenu(options, u"MnuOpcCi2"_s, u"C&ifras factor 2"_s),
-        u"MnuOpcCi2Lis"_s, numberedCaptions(1, 10));
-    onList(MnuOpcCi2Lis, &Form3::MnuOpcCi2Lis_Click);
-    MnuOpcSelLis = menuList(submenu(options, u"MnuOpcSel"_s, u"&Selección de cifras factor2"_s),
-        u"MnuOpcSelLis"_s, {u"&Cualquiera"_s, u"&Seleccionar ()..."_s});
-    onList(MnuOpcSelLis, &Form3::MnuOpcSelLis_Click);
-    MnuOpcOcu = item(options, u"MnuOpcOcu"_s, u"&Ocultar ceros intermedios (No)"_s);
-    on(MnuOpcOcu, &QAction::triggered, &Form3::MnuOpcOcu_Click);
-}
-
 void Form3::makeSheet()
 {
     m_paper = add(new ui::SquaredPaper(canvas()), u"Sheet"_s,
@@ -134,7 +107,7 @@ void Form3::makeSheet()
         DigitFont, TbParcial[0]);
     for (QLabel* sign : {labIgual, LabX})
         sign->setAlignment(Qt::AlignCenter);
-    Line1 = add(new ui::Rule(canvas()), u"Line1"_s,
+    add(new ui::Rule(canvas()), u"Line1"_s,
         {SignLeft, RowsTop, RowLeft + RowWidth - SignLeft, ui::Rule::Height});
     Line2 = add(new ui::Rule(canvas()), u"Line2"_s,
         {SignLeft, RowsTop + RowHeight, RowLeft + RowWidth - SignLeft, ui::Rule::Height});

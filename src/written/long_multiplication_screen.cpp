@@ -4,7 +4,6 @@
 #include "ui/announcement.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
-#include "written/digit_dialog.h"
 
 using namespace Qt::StringLiterals;
 using ui::SquaredBox;
@@ -186,75 +185,6 @@ void Form3::TBResultado_Change()
 {
     TBResultado->setAlignment(Qt::AlignRight | Qt::AlignTop);
     chooseSquares();
-}
-
-void Form3::MnuOpcCi1Lis_Click(int Index)
-{
-    MnuOpcCi1Lis.check(Index);
-    m_model.setCifrasFactor1(Index + 1);
-}
-
-void Form3::MnuOpcCi2Lis_Click(int Index)
-{
-    MnuOpcCi2Lis.check(Index);
-    m_model.setCifrasFactor2(Index + 1);
-}
-
-void Form3::MnuOpcSelLis_Click(int Index)
-{
-    if (Index == 1) {
-        screens().showModal(Dialog::screenName(), *this, [this] { takeChosenDigits(); });
-        return;
-    }
-    m_model.allowAnyDigit();
-    showChoiceOfDigits();
-}
-
-void Form3::takeChosenDigits()
-{
-    m_model.chooseDigits(screens().load<Dialog>().TablasSeleccionadas());
-    showChoiceOfDigits();
-}
-
-void Form3::showChoiceOfDigits()
-{
-    MnuOpcSelLis.check(m_model.CualquierCifra() ? 0 : 1);
-    MnuOpcSelLis.at(1)->setText(m_model.digitsCaption());
-    NuevaMultiplicacion();
-}
-
-void Form3::MnuOpcOcu_Click()
-{
-    m_model.toggleOcultarCeros();
-    MnuOpcOcu->setText(m_model.zerosCaption());
-    NuevaMultiplicacion();
-}
-
-void Form3::MnuOpcIn1_Click()
-{
-    const QString typed = ui::InputBox::ask(
-        *this, u"Introduzca el primer factor de la multiplicación:"_s, u"Multiplicaciones"_s);
-    acceptFactor(m_model.typeFactor1(typed));
-}
-
-void Form3::MnuOpcIn2_Click()
-{
-    const QString typed = ui::InputBox::ask(
-        *this, u"Introduzca el segundo factor de la multiplicación:"_s, u"Multiplicaciones"_s);
-    if (acceptFactor(m_model.typeFactor2(typed)))
-        showMessage({});
-}
-
-bool Form3::acceptFactor(TypedFactor outcome)
-{
-    if (outcome == TypedFactor::TooLarge)
-        ui::MessageBox::show(
-            *this, u"El valor introducido es demasiado grande."_s, u"Multiplicaciones"_s);
-    if (outcome != TypedFactor::Accepted)
-        return false;
-    PreparaFilas();
-    showFactors();
-    return true;
 }
 
 } // namespace written

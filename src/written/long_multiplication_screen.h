@@ -73,7 +73,6 @@ private:
     ui::SquaredPaper* m_paper = nullptr;
     std::array<ui::SquaredBox*, 2> TbFactor{};
     QLabel* LabX = nullptr;
-    ui::Rule* Line1 = nullptr;
     std::vector<ui::SquaredBox*> TbParcial;
     ui::Rule* Line2 = nullptr;
     ui::SquaredBox* TBResultado = nullptr;

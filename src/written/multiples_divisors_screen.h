@@ -28,7 +28,6 @@ private:
     ui::TextBox* Text2 = nullptr;
     std::array<ui::TextBox*, MultiplesDivisors::Answers> Text3{};
     ui::VerdictBox* TBMensajes = nullptr;
-    ui::TextBox* TbResultados = nullptr;
 };
 
 } // namespace written

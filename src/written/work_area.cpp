@@ -4,8 +4,8 @@
 #include "ui/squared_box.h"
 #include "written/work_area_accessible.h"
 
-#include <QApplication>
 #include <QClipboard>
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <cmath>

@@ -3,7 +3,11 @@
 #include "ui/placement.h"
 #include "written/grid_text.h"
 
+#include <QKeySequence>
 #include <QWidget>
+
+#include <algorithm>
+#include <array>
 
 namespace written {
 
@@ -71,6 +75,14 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    /// The keys that take the caret to a position, without and with a selection.
+    struct CaretMove {
+        QKeySequence::StandardKey move;
+        QKeySequence::StandardKey select;
+        int target;
+    };
+    using CaretMoves = std::array<CaretMove, 10>;
+
     int columnEdge(int column) const;
     int rowEdge(int visibleRow) const;
     int rowCount() const;
@@ -78,6 +90,7 @@ private:
     void scrollTo(int firstRow);
     void showCaret();
     bool edit(const QKeyEvent& event);
+    CaretMoves caretMoves() const;
     bool moveCaret(const QKeyEvent& event);
     void changed(const GridText& before, int from);
     void paintCell(QPainter& painter, int position) const;

@@ -5,8 +5,6 @@
 #include <QGuiApplication>
 #include <QMenu>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace written {
@@ -53,7 +51,7 @@ bool WorkArea::edit(const QKeyEvent& event)
     return true;
 }
 
-bool WorkArea::moveCaret(const QKeyEvent& event)
+WorkArea::CaretMoves WorkArea::caretMoves() const
 {
     const int columns = m_grid.columns();
     const int lineStart = m_caret - m_caret % columns;
@@ -62,11 +60,7 @@ bool WorkArea::moveCaret(const QKeyEvent& event)
         return target < 0 || target > m_grid.size() ? m_caret : target;
     };
     using Key = QKeySequence;
-    const struct {
-        Key::StandardKey move;
-        Key::StandardKey select;
-        int target;
-    } moves[]{
+    return {{
         {Key::MoveToPreviousChar, Key::SelectPreviousChar, m_caret - 1},
         {Key::MoveToNextChar, Key::SelectNextChar, m_caret + 1},
         {Key::MoveToPreviousLine, Key::SelectPreviousLine, lineTo(-1)},
@@ -77,8 +71,12 @@ bool WorkArea::moveCaret(const QKeyEvent& event)
         {Key::MoveToEndOfLine, Key::SelectEndOfLine, lineStart + columns - 1},
         {Key::MoveToStartOfDocument, Key::SelectStartOfDocument, 0},
         {Key::MoveToEndOfDocument, Key::SelectEndOfDocument, m_grid.size()},
-    };
-    for (const auto& [move, select, target] : moves) {
+    }};
+}
+
+bool WorkArea::moveCaret(const QKeyEvent& event)
+{
+    for (const auto& [move, select, target] : caretMoves()) {
         if (event.matches(move)) {
             setCursorPosition(target);
             return true;

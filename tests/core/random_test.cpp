@@ -1,4 +1,3 @@
-#include "core/errors.h"
 #include "core/random.h"
 
 #include "support/scripted_random.h"

@@ -85,8 +85,8 @@ private slots:
         QCOMPARE(text(u"Text4"_s), QString());
         QCOMPARE(button(u"Command1(0)"_s).text(), u"&Opciones"_s);
         QCOMPARE(button(u"Command1(1)"_s).text(), u"&Repetir carrera"_s);
-        QCOMPARE(fill(u"Command1(0)"_s), QColor(255, 255, 0));
-        QCOMPARE(fill(u"Command1(1)"_s), QColor(0, 255, 255));
+        QCOMPARE(bench->fill(u"Command1(0)"_s), QColor(255, 255, 0));
+        QCOMPARE(bench->fill(u"Command1(1)"_s), QColor(0, 255, 255));
         QCOMPARE(control<QTimer>(u"Timer1"_s).interval(), 1000);
         for (const QString& name : {u"Text1"_s, u"TBOperación"_s, u"Text4"_s})
             QVERIFY(control<QLineEdit>(name).isReadOnly());
@@ -424,7 +424,7 @@ private slots:
         for (int i = 1; i <= 12; ++i) {
             const QString name = u"CBCalcu(%1)"_s.arg(i);
             QCOMPARE(button(name).text(), captions.at(i - 1));
-            QCOMPARE(fill(name),
+            QCOMPARE(bench->fill(name),
                 i == 10       ? QColor(255, 0, 0)
                     : i == 12 ? QColor(0, 255, 0)
                               : QColor(176, 196, 222));
@@ -693,10 +693,6 @@ private:
     }
     QString text(const QString& name) const { return bench->text(name); }
     QPushButton& button(const QString& name) const { return control<QPushButton>(name); }
-    QColor fill(const QString& name) const
-    {
-        return button(name).palette().color(QPalette::Active, QPalette::Button);
-    }
     QListWidget& list(const QString& name) const
     {
         return ScreenBench::find<QListWidget>(*dialog, name);

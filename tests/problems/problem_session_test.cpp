@@ -5,7 +5,7 @@
 #include <QtTest>
 
 #include <cmath>
-#include <set>
+#include <map>
 
 using namespace Qt::StringLiterals;
 using problems::Bank;

@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-#include <cmath>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 using problems::CampoOperaciones;

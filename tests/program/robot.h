@@ -3,7 +3,6 @@
 #include "ui/screens.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 #include <random>

@@ -13,7 +13,7 @@ public:
     explicit Drill(ui::Screens& screens)
         : ExerciseScreen(screens, screenName(), u"Ejercicio"_s, 6000, 3000)
     {
-        answer = entryBox(u"Answer"_s, {0, 0, 1500, 510}, ui::look::Operation, u"Respuesta"_s);
+        answer = entryBox(u"Answer"_s, {0, 0, 1500, 510}, ui::look::Instruction, u"Respuesta"_s);
         makeCommands({.check = {0, 600, 1500, 510},
             .next = {1500, 600, 1500, 510},
             .clear = {3000, 600, 1500, 510},

@@ -16,9 +16,9 @@ public:
     explicit SampleScreen(ui::Screens& screens)
         : Screen(screens, screenName(), QStringLiteral("Muestra"), 4500, 3000)
     {
-        entry = entryBox(QStringLiteral("Entry"), {300, 300, 1500, 510}, ui::look::Operation,
-            QStringLiteral("Respuesta"));
-        shown = displayBox(QStringLiteral("Shown"), {2100, 300, 1500, 510}, ui::look::Operation,
+        entry = entryBox(
+            QStringLiteral("Entry"), {300, 300, 1500, 510}, BoxFont, QStringLiteral("Respuesta"));
+        shown = displayBox(QStringLiteral("Shown"), {2100, 300, 1500, 510}, BoxFont,
             QStringLiteral("Dato"), QStringLiteral("12"));
         lines = memo(QStringLiteral("Lines"), {300, 1050, 1500, 900}, ui::look::Instruction,
             QStringLiteral("Cálculos"));
@@ -67,6 +67,8 @@ protected:
     void Form_QueryUnload() override { call(whenUnloading); }
 
 private:
+    static constexpr ui::look::Font BoxFont{ui::look::Family::CourierNew, 28, true};
+
     static void call(const std::function<void()>& handler)
     {
         if (handler)

@@ -46,8 +46,7 @@ public:
             }
             screen.activateWindow();
         }
-        std::fprintf(stderr, "%s did not become active\n", qPrintable(screen.objectName()));
-        std::abort();
+        giveUp("did not become active:", screen.objectName());
     }
 
     /// Looks for controls in this screen, which the test has opened by itself.
@@ -67,8 +66,7 @@ public:
             if (auto* found = dynamic_cast<T*>(object))
                 return *found;
         }
-        std::fprintf(stderr, "no control %s\n", qPrintable(name));
-        std::abort();
+        giveUp("no control", name);
     }
 
     void click(const QString& name) const
@@ -97,6 +95,20 @@ public:
         return focus != nullptr ? focus->objectName() : QString();
     }
 
+    /// What fills a button of an active window.
+    QColor fill(const QString& name) const
+    {
+        return control<QPushButton>(name).palette().color(QPalette::Active, QPalette::Button);
+    }
+    /// Fails the test unless the four buttons of a drill have their colours.
+    void verifyCommandColours() const
+    {
+        QCOMPARE(fill(QStringLiteral("Command1")), QColor(255, 255, 0));
+        QCOMPARE(fill(QStringLiteral("Command2(0)")), QColor(0, 255, 255));
+        QCOMPARE(fill(QStringLiteral("Command2(1)")), QColor(0, 255, 0));
+        QCOMPARE(fill(QStringLiteral("Command2(2)")), QColor(255, 0, 0));
+    }
+
     QTemporaryDir folder;
     ScriptedRandom random;
     FakeClock clock;
@@ -109,6 +121,12 @@ private:
     {
         if (QGuiApplication::platformName() != u"offscreen")
             QTest::qWait(30);
+    }
+
+    [[noreturn]] static void giveUp(const char* what, const QString& name)
+    {
+        std::fprintf(stderr, "%s %s\n", what, qPrintable(name));
+        std::abort();
     }
 
     QPointer<ui::Screen> m_screen;

@@ -6,7 +6,7 @@
 
 #include <deque>
 #include <initializer_list>
-#include <limits>
+#include <stdexcept>
 #include <vector>
 
 /// Draws that a test has written down. Running out of them fails the test.

@@ -50,8 +50,8 @@ private slots:
 
     void fontsFollowTheFactor()
     {
-        QCOMPARE(look::scaled(look::Operation, 1).pixelSize(), 28);
-        QCOMPARE(look::scaled(look::Operation, 2).pixelSize(), 56);
+        QCOMPARE(look::scaled(look::Instruction, 1).pixelSize(), 15);
+        QCOMPARE(look::scaled(look::Instruction, 2).pixelSize(), 30);
         QCOMPARE(look::scaled(look::Counters, 1.3).pixelSize(), 15); // 15.6, cut
         QCOMPARE(look::scaled(look::Counters, 0.01).pixelSize(), 1);
     }

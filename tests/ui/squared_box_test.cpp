@@ -11,6 +11,7 @@ namespace {
 
 constexpr double Columns = 12;
 constexpr ui::TwipRect Place{1250, 2600, 3000, 500};
+constexpr ui::look::Font DigitFont{ui::look::Family::CourierNew, 28, true};
 
 /// The columns of pixels that hold something of this colour, first and last; -1 for none.
 std::pair<int, int> inkedColumns(const QImage& image, QRgb colour)
@@ -44,7 +45,7 @@ private:
         window = std::make_unique<QWidget>();
         box = new SquaredBox(SquaredBox::Kind::Entry, window.get());
         box->setFrame(false);
-        box->setFont(ui::look::scaled(ui::look::Operation, factor));
+        box->setFont(ui::look::scaled(DigitFont, factor));
         box->setGeometry(ui::toPixels(Place, factor));
         box->setFactor(factor);
         window->resize(box->geometry().bottomRight().x() + 10, box->geometry().bottom() + 10);

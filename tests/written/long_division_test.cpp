@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <limits>
 #include <map>
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,4 @@
 #include "core/errors.h"
-#include "core/numbers.h"
 #include "support/scripted_random.h"
 #include "written/long_multiplication.h"
 

@@ -1,6 +1,5 @@
 #include "written/multiples_divisors.h"
 
-#include "core/random.h"
 #include "support/scripted_random.h"
 
 #include <QtTest>

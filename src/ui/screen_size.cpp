@@ -1,0 +1,126 @@
+#include "ui/screen.h"
+
+#include "ui/screens.h"
+
+#include <QMenuBar>
+#include <QResizeEvent>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+// The size of a screen's window and the factor that follows from it.
+
+namespace ui {
+
+namespace {
+
+constexpr double SmallestFactor = 0.5;
+
+} // namespace
+
+double Screen::menuBarPixels() const
+{
+    return m_menuBar != nullptr ? look::MenuBarHeight : 0;
+}
+
+void Screen::setDesignSize(double width, double height)
+{
+    m_designWidth = width;
+    m_designHeight = height;
+    if (isMaximized() || isFullScreen()) {
+        layOut();
+        return;
+    }
+    resizeToDesign(m_factorGivenWay > 0 ? m_factorGivenWay : m_factor);
+    keepOnDisplay();
+}
+
+void Screen::keepOnDisplay()
+{
+    const QRect available = screen()->availableGeometry();
+    const int below = std::max(0, frameGeometry().bottom() - available.bottom());
+    const int beside = std::max(0, frameGeometry().right() - available.right());
+    if (isVisible() && (below > 0 || beside > 0))
+        move(std::max(available.left(), x() - beside), std::max(available.top(), y() - below));
+}
+
+void Screen::comeUp()
+{
+    const QRect available = screen()->availableGeometry();
+    resizeToDesign(
+        Screens::initialFactor(Screens::MainWindowHeight / TwipsPerPixel, available.height()));
+    // The window manager's frame stands above the canvas: it counts when centring.
+    const int frame = static_cast<int>(Screens::FrameHeight);
+    move(available.x() + (available.width() - width()) / 2,
+        available.y() + std::max(0, (available.height() - height() - frame) / 2));
+}
+
+void Screen::resizeToDesign(double factor)
+{
+    const double width = m_designWidth / TwipsPerPixel;
+    const double height = m_designHeight / TwipsPerPixel + menuBarPixels();
+    const QSize available = screen()->availableGeometry().size();
+    const double fitting = std::min({factor, available.width() / width,
+        (available.height() - Screens::FrameHeight) / height});
+    const auto pixels = [](double length) { return static_cast<int>(std::ceil(length)); };
+    const double smallest = std::min(SmallestFactor, fitting);
+    setMinimumSize(pixels(width * smallest), pixels(height * smallest));
+    m_ownSize = QSize(pixels(width * fitting), pixels(height * fitting));
+    resize(m_ownSize);
+    layOut(); // the size may be the same, the design not
+    m_factorGivenWay = fitting < factor ? factor : 0; // resizing has forgotten it
+}
+
+void Screen::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (event->size() != m_ownSize)
+        m_factorGivenWay = 0; // a person has chosen another size
+    layOut();
+}
+
+void Screen::layOut()
+{
+    const double designWidth = m_designWidth / TwipsPerPixel;
+    const double designHeight = m_designHeight / TwipsPerPixel + menuBarPixels();
+    double factor = std::min(width() / designWidth, height() / designHeight);
+    // Whole pixels hardly ever give a round factor: within a pixel of one, it is meant.
+    const double quarter = std::round(factor * 4) / 4;
+    if (std::abs(factor - quarter) * std::max(designWidth, designHeight) < 1.5)
+        factor = quarter;
+    scaleTo(factor);
+
+    const int barHeight = static_cast<int>(std::lround(menuBarPixels() * factor));
+    if (m_menuBar != nullptr)
+        m_menuBar->setGeometry(0, 0, width(), barHeight);
+    QRect area = toPixels({0, 0, m_designWidth, m_designHeight}, factor);
+    area.moveTo(std::max(0, (width() - area.width()) / 2),
+        barHeight + std::max(0, (height() - barHeight - area.height()) / 2));
+    m_canvas->setGeometry(area);
+}
+
+void Screen::scaleTo(double factor)
+{
+    if (factor == m_factor)
+        return;
+    m_factor = factor;
+    for (const auto& [control, entry] : m_controls)
+        applyPlace(const_cast<QWidget*>(control), entry);
+    if (m_menuBar == nullptr)
+        return;
+    const QFont font = look::scaled(look::Instruction, factor);
+    m_menuBar->setFont(font);
+    for (QMenu* menu : m_menuBar->findChildren<QMenu*>())
+        menu->setFont(font);
+}
+
+void Screen::applyPlace(QWidget* control, const Control& entry) const
+{
+    control->setFont(look::scaled(entry.font, m_factor));
+    if (auto* scalable = dynamic_cast<Scalable*>(control))
+        scalable->setFactor(m_factor);
+    control->setGeometry(toPixels(entry.place, m_factor));
+}
+
+} // namespace ui
