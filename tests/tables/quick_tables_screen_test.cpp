@@ -259,6 +259,28 @@ private slots:
         QCOMPARE(bench->random.left(), 0u);
     }
 
+    void aTimeOutStartsTheSecondsAnew()
+    {
+        append(7, 8);
+        start();
+        tick(1, 9);
+        timer(1).stop(); // only what the time-out does can start it again
+        append(6, 9);
+        append(5, 4);
+        tick(1);
+        QVERIFY(timer(1).isActive());
+        QCOMPARE(timer(1).interval(), 1000);
+    }
+
+    void aTickWithinTheTimeStartsNothing()
+    {
+        append(7, 8);
+        start();
+        timer(1).stop();
+        tick(1, 9);
+        QVERIFY(!timer(1).isActive());
+    }
+
     void salirReportsAndUnloads()
     {
         append(7, 7);
@@ -336,6 +358,60 @@ private slots:
         boxes.whileOpen = [this](QDialog&) { screen->close(); };
         bench->click(u"Command1"_s);
         QCOMPARE(boxes.texts.size(), 1);
+        verifyUnloaded();
+    }
+
+    void closingTheWindowBehindTheBoxOfTheLimitEndsTheDrill_data()
+    {
+        QTest::addColumn<int>("option");
+        QTest::addColumn<QString>("limit");
+
+        QTest::newRow("too small") << 1 << u"0"_s;
+        QTest::newRow("too large") << 2 << u"501"_s;
+    }
+    void closingTheWindowBehindTheBoxOfTheLimitEndsTheDrill()
+    {
+        QFETCH(int, option);
+        QFETCH(QString, limit);
+        append(7, 8);
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [this](QDialog& box) {
+            screen->close();
+            QVERIFY(!box.isVisible());
+        };
+        startWith(option, limit);
+        QCOMPARE(boxes.texts.size(), 1);
+        verifyNothingWentOn();
+        verifyUnloaded();
+    }
+
+    void closingTheWindowBehindTheReportAtTheLimitEndsTheDrill_data()
+    {
+        QTest::addColumn<int>("option");
+        QTest::addColumn<QString>("limit");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<int>("ticks");
+
+        QTest::newRow("minutes") << 1 << u"1"_s << 2 << 60;
+        QTest::newRow("operations, by a time-out") << 2 << u"2"_s << 1 << 10;
+        QTest::newRow("errors, by a time-out") << 3 << u"1"_s << 1 << 10;
+    }
+    void closingTheWindowBehindTheReportAtTheLimitEndsTheDrill()
+    {
+        QFETCH(int, option);
+        QFETCH(QString, limit);
+        QFETCH(int, number);
+        QFETCH(int, ticks);
+        append(7, 8);
+        startWith(option, limit);
+        tick(number, ticks - 1);
+        append(6, 9); // never drawn
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [this](QDialog&) { screen->close(); };
+        tick(number);
+        QCOMPARE(boxes.texts.size(), 1);
+        QCOMPARE(bench->random.left(), 2u);
+        verifyNothingWentOn();
         verifyUnloaded();
     }
 
