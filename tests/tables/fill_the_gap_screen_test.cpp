@@ -228,6 +228,10 @@ private slots:
         QCOMPARE(bench->focusName(), u"Command2(0)"_s);
         QCOMPARE(counters(), u"Ejercicios: 32767 Errores: 32767"_s);
         QTest::qWait(20);
+        for (double factor : {0.8, 1.0, 2.3}) {
+            screen->resize(qCeil(312 * factor), qCeil(306 * factor));
+            QCOMPARE(textsCutOff(*screen), QStringList());
+        }
     }
 
     void theShownSelectionOutlivesTheFocusAndTheWindow()
