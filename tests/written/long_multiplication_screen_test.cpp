@@ -291,6 +291,48 @@ private slots:
         QCOMPARE(bench->text(u"Text1"_s), QString());
     }
 
+    void theSolutionLeavesTheExercisePending()
+    {
+        bench->click(u"Command2(2)"_s);
+        setResult(u"1"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  1; Errores:  1"_s);
+        bench->click(u"Command2(2)"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto "_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  2; Errores:  1"_s);
+    }
+
+    void theSolutionOfASolvedExerciseLeavesItSolved()
+    {
+        setResult(u"69104"_s);
+        bench->click(u"Command1"_s);
+        bench->click(u"Command2(2)"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto "_s);
+        setResult(u"1"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto"_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  1; Errores:  0"_s);
+    }
+
+    void borrarKeepsTheCountedState()
+    {
+        bench->click(u"Command1"_s);
+        bench->click(u"Command2(1)"_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  1; Errores:  1"_s);
+        QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     56"_s);
+        bench->click(u"Command1"_s); // still pending
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  2; Errores:  2"_s);
+        setResult(u"69104"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  3; Errores:  2"_s);
+        bench->click(u"Command2(1)"_s);
+        bench->click(u"Command1"_s); // solved before
+        QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto"_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  3; Errores:  2"_s);
+    }
+
     void continuingMakesTheNextExercisePending()
     {
         setResult(u"69104"_s);
