@@ -164,6 +164,29 @@ private slots:
             QVERIFY(!targets.contains(other));
     }
 
+    void phasesLeaveTheOtherNumbersAlone_data()
+    {
+        QTest::addColumn<int>("fase");
+        QTest::addColumn<QList<int>>("others");
+        QTest::newRow("1") << 1 << QList{2, 4, 6, 8, 10, 12, 14, 16, 18, 20};
+        QTest::newRow("2") << 2 << QList{1, 3, 5, 7, 9, 11, 13, 15, 17, 19};
+        QTest::newRow("3") << 3
+                           << QList{1, 2, 4, 5, 7, 8, 10, 11, 13, 14, 16, 17, 19, 20, 22, 23, 25,
+                                  26, 28, 29};
+        QTest::newRow("7") << 7
+                           << QList{1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12, 13, 15, 16, 17, 18, 19,
+                                  20, 22, 23, 24, 25, 26, 27, 29, 30, 31, 32, 33, 34, 36, 37, 38,
+                                  39, 40, 41, 43, 44, 45, 46, 47, 48, 50, 51, 52, 53, 54, 55, 57,
+                                  58, 59, 60, 61, 62, 64, 65, 66, 67, 68, 69};
+    }
+    void phasesLeaveTheOtherNumbersAlone()
+    {
+        QFETCH(int, fase);
+        RainGame game;
+        game.reachPhase(fase);
+        QTEST(values(game.state().Otros), "others");
+    }
+
     void everySixthTickLaunches()
     {
         RainGame game;
