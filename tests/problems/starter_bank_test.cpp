@@ -34,6 +34,25 @@ QStringList expressions(QString line, const problems::DataValues& data)
     return found;
 }
 
+/// What a pupil has to work out: the answer's expression over &1, &2 …, in which a number
+/// that the statement shows worked out is one number, N.
+QString visibleExpression(QString line)
+{
+    static const QRegularExpression datum(u"\\[[^]]*\\]"_s);
+    static const QRegularExpression marker(u"\\{([^}]*)\\}"_s);
+    for (int n = 1; line.contains(datum); ++n) {
+        const auto match = datum.match(line);
+        line.replace(match.capturedStart(), match.capturedLength(), u"&%1"_s.arg(n));
+    }
+    const problems::TemplateFields fields = problems::splitLine(line);
+    QString answer = fields.answer;
+    for (const auto& shown : marker.globalMatch(fields.statement)) {
+        const QString escaped = QRegularExpression::escape(shown.captured(1));
+        answer.replace(QRegularExpression(u"(?<![0-9&])%1(?![0-9])"_s.arg(escaped)), u"N"_s);
+    }
+    return answer;
+}
+
 } // namespace
 
 /// The bank that the program comes with.
@@ -95,6 +114,20 @@ private slots:
                     QVERIFY2(value == std::floor(value), qPrintable(line + expression));
                 }
             }
+        }
+    }
+
+    void operationsAreThoseOfTheAnswer()
+    {
+        for (const QString& line : lines) {
+            const QString expression = visibleExpression(line);
+            QString signs;
+            for (const char16_t sign : problems::OperationSigns) {
+                if (expression.contains(sign) || (sign == u'/' && expression.contains(u'\\')))
+                    signs += sign;
+            }
+            QVERIFY2(signs == problems::CampoOperaciones(line),
+                qPrintable(signs + u" in "_s + expression + u": "_s + line));
         }
     }
 
