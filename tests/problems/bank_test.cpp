@@ -69,6 +69,13 @@ private:
 
     QStringList read() const { return LeerBanco(m_folder->path()).value_or(Bank{}).lines; }
 
+    /// Of an octal mode, for the owner, the group and all others.
+    static QFile::Permissions permissions(int mode)
+    {
+        const int digits = (mode & 0700) << 6 | (mode & 0070) << 1 | (mode & 0007);
+        return QFile::Permissions::fromInt(digits);
+    }
+
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
 
     QString savingFails(const QStringList& lines) const
@@ -246,6 +253,29 @@ private slots:
         QCOMPARE(contents(u"Problemas3.bak"_s), QByteArray("segundo\r\n"));
         QCOMPARE(contents(u"Problemas3.dat"_s), QByteArray("tercero\r\n"));
         QCOMPARE(files(), (QStringList{u"Problemas3.bak"_s, u"Problemas3.dat"_s}));
+    }
+
+    void bankAndBackupKeepTheBanksPermissions_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("a class shares it") << 0664;
+        QTest::newRow("one person's") << 0600;
+        QTest::newRow("everybody's") << 0666;
+    }
+    void bankAndBackupKeepTheBanksPermissions()
+    {
+#ifndef Q_OS_UNIX
+        QSKIP("files have no such permissions here");
+#endif
+        QFETCH(int, mode);
+        write(u"Problemas3.dat"_s, "antes\r\n");
+        write(u"Problemas3.bak"_s, "otro\r\n"); // somebody else's, of before
+        QVERIFY(QFile::setPermissions(path(u"Problemas3.dat"_s), permissions(mode)));
+        QVERIFY(QFile::setPermissions(path(u"Problemas3.bak"_s), permissions(0640)));
+        GuardarBanco(m_folder->path(), {u"a"_s});
+        QCOMPARE(contents(u"Problemas3.bak"_s), QByteArray("antes\r\n"));
+        for (const QString& name : {u"Problemas3.dat"_s, u"Problemas3.bak"_s})
+            QCOMPARE(QFile::permissions(path(name)) & permissions(0777), permissions(mode));
     }
 
     void aBankOfUndefinedBytesSurvivesReadingAndSaving()
