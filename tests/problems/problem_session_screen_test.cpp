@@ -119,6 +119,49 @@ private slots:
         QCOMPARE(statement(), u"P2"_s);
     }
 
+    void aBankThatCannotBeReadIsToldOnceTheScreenIsUp_data()
+    {
+        QTest::addColumn<bool>("folder");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("not a file") << true << u"No se puede leer «"_s;
+        QTest::newRow("no folder") << false << u"No se puede abrir la carpeta «"_s;
+    }
+    void aBankThatCannotBeReadIsToldOnceTheScreenIsUp()
+    {
+        QFETCH(bool, folder);
+        QFETCH(QString, text);
+        spoilBank(folder);
+        BoxAnswerer boxes(u"Aceptar"_s);
+        openWithABox(boxes);
+        QVERIFY2(boxes.texts.constFirst().startsWith(text), qPrintable(boxes.texts.constFirst()));
+        QCOMPARE(boxes.titles, {u"Pizarrin"_s});
+        QVERIFY(screen->isVisible());
+        QCOMPARE(statement(), QString());
+        QCOMPARE(QDir::currentPath(), folderBefore);
+        QCOMPARE(bench->random.seeds, std::vector<double>{31.0 * 21 * 11});
+        answer(u"0"_s); // compared with the answer of no problem
+        QCOMPARE(label(u"LBEstado"_s), u"Ejercicios: 1 Errores: 0"_s);
+    }
+
+    void aSelectionThatCannotReadTheBankChangesNothing()
+    {
+        open(1);
+        spoilBank(true);
+        bench->type(u"TBRespuesta"_s, u"5"_s);
+        BoxAnswerer boxes(u"Aceptar"_s);
+        bench->pick(u"MnuOpcSel"_s);
+        QCOMPARE(boxes.texts.size(), 1);
+        QVERIFY2(boxes.texts.constFirst().startsWith(u"No se puede leer «"_s),
+            qPrintable(boxes.texts.constFirst()));
+        QVERIFY(!bench->screens.loaded(u"DLGSelProb"_s));
+        QVERIFY(screen->isVisible());
+        QCOMPARE(statement(), u"P1"_s);
+        QCOMPARE(bench->text(u"TBRespuesta"_s), u"5"_s);
+        script({2}, 5); // of the bank as it was read
+        bench->click(u"Command2(0)"_s);
+        QCOMPARE(statement(), u"P2"_s);
+    }
+
     void aBankOfOneLineIsTold()
     {
         writeBank(bench->folder.path(), {"P0|1||*"});
@@ -497,6 +540,40 @@ private slots:
         QCOMPARE(drawsLeft.front(), 3u);
     }
 
+    void aProblemIsFoundHoweverManyDrawsItTakes()
+    {
+        open(1);
+        for (int draws = 0; draws < 1'200; ++draws)
+            script({1}, 5); // shown before
+        script({3}, 5);
+        const BoxAnswerer noBox;
+        bench->control<QPushButton>(u"Command2(0)"_s).click();
+        QCOMPARE(statement(), u"P3"_s);
+        QCOMPARE(bench->random.left(), 0u);
+    }
+
+    void closingLateInALongDrawEndsItToo()
+    {
+        open(1);
+        for (int draws = 0; draws < 2'000; ++draws)
+            script({1}, 5);
+        std::size_t leftWhenClosed = 0;
+        const std::function<void()> look = [&] {
+            leftWhenClosed = bench->random.left();
+            if (leftWhenClosed <= 1'400)
+                screen->close();
+            else
+                later(look);
+        };
+        later(look);
+        const BoxAnswerer noBox;
+        bench->control<QPushButton>(u"Command2(0)"_s).click();
+        QVERIFY(!bench->screens.loaded(u"FormProblemas"_s));
+        QVERIFY(leftWhenClosed > 0);
+        QCOMPARE(bench->random.left(), leftWhenClosed); // not drawn any more
+        QCoreApplication::removePostedEvents(this);
+    }
+
     void closingInTheMiddleOfADrawEndsIt_data()
     {
         QTest::addColumn<QString>("way");
@@ -564,6 +641,16 @@ private:
     }
 
     void removeBank() { QVERIFY(QFile::remove(bench->folder.filePath(u"Problemas3.dat"_s))); }
+
+    /// Leaves the folder without a bank that can be read, or no folder.
+    void spoilBank(bool folder)
+    {
+        removeBank();
+        if (folder)
+            QVERIFY(QDir(bench->folder.path()).mkdir(u"Problemas3.dat"_s));
+        else
+            QVERIFY(QDir().rmdir(bench->folder.path()));
+    }
 
     QString statement() const
     {

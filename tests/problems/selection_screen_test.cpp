@@ -1,5 +1,6 @@
 #include "problems/selection_screen.h"
 
+#include "core/errors.h"
 #include "support/bank_folder.h"
 #include "support/screen_bench.h"
 
@@ -169,6 +170,39 @@ private slots:
         verifyCount(0);
     }
 
+    void aBankThatCannotBeReadOpensNothing_data()
+    {
+        QTest::addColumn<bool>("folder");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("not a file") << true << u"No se puede leer «"_s;
+        QTest::newRow("no folder") << false << u"No se puede abrir la carpeta «"_s;
+    }
+    void aBankThatCannotBeReadOpensNothing()
+    {
+        QFETCH(bool, folder);
+        QFETCH(QString, text);
+        const QString before = QDir::currentPath();
+        spoilBank(folder);
+        bench->screens.add<DLGSelProb>();
+        try {
+            bench->screens.show(DLGSelProb::screenName());
+            QFAIL("opened");
+        } catch (const core::FileError& error) {
+            QVERIFY2(error.text().startsWith(text), qPrintable(error.text()));
+        }
+        QVERIFY(!bench->screens.loaded(u"DLGSelProb"_s));
+        QCOMPARE(QDir::currentPath(), before);
+
+        if (!folder)
+            QVERIFY(QDir().mkdir(bench->folder.path()));
+        else
+            QVERIFY(QDir(bench->folder.path()).rmdir(u"Problemas3.dat"_s));
+        writeBank(bench->folder.path(), {"a|1||*"});
+        open(); // mended, it opens
+        choose(u"Option1(0)"_s);
+        verifyCount(1);
+    }
+
     void tabGoesThroughEveryControl()
     {
         open();
@@ -199,6 +233,16 @@ private:
         dialog->CargaDatos = [this](core::Int16 selection, problems::OperationMask mask) {
             handed.emplace_back(selection.value(), int(mask));
         };
+    }
+
+    /// Leaves the folder without a bank that can be read, or no folder.
+    void spoilBank(bool folder) const
+    {
+        QVERIFY(QFile::remove(bench->folder.filePath(u"Problemas3.dat"_s)));
+        if (folder)
+            QVERIFY(QDir(bench->folder.path()).mkdir(u"Problemas3.dat"_s));
+        else
+            QVERIFY(QDir().rmdir(bench->folder.path()));
     }
 
     void choose(const QString& name) const
