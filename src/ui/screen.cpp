@@ -141,11 +141,10 @@ void Screen::run(const std::function<void()>& body)
 
 void Screen::endHandler()
 {
-    if (--m_runningHandlers > 0)
-        return;
-    if (!isVisible())
+    // While it still counts as running: whom it tells may open a box.
+    while (m_runningHandlers == 1 && m_whenClosed && !isVisible())
         tellClosed();
-    if (m_unloaded)
+    if (--m_runningHandlers == 0 && m_unloaded)
         deleteLater();
 }
 
