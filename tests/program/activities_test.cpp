@@ -87,6 +87,23 @@ private slots:
         QCOMPARE(walked, expected);
     }
 
+    void problemsAskedForAgainComeBackAsTheyWere()
+    {
+        QTest::mouseClick(&button(7), Qt::LeftButton);
+        ui::Screen* problems = screens->loaded(u"FormProblemas"_s);
+        auto& answer = ScreenBench::find<QLineEdit>(*problems, u"TBRespuesta"_s);
+        QTest::keyClick(&answer, Qt::Key_7);
+        problems->showMinimized();
+        menu->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(menu));
+        QTest::mouseClick(&button(7), Qt::LeftButton);
+        QCOMPARE(screens->loaded(u"FormProblemas"_s), problems);
+        QVERIFY(problems->isVisible() && !problems->isMinimized());
+        QVERIFY(QTest::qWaitForWindowActive(problems));
+        QCOMPARE(answer.text(), u"7"_s);
+        QVERIFY(menu->isVisible());
+    }
+
     void everyScreenClosesAndReopens()
     {
         for (int i = 0; i < 11; ++i) {

@@ -169,7 +169,78 @@ private slots:
         QCOMPARE(boxes.texts.size(), 1);
     }
 
+    void closingBehindABoxUnloadsTheScreenOnce_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("message") << 0;
+        QTest::newRow("question") << 1;
+        QTest::newRow("input") << 2;
+    }
+    void closingBehindABoxUnloadsTheScreenOnce()
+    {
+        QFETCH(int, kind);
+        QStringList order;
+        const QPointer<SampleScreen> alive(screen);
+        screen->whenUnloading = [&] { order << u"unloading"_s; };
+        screen->whenClicked = [&] {
+            openBox(kind);
+            order << u"went on"_s;
+        };
+        BoxAnswerer boxes(u"none"_s);
+        boxes.whileOpen = [&](QDialog& box) {
+            connect(&box, &QDialog::finished, this, [&] { order << u"box closed"_s; });
+            screen->close();
+            QVERIFY(!box.isVisible());
+            QVERIFY(!screen->isVisible());
+            QVERIFY(alive); // its handler is still running
+            screen->close();
+            screen->unload();
+        };
+        screen->command->click();
+        QCOMPARE(order, (QStringList{u"unloading"_s, u"box closed"_s}));
+        QCOMPARE(boxes.texts.size(), 1);
+        QTRY_VERIFY(!alive);
+    }
+
+    void screenOutlivesABoxThatNoHandlerOpened()
+    {
+        const QPointer<SampleScreen> alive(screen);
+        BoxAnswerer boxes(u"none"_s);
+        boxes.whileOpen = [&](QDialog&) {
+            screen->close();
+            QTest::qWait(1); // lets what is to be destroyed go
+            QVERIFY(alive);
+        };
+        QVERIFY_THROWS_EXCEPTION(ui::ScreenUnloaded, ui::MessageBox::show(*screen, u"a"_s));
+        QTRY_VERIFY(!alive);
+    }
+
+    void closingBehindTheBoxOfAnErrorEndsTheHandler()
+    {
+        const QPointer<SampleScreen> alive(screen);
+        screen->whenClicked = [] { throw core::Error(u"No hay banco."_s); };
+        BoxAnswerer boxes(u"none"_s);
+        boxes.whileOpen = [&](QDialog& box) {
+            screen->close();
+            QVERIFY(!box.isVisible());
+        };
+        screen->command->click();
+        QCOMPARE(boxes.texts, {u"No hay banco."_s});
+        QTRY_VERIFY(!alive);
+        QCOMPARE(bench->screens.loaded(u"Sample"_s), nullptr);
+    }
+
 private:
+    void openBox(int kind) const
+    {
+        if (kind == 0)
+            ui::MessageBox::show(*screen, u"a"_s);
+        else if (kind == 1)
+            ui::MessageBox::ask(*screen, u"a"_s);
+        else
+            ui::InputBox::ask(*screen, u"a"_s, u"b"_s);
+    }
+
     std::unique_ptr<ScreenBench> bench;
     SampleScreen* screen = nullptr;
 };

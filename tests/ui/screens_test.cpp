@@ -101,6 +101,76 @@ private slots:
         QCOMPARE(order, (QStringList{u"behind hide"_s, u"then"_s}));
     }
 
+    void whoHearsOfAHiddenDialogMayOpenABox_data()
+    {
+        QTest::addColumn<bool>("inItsHandler");
+        QTest::newRow("hidden from outside") << false;
+        QTest::newRow("hidden by its own handler") << true;
+    }
+    void whoHearsOfAHiddenDialogMayOpenABox()
+    {
+        QFETCH(bool, inItsHandler);
+        int told = 0;
+        openDialog([&] {
+            ui::MessageBox::show(*bench->screens.loaded(u"A"_s), u"hola"_s);
+            ++told;
+        });
+        const QPointer<ui::Screen> dialog(bench->screens.loaded(u"B"_s));
+        BoxAnswerer boxes({u"Aceptar"_s, u"Aceptar"_s});
+        boxes.whileOpen = [&](QDialog&) { QVERIFY(!dialog->isVisible()); };
+        hideDialog(*dialog, inItsHandler);
+        QCOMPARE(told, 1);
+        QCOMPARE(bench->screens.loaded(u"B"_s), dialog);
+
+        openDialog([&] {
+            ui::MessageBox::show(*bench->screens.loaded(u"A"_s), u"otra vez"_s);
+            told += 10;
+        });
+        hideDialog(*dialog, inItsHandler);
+        QCOMPARE(told, 11);
+        QCOMPARE(boxes.texts, (QStringList{u"hola"_s, u"otra vez"_s}));
+    }
+
+    void dialogUnloadedBehindTheBoxOfItsHidingOutlivesTheHiding_data()
+    {
+        whoHearsOfAHiddenDialogMayOpenABox_data();
+    }
+    void dialogUnloadedBehindTheBoxOfItsHidingOutlivesTheHiding()
+    {
+        QFETCH(bool, inItsHandler);
+        bool wentOn = false;
+        openDialog([&] {
+            ui::MessageBox::show(*bench->screens.loaded(u"A"_s), u"hola"_s);
+            wentOn = true;
+        });
+        const QPointer<ui::Screen> dialog(bench->screens.loaded(u"B"_s));
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog&) {
+            bench->screens.unload(u"B"_s);
+            QTest::qWait(1); // lets what is to be destroyed go
+            QVERIFY(dialog);
+        };
+        hideDialog(*dialog, inItsHandler);
+        QVERIFY(wentOn);
+        QTRY_VERIFY(!dialog);
+    }
+
+    void ownerClosedBehindTheBoxOfAHiddenDialogEndsIt()
+    {
+        bool wentOn = false;
+        openDialog([&] {
+            ui::MessageBox::show(*bench->screens.loaded(u"A"_s), u"hola"_s);
+            wentOn = true;
+        });
+        const QPointer<ui::Screen> owner(bench->screens.loaded(u"A"_s));
+        BoxAnswerer boxes(u"none"_s);
+        boxes.whileOpen = [&](QDialog&) { owner->close(); };
+        bench->screens.loaded(u"B"_s)->hide();
+        QVERIFY(!wentOn);
+        QTRY_VERIFY(!owner);
+        QVERIFY(bench->screens.loaded(u"B"_s));
+    }
+
     void unloadedOwnerHearsNothing()
     {
         bench->screens.show(u"A"_s);
@@ -160,6 +230,49 @@ private slots:
         QCOMPARE(log, (QStringList{u"unload Main"_s, u"unload B"_s, u"unload A"_s}));
     }
 
+    void mainScreenClosedBehindABoxEndsTheProgram()
+    {
+        bench->screens.setMainScreen(u"Main"_s);
+        bench->screens.show(u"Main"_s);
+        bench->screens.show(u"A"_s);
+        bool wentOn = false;
+        BoxAnswerer boxes(u"none"_s);
+        boxes.whileOpen = [&](QDialog&) { bench->screens.unload(u"Main"_s); };
+        QTimer::singleShot(0, [&] {
+            bench->screens.loaded(u"A"_s)->guarded([&] {
+                ui::MessageBox::show(*bench->screens.loaded(u"A"_s), u"hola"_s);
+                wentOn = true;
+            });
+        });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(!wentOn);
+        QCOMPARE(bench->screens.loaded(u"A"_s), nullptr);
+    }
+
+    void shownAgainAMinimisedScreenIsRestored()
+    {
+        bench->screens.show(u"A"_s);
+        ui::Screen& screen = *bench->screens.loaded(u"A"_s);
+        screen.showMinimized();
+        QVERIFY(screen.isMinimized());
+        bench->screens.show(u"A"_s);
+        QVERIFY(!screen.isMinimized());
+        QVERIFY(screen.isVisible());
+        QVERIFY(QTest::qWaitForWindowActive(&screen));
+        QCOMPARE(bench->screens.loaded(u"A"_s), &screen);
+    }
+
+    void shownAgainAMaximisedScreenStaysSo()
+    {
+        bench->screens.show(u"A"_s);
+        ui::Screen& screen = *bench->screens.loaded(u"A"_s);
+        screen.showMaximized();
+        screen.setWindowState(screen.windowState() | Qt::WindowMinimized);
+        bench->screens.show(u"A"_s);
+        QVERIFY(!screen.isMinimized());
+        QVERIFY(screen.isMaximized());
+    }
+
     void initialFactorGoesByTheMenuOnTheDisplay_data()
     {
         QTest::addColumn<double>("freeHeight");
@@ -181,6 +294,20 @@ private slots:
     }
 
 private:
+    /// Shows B as a dialog of A.
+    void openDialog(const std::function<void()>& then)
+    {
+        bench->screens.show(u"A"_s);
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"A"_s), then);
+    }
+    static void hideDialog(ui::Screen& dialog, bool inItsHandler)
+    {
+        if (inItsHandler)
+            dialog.guarded([&] { dialog.hide(); });
+        else
+            dialog.hide();
+    }
+
     /// Makes the sample screen known, with what it does when it loads.
     void addSample(const std::function<void(SampleScreen&)>& whenLoading)
     {
