@@ -10,7 +10,7 @@ inline QStringList textsCutOff(const QWidget& screen)
 {
     QStringList names;
     const auto check = [&](const QWidget* control, QSize needed, QSize room) {
-        if (control->isVisible() && !needed.isNull()
+        if (control->isVisible() && needed.width() > 0
             && (needed.width() > room.width() || needed.height() > room.height()))
             names << control->objectName();
     };
@@ -24,7 +24,8 @@ inline QStringList textsCutOff(const QWidget& screen)
             box->size() - QSize(margins.left() + margins.right() + Inner, 0));
     }
     for (const QLabel* label : screen.findChildren<QLabel*>())
-        check(label, textSize(label, label->text()), label->size());
+        check(label, textSize(label, label->buddy() ? label->text().remove(u'&') : label->text()),
+            label->size());
     for (const QRadioButton* option : screen.findChildren<QRadioButton*>())
         check(option, option->sizeHint(), option->size());
     for (const QPushButton* button : screen.findChildren<QPushButton*>()) {

@@ -1,0 +1,170 @@
+#include "activities.h"
+#include "core/random.h"
+#include "support/screen_bench.h"
+#include "support/text_fit.h"
+
+#include <QDir>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+/// Every screen on a display of a given size.
+class DisplayTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        for (const QFileInfo& file :
+            QDir(QString::fromUtf8(PIZARRIN_RESOURCES)).entryInfoList(QDir::Files))
+            QVERIFY(QFile::copy(file.filePath(), folder.filePath(file.fileName())));
+    }
+
+    void init()
+    {
+        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
+        addScreens(*screens);
+        screens->show(u"Form1"_s);
+    }
+    void cleanup() { screens.reset(); }
+
+    void everyScreenStandsWholeInTheMiddle_data() { addScreenRows(); }
+    void everyScreenStandsWholeInTheMiddle()
+    {
+        const ui::Screen& screen = open();
+        verifyOnDisplay(screen);
+        const QRect free = display();
+        const int left = screen.x() - free.left();
+        const int right = free.width() - left - screen.width();
+        QVERIFY2(std::abs(left - right) <= 1, qPrintable(u"%1, %2"_s.arg(left).arg(right)));
+        const int above = screen.y() - free.top();
+        const int below = free.height() - above - Frame - screen.height();
+        QVERIFY2(std::abs(above - below) <= 1, qPrintable(u"%1, %2"_s.arg(above).arg(below)));
+    }
+
+    void screensAreAsLargeAsTheMenuOrAsTheDisplayAllows_data() { addScreenRows(); }
+    void screensAreAsLargeAsTheMenuOrAsTheDisplayAllows()
+    {
+        const ui::Screen& screen = open();
+        const double menus = screens->loaded(u"Form1"_s)->factor();
+        const double aPixel = 2.0 / std::min(screen.width(), screen.height());
+        QVERIFY(screen.factor() <= menus + aPixel);
+        if (screen.factor() >= menus - aPixel)
+            return;
+        // It gave way: then there is no room left in one direction.
+        const QSize room = display().size() - QSize(0, Frame);
+        QVERIFY(room.width() - screen.width() <= 1 || room.height() - screen.height() <= 1);
+    }
+
+    void nothingIsCutOff_data()
+    {
+        addScreenRows(u"Form3"_s); // whose digits shrink with their squares
+    }
+    void nothingIsCutOff() { QCOMPARE(textsCutOff(open()).join(u' '), QString()); }
+
+    void aScreenThatGrowsStaysOnTheDisplay()
+    {
+        screens->show(u"Form3"_s);
+        const ui::Screen& screen = *screens->loaded(u"Form3"_s);
+        const double before = screen.factor();
+        for (const int digits : {10, 2}) {
+            ScreenBench::find<QAction>(screen, u"MnuOpcCi2Lis(%1)"_s.arg(digits - 1)).trigger();
+            ScreenBench::find<QPushButton>(screen, u"Command2(0)"_s).click();
+            ScreenBench::find<QLineEdit>(screen, u"TbParcial(%1)"_s.arg(digits - 1));
+            QVERIFY(display().contains(screen.frameGeometry()));
+        }
+        QCOMPARE(screen.factor(), before);
+    }
+
+    void boxesFit()
+    {
+        QStringList report{u"Número de operaciones: 500. Número total de errores: 500."_s,
+            u"Errores cometidos al usar cada número y porcentaje: "_s};
+        for (int number = 1; number <= 10; ++number)
+            report << u"número %1: 100 errores. (33,3333333333333 %)"_s.arg(number);
+        report << u"Errores por tiempo: 500."_s;
+
+        ui::Screen& owner = *screens->loaded(u"Form1"_s);
+        BoxAnswerer boxes({u"Aceptar"_s, u"Sí"_s, u"Cancelar"_s});
+        boxes.whileOpen = [](QDialog& box) {
+            QVERIFY2(display().contains(box.frameGeometry()), qPrintable(box.windowTitle()));
+        };
+        ui::MessageBox::show(owner, report.join(u"\r\n"_s));
+        ui::MessageBox::ask(owner, QString(60, u'a') + u' ' + QString(400, u'b'), u"Pregunta"_s);
+        ui::InputBox::ask(
+            owner, u"Introduzca el primer factor de la multiplicación:"_s, u"Multiplicaciones"_s);
+    }
+
+private:
+    static constexpr int Frame = ui::Screens::FrameHeight;
+
+    static QRect display() { return QGuiApplication::primaryScreen()->availableGeometry(); }
+
+    static void addScreenRows(const QString& butFor = {})
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"Form1", "Form2", "Form3", "Form4", "Form5", "Form6", "Form8",
+                 "FrmMultHuecos", "FrmMultidivi", "FRMCombi", "FormProblemas", "FrmCarrera",
+                 "Dialog", "DLGProblemas", "DLGSelProb", "DlgCarrera"}) {
+            if (QLatin1String(name) != butFor)
+                QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
+    ui::Screen& open()
+    {
+        QFETCH(QString, name);
+        screens->show(name);
+        return *screens->loaded(name);
+    }
+
+    static void verifyOnDisplay(const ui::Screen& screen)
+    {
+        const QRect place(screen.pos(), screen.size() + QSize(0, Frame));
+        // Window sizes are rounded up to whole pixels.
+        QVERIFY2(display().adjusted(0, 0, 1, 1).contains(place),
+            qPrintable(u"%1,%2 %3x%4"_s.arg(place.x())
+                           .arg(place.y())
+                           .arg(place.width())
+                           .arg(place.height())));
+    }
+
+    core::SeededRandom random;
+    FakeClock clock;
+    QTemporaryDir folder;
+    std::unique_ptr<ui::Screens> screens;
+};
+
+namespace {
+
+/// A description of one display, for the toolkit's offscreen platform.
+QByteArray displayOf(const QList<QByteArray>& size)
+{
+    return R"({"windowFrameMargins": false, "screens": [{"name": "display", "x": 0, "y": 0,
+        "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1, "width": )"
+        + size.value(0) + R"(, "height": )" + size.value(1) + "}]}";
+}
+
+} // namespace
+
+/// An argument is the size of an offscreen display: 1366x768.
+int main(int argc, char* argv[])
+{
+    QTemporaryFile description;
+    if (argc > 1) {
+        if (!description.open()
+            || description.write(displayOf(QByteArray(argv[1]).split('x'))) <= 0)
+            return 1;
+        description.close();
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toUtf8());
+    }
+    ui::prepareApplication();
+    QApplication application(argc, argv);
+    ui::dress();
+    if (argc > 1 && QGuiApplication::primaryScreen()->name() != u"display"_s)
+        return 1; // this platform takes no description
+    DisplayTest test;
+    return QTest::qExec(&test, {u"display_test"_s});
+}
+
+#include "display_test.moc"
