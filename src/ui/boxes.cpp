@@ -8,6 +8,7 @@
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -36,6 +37,11 @@ public:
     }
 
 protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QMessageBox::resizeEvent(event);
+        holdText();
+    }
     void keyPressEvent(QKeyEvent* event) override
     {
         if (m_question && event->matches(QKeySequence::Cancel))
@@ -52,6 +58,14 @@ protected:
     }
 
 private:
+    /// The toolkit makes no box wider than 1000 pixels and lets the text stand out.
+    void holdText()
+    {
+        const int needed = layout()->totalMinimumSize().width();
+        if (isVisible() && layout()->hasHeightForWidth() && needed > width())
+            setFixedSize(needed, layout()->totalHeightForWidth(needed));
+    }
+
     bool m_question;
 };
 
