@@ -42,14 +42,15 @@ private slots:
         QVERIFY2(std::abs(above - below) <= 1, qPrintable(u"%1, %2"_s.arg(above).arg(below)));
     }
 
-    void screensAreAsLargeAsTheMenuOrAsTheDisplayAllows_data() { addScreenRows(); }
-    void screensAreAsLargeAsTheMenuOrAsTheDisplayAllows()
+    void allScreensHaveOneFactorUnlessTheDisplayIsTooSmall_data() { addScreenRows(); }
+    void allScreensHaveOneFactorUnlessTheDisplayIsTooSmall()
     {
         const ui::Screen& screen = open();
-        const double menus = screens->loaded(u"Form1"_s)->factor();
+        constexpr double MenuHeight = 580; // pixels at factor 1
+        const double meant = ui::Screens::initialFactor(MenuHeight, display().height());
         const double aPixel = 2.0 / std::min(screen.width(), screen.height());
-        QVERIFY(screen.factor() <= menus + aPixel);
-        if (screen.factor() >= menus - aPixel)
+        QVERIFY(screen.factor() <= meant + aPixel);
+        if (screen.factor() >= meant - aPixel)
             return;
         // It gave way: then there is no room left in one direction.
         const QSize room = display().size() - QSize(0, Frame);
@@ -86,8 +87,14 @@ private slots:
 
         ui::Screen& owner = *screens->loaded(u"Form1"_s);
         BoxAnswerer boxes({u"Aceptar"_s, u"Sí"_s, u"Cancelar"_s});
-        boxes.whileOpen = [](QDialog& box) {
+        boxes.whileOpen = [&](QDialog& box) {
+            const int aside = box.geometry().center().x() - owner.geometry().center().x();
+            constexpr int FrameGuess = 12; // the toolkit leaves room for the box's frame
+            QVERIFY2(std::abs(aside) <= FrameGuess, qPrintable(QString::number(aside)));
             QVERIFY2(display().contains(box.frameGeometry()), qPrintable(box.windowTitle()));
+            for (const QWidget* part : box.findChildren<QWidget*>())
+                QVERIFY2(!part->isVisible() || box.rect().contains(placeIn(box, *part)),
+                    part->metaObject()->className());
         };
         ui::MessageBox::show(owner, report.join(u"\r\n"_s));
         ui::MessageBox::ask(owner, QString(60, u'a') + u' ' + QString(400, u'b'), u"Pregunta"_s);
@@ -116,6 +123,11 @@ private:
         QFETCH(QString, name);
         screens->show(name);
         return *screens->loaded(name);
+    }
+
+    static QRect placeIn(const QWidget& window, const QWidget& part)
+    {
+        return {part.mapTo(&window, QPoint()), part.size()};
     }
 
     static void verifyOnDisplay(const ui::Screen& screen)
