@@ -1,13 +1,17 @@
 #include "ui/style.h"
 
+#include "ui/indicators.h"
 #include "ui/look.h"
 #include "ui/screen.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +22,11 @@ namespace {
 constexpr double ButtonRadius = 8;
 constexpr double BoxRadius = 6;
 constexpr QSize SmallestButton(96, 34); // where a layout decides, as in boxes
+constexpr QSize SmallestEntry(0, 34); // there too
 constexpr double TitleGap = 4; // between a frame and its title
+constexpr int LayoutMargin = 16; // in boxes, and 8 between what stands in them
+constexpr int LayoutSpacing = 8;
+constexpr int CheckColumn = 24; // of a menu, left of its captions
 constexpr int IconSize = 32;
 constexpr int IconMargin = 14; // left of a button's icon and between it and the caption
 
@@ -49,6 +57,17 @@ void drawBox(QPainter* painter, const QStyleOption& option, double factor)
 {
     drawRounded(painter, option.rect, option.palette.brush(QPalette::Base), QColor(look::Line),
         factor, BoxRadius * factor);
+}
+
+/// In a box, where no ring of the screen shows the focus, an entry draws its own.
+void drawEntry(
+    QPainter* painter, const QStyleOption& option, const QWidget* widget, double factor)
+{
+    if (standsOnScreen(widget) || !(option.state & QStyle::State_HasFocus))
+        drawBox(painter, option, factor);
+    else
+        drawRounded(painter, option.rect, option.palette.brush(QPalette::Base),
+            QColor(look::Focus), look::RingWidth * factor, BoxRadius * factor);
 }
 
 /// Frames what stands below the title.
@@ -107,11 +126,31 @@ void drawButtonLabel(QPainter* painter, const QStyleOptionButton& option, double
     painter->drawText(rect, flags, option.text);
 }
 
+/// The items are as high as their bar; the line below the bar is its own.
+void drawMenuBarItem(QPainter* painter, const QStyleOptionMenuItem& item)
+{
+    const bool open =
+        (item.state & QStyle::State_Selected) && (item.state & QStyle::State_Sunken);
+    painter->fillRect(
+        item.rect, item.palette.brush(open ? QPalette::Highlight : QPalette::Window));
+    painter->setPen(item.palette.color(open ? QPalette::HighlightedText : QPalette::WindowText));
+    painter->drawText(
+        item.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, item.text);
+}
+
 } // namespace
 
 Style::Style()
     : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
 {
+}
+
+void Style::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    // A context menu and a tool tip are windows: they inherit no font from their text box.
+    if (qobject_cast<QMenu*>(widget) != nullptr || widget->inherits("QTipLabel"))
+        widget->setFont(look::scaled(look::Instruction, Screen::factorOf(widget)));
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -121,13 +160,22 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     switch (element) {
     case PE_PanelLineEdit:
         if (!isFramelessBox(widget))
-            drawBox(painter, *option, factor);
+            drawEntry(painter, *option, widget, factor);
         return;
     case PE_Frame:
         drawBox(painter, *option, factor);
         return;
     case PE_FrameGroupBox:
         drawGroup(painter, *option, widget, factor);
+        return;
+    case PE_IndicatorCheckBox:
+        drawCheckBox(*painter, *option, factor);
+        return;
+    case PE_IndicatorRadioButton:
+        drawRadioButton(*painter, *option, factor);
+        return;
+    case PE_IndicatorArrowRight:
+        drawSubmenuArrow(*painter, *option, factor);
         return;
     case PE_FrameFocusRect:
         if (standsOnScreen(widget))
@@ -146,6 +194,12 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     if (element == CE_PushButtonBevel) {
         drawButton(painter, *option, factor, !standsOnScreen(widget));
         return;
+    }
+    if (element == CE_MenuBarItem) {
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+            drawMenuBarItem(painter, *item);
+            return;
+        }
     }
     if (element == CE_PushButtonLabel) {
         if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
@@ -169,6 +223,15 @@ int Style::pixelMetric(
 {
     const int plain = QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+        return qRound(LayoutMargin * Screen::factorOf(widget));
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+        return qRound(LayoutSpacing * Screen::factorOf(widget));
+    case PM_MessageBoxIconSize:
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
@@ -199,9 +262,19 @@ QSize Style::sizeFromContents(
     ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const
 {
     const QSize plain = QProxyStyle::sizeFromContents(type, option, size, widget);
-    if (type != CT_PushButton)
+    const double factor = Screen::factorOf(widget);
+    switch (type) {
+    case CT_PushButton:
+        return plain.expandedTo(SmallestButton * factor);
+    case CT_LineEdit:
+        return plain.expandedTo(SmallestEntry * factor);
+    case CT_MenuBarItem: // as high as the bar, but for the line below
+        return {plain.width(), qRound(look::MenuBarHeight * factor) - 1};
+    case CT_MenuItem: // Fusion's column of ticks grows with the font, its width does not
+        return plain + QSize(qRound(CheckColumn * std::max(0.0, factor - 1)), 0);
+    default:
         return plain;
-    return plain.expandedTo(SmallestButton * Screen::factorOf(widget));
+    }
 }
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
