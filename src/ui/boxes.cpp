@@ -5,10 +5,10 @@
 #include "ui/screen.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -23,7 +23,8 @@ namespace ui {
 namespace {
 
 constexpr double InputWidth = 420; // pixels at factor 1
-constexpr double LongestLine = 460;
+constexpr double LongestLine = 500;
+constexpr double ShortestLine = 220; // so that the title can be read
 constexpr int BoxFrame = 160; // what a box needs beside its text
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
@@ -41,6 +42,11 @@ protected:
     {
         QMessageBox::resizeEvent(event);
         holdText();
+    }
+    void showEvent(QShowEvent* event) override
+    {
+        dropIconGap();
+        QMessageBox::showEvent(event);
     }
     void keyPressEvent(QKeyEvent* event) override
     {
@@ -64,6 +70,19 @@ private:
         const int needed = layout()->totalMinimumSize().width();
         if (isVisible() && layout()->hasHeightForWidth() && needed > width())
             setFixedSize(needed, layout()->totalHeightForWidth(needed));
+    }
+
+    /// Without an icon the text begins where the margin ends.
+    void dropIconGap()
+    {
+        auto* grid = qobject_cast<QGridLayout*>(layout());
+        QLayoutItem* first =
+            icon() == NoIcon && grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr;
+        if (first == nullptr || first->spacerItem() == nullptr)
+            return;
+        first->spacerItem()->changeSize(0, 1, QSizePolicy::Fixed, QSizePolicy::Fixed);
+        grid->setHorizontalSpacing(0);
+        grid->invalidate();
     }
 
     bool m_question;
@@ -107,7 +126,8 @@ void widen(const Box& box, const Screen& owner)
     if (label == nullptr)
         return;
     const QFontMetrics metrics(box.font());
-    int longest = 0;
+    label->setIndent(0);
+    int longest = qRound(ShortestLine * owner.factor());
     for (const QString& line : box.text().split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
     const int room = owner.screen()->availableGeometry().width() - BoxFrame;
@@ -174,8 +194,11 @@ QString InputBox::ask(Screen& owner, const QString& prompt, const QString& title
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
-    if (auto* edit = box->findChild<QLineEdit*>())
+    if (auto* edit = box->findChild<QLineEdit*>()) {
+        const int margin = qRound(look::BoxMargin * owner.factor());
+        edit->setTextMargins(margin, 0, margin, 0);
         edit->setAccessibleName(prompt.isEmpty() ? title : prompt);
+    }
     QString answer;
     QObject::connect(box, &QInputDialog::textValueSelected, box,
         [&answer](const QString& text) { answer = text; });

@@ -48,6 +48,20 @@ private slots:
         ui::MessageBox::show(*screen, line + u"\r\nfin"_s);
     }
 
+    void aMessageIsAsWideAsItsTextNeeds()
+    {
+        constexpr int WiderThanTheToolkitAllows = 1400;
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog& box) {
+            auto& label = ScreenBench::find<QLabel>(box, u"qt_msgbox_label"_s);
+            label.setMinimumWidth(WiderThanTheToolkitAllows);
+            QCoreApplication::sendPostedEvents(&box, QEvent::LayoutRequest);
+            QVERIFY(label.width() >= WiderThanTheToolkitAllows);
+            QVERIFY(box.rect().contains(label.geometry()));
+        };
+        ui::MessageBox::show(*screen, u"a"_s);
+    }
+
     void messageHasItsTitleAndIcon()
     {
         BoxAnswerer boxes({u"Aceptar"_s, u"Aceptar"_s, u"Aceptar"_s});
