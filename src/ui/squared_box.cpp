@@ -18,6 +18,9 @@ namespace {
 
 constexpr double DigitShare = 0.8; // of the height of a square
 constexpr double LargestType = 34; // pixels at factor 1
+constexpr double CaretWidth = 2;
+constexpr double CaretGap = 3; // from the edges: at one, it would melt into the focus ring
+constexpr double CaretGapShare = 0.2; // of a square, at most
 // QLineEdit's own, inside the margins that can be set; right-aligned text ends two pixels
 // before the inner one.
 constexpr int InnerMarginX = 2;
@@ -171,9 +174,10 @@ QRect SquaredBox::strip(double left, double right) const
 
 QRect SquaredBox::caret() const
 {
-    const int thickness = std::max(1, qRound(2 * m_factor));
+    const int thickness = std::max(1, qRound(CaretWidth * m_factor));
+    const int gap = qRound(std::min(CaretGap * m_factor, CaretGapShare * squarePixels()));
     const int at = qRound(lineBefore(cursorPosition())) - thickness / 2;
-    const int left = std::clamp(at, 0, width() - thickness);
+    const int left = std::clamp(at, gap, std::max(gap, width() - gap - thickness));
     return strip(left, left + thickness);
 }
 
