@@ -20,7 +20,7 @@ constexpr double LabelHeight = 360;
 constexpr double ListTop = 660;
 constexpr double ListWidth = 3480;
 constexpr double CarListHeight = 3900;
-constexpr double TypeListHeight = 1575;
+constexpr double TypeListHeight = 1665;
 constexpr double RoadTop = 4740;
 constexpr double RoadHeight = 600;
 constexpr std::array<double, 3> Column{240, 4080, 7920};

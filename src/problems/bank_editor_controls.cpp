@@ -1,7 +1,7 @@
 #include "problems/bank_editor_screen.h"
 
-#include "problems/problem_list.h"
 #include "ui/leave_check.h"
+#include "ui/list_box.h"
 
 #include <QCheckBox>
 
@@ -57,7 +57,7 @@ DLGProblemas::DLGProblemas(ui::Screens& screens)
 
 void DLGProblemas::makeList()
 {
-    List1 = add(new ProblemList(canvas()), u"List1"_s,
+    List1 = add(new ui::ListBox(canvas(), ui::ListBox::Start::Flush), u"List1"_s,
         {Margin, 540, ListWidth, Height - 540 - Margin}, ListFont);
     List1->setAccessibleName(u"Problemas disponibles"_s);
     label(u"Label4"_s, u"Problemas &disponibles"_s, {Margin, 180, ListWidth, LabelHeight},

@@ -2,7 +2,7 @@
 
 #include "core/clock.h"
 #include "problems/bank.h"
-#include "problems/problem_list.h"
+#include "ui/list_box.h"
 #include "ui/screens.h"
 
 #include <QCheckBox>

@@ -6,9 +6,11 @@
 
 class QCheckBox;
 
-namespace problems {
+namespace ui {
+class ListBox;
+}
 
-class ProblemList;
+namespace problems {
 
 /// The editor of the problem bank: browse, add, change, delete and try out its templates.
 class DLGProblemas : public ui::Screen {
@@ -70,7 +72,7 @@ private:
 
     BankEditor m_model;
     ExpressionEvaluator m_evaluator;
-    ProblemList* List1 = nullptr;
+    ui::ListBox* List1 = nullptr;
     ui::Memo* Text1 = nullptr;
     ui::TextBox* Text2 = nullptr;
     ui::TextBox* Text3 = nullptr;

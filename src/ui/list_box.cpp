@@ -1,5 +1,7 @@
 #include "ui/list_box.h"
 
+#include "ui/look.h"
+
 #include <QStyledItemDelegate>
 
 namespace ui {
@@ -38,6 +40,12 @@ ListBox::ListBox(QWidget* parent, Start start)
     setItemDelegate(new LineDelegate(this, start));
     setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void ListBox::setFactor(double factor)
+{
+    const int corner = qRound(look::CornerMargin * factor);
+    setViewportMargins(corner, corner, corner, corner);
 }
 
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(

@@ -1,18 +1,22 @@
 #pragma once
 
+#include "ui/placement.h"
+
 #include <QListWidget>
 
 namespace ui {
 
 /// A list of captions, with air between its lines, each cut off with an ellipsis where it is
-/// too long. Whatever is clicked or reached by a key is selected, and stays so: a Ctrl+click
-/// does not take the selection away.
-class ListBox : public QListWidget {
+/// too long. The lines stay clear of the round corners at every factor. Whatever is clicked or
+/// reached by a key is selected, and stays so: a Ctrl+click does not take the selection away.
+class ListBox : public QListWidget, public Scalable {
 public:
     /// Where the captions begin: a blank from the edge, or at it.
     enum class Start { Indented, Flush };
 
     explicit ListBox(QWidget* parent, Start start = Start::Indented);
+
+    void setFactor(double factor) override;
 
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(
