@@ -77,7 +77,6 @@ void Form8::makeRow()
         box->setAlignment(Qt::AlignCenter);
         onEnter(box, [this] { TbDatos_KeyPress(); });
     }
-    TbDatos[0]->setAlignment(Qt::AlignRight | Qt::AlignVCenter); // the sign follows close
 }
 
 void Form8::makeTime()
