@@ -81,8 +81,8 @@ Form6::Form6(ui::Screens& screens)
     makeLines();
     makeTexts();
     makeCommands({.check = commandPlace(0),
-                     .next = commandPlace(1),
-                     .clear = commandPlace(2),
+                     .next = commandPlace(2),
+                     .clear = commandPlace(1),
                      .solution = commandPlace(3)},
         u"&Ver solucióm"_s);
 }

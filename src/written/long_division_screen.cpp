@@ -38,7 +38,14 @@ void Form6::showExercise()
 void Form6::showWork()
 {
     placeOperation();
+    clearWork();
+}
+
+/// The caret waits under the dividend's first digit: on its line nothing can be written.
+void Form6::clearWork()
+{
     Text1->setGrid(m_model.emptyWork());
+    Text1->setCursorPosition(m_model.AnchoLinea().value() + 1);
 }
 
 void Form6::showOperation()
@@ -76,7 +83,7 @@ void Form6::Command2_Click(int Index)
         break;
     case 1:
         Text3->clear();
-        Text1->setGrid(m_model.emptyWork());
+        clearWork();
         Text3->setFocus();
         break;
     default:

@@ -51,6 +51,7 @@ private:
     void IntroduceDivisor();
     void showExercise();
     void showWork();
+    void clearWork();
     void showOperation();
     void placeOperation();
 

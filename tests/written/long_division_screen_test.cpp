@@ -60,6 +60,7 @@ private slots:
     void tooManyDigitsToDraw();
     void smallestByMinusOne();
 
+    void typingStartsUnderTheDividend();
     void workAreaStandsAtTheBracket_data();
     void workAreaStandsAtTheBracket();
     void longLinesWidenTheSheet();
@@ -386,6 +387,7 @@ void LongDivisionScreenTest::deleteDoesNothing()
 void LongDivisionScreenTest::arrowsTabAndEscape()
 {
     const QString before = work().toPlainText();
+    QTest::keyClick(&work(), Qt::Key_Home, Qt::ControlModifier);
     QTest::keyClick(&work(), Qt::Key_Down);
     QTest::keyClick(&work(), Qt::Key_Right);
     QCOMPARE(work().cursorPosition(), 7);
@@ -653,6 +655,24 @@ void LongDivisionScreenTest::scaleTo(double factor)
     QVERIFY(std::abs(m_screen->factor() - factor) < 0.01);
 }
 
+void LongDivisionScreenTest::typingStartsUnderTheDividend()
+{
+    const auto verifyWaiting = [this](const QString& dividend) {
+        QCOMPARE(work().cursorPosition(), work().grid().columns() + 1);
+        work().setFocus();
+        QTest::keyClick(&work(), '7');
+        QCOMPARE(line(0).trimmed(), dividend);
+        QCOMPARE(line(1).trimmed(), u"7"_s);
+    };
+    show(84, 7);
+    verifyWaiting(u"84"_s);
+    m_bench->click(u"Command2(1)"_s);
+    verifyWaiting(u"84"_s);
+    BoxAnswerer boxes({{u"12345"_s, u"Aceptar"_s}});
+    m_bench->pick(u"MnuOpcInt"_s);
+    verifyWaiting(u"12345"_s);
+}
+
 void LongDivisionScreenTest::workAreaStandsAtTheBracket_data()
 {
     QTest::addColumn<int>("digits");
@@ -782,8 +802,8 @@ void LongDivisionScreenTest::tabVisitsEveryControl()
         visited << m_bench->focusName();
     }
     QCOMPARE(visited,
-        (QStringList{u"Text1"_s, u"Text2"_s, u"Text3"_s, u"Command1"_s, u"Command2(0)"_s,
-            u"Command2(1)"_s, u"Command2(2)"_s}));
+        (QStringList{u"Text1"_s, u"Text2"_s, u"Text3"_s, u"Command1"_s, u"Command2(1)"_s,
+            u"Command2(0)"_s, u"Command2(2)"_s}));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QCOMPARE(m_bench->focusName(), u"Text1"_s);
     m_bench->type(u"Text2"_s, u"9"_s);
