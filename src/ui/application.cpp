@@ -13,6 +13,7 @@ namespace ui {
 void prepareApplication()
 {
     QApplication::setDesktopSettingsAware(false);
+    QApplication::setAttribute(Qt::AA_DontShowIconsInMenus); // some desktops have them
 }
 
 void dress()

@@ -4,6 +4,7 @@
 #include "ui/look.h"
 #include "ui/screen.h"
 
+#include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -281,6 +282,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     QStyleHintReturn* returnData) const
 {
     switch (hint) {
+    case SH_DialogButtonLayout: // "Aceptar" before "Cancelar", "Sí" before "No" on any desktop
+        return QDialogButtonBox::WinLayout;
     case SH_UnderlineShortcut:
         return 1;
     case SH_BlinkCursorWhenTextSelected:

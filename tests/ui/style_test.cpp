@@ -4,6 +4,7 @@
 #include "ui/look.h"
 #include "ui/style.h"
 
+#include <QDialogButtonBox>
 #include <QMenuBar>
 #include <QStyleOptionButton>
 
@@ -91,6 +92,12 @@ private slots:
             auto& bar = ScreenBench::find<QMenuBar>(*screen, {});
             QCOMPARE(bar.actionGeometry(menu().menuAction()).height(), bar.height() - 1);
         }
+    }
+
+    void buttonsOfBoxesHaveOneOrderOnAnyDesktop()
+    {
+        QCOMPARE(QApplication::style()->styleHint(QStyle::SH_DialogButtonLayout),
+            int(QDialogButtonBox::WinLayout));
     }
 
     void contextMenusFollowTheFactor()
