@@ -1,5 +1,6 @@
 #include "ui/style.h"
 
+#include "ui/box_icons.h"
 #include "ui/indicators.h"
 #include "ui/look.h"
 #include "ui/screen.h"
@@ -256,6 +257,10 @@ QIcon Style::standardIcon(
     // and the program's menus always fit their bar.
     if (pixmap == SP_ToolBarHorizontalExtensionButton)
         return {};
+    const bool ofBox = pixmap == SP_MessageBoxInformation || pixmap == SP_MessageBoxWarning
+        || pixmap == SP_MessageBoxCritical;
+    if (ofBox)
+        return boxIcon(pixmap, pixelMetric(PM_MessageBoxIconSize, option, widget));
     return QProxyStyle::standardIcon(pixmap, option, widget);
 }
 

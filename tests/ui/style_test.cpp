@@ -100,6 +100,19 @@ private slots:
             int(QDialogButtonBox::WinLayout));
     }
 
+    void iconsOfBoxesFollowTheFactor()
+    {
+        zoomTo(3);
+        for (const QStyle::StandardPixmap pixmap : {QStyle::SP_MessageBoxInformation,
+                 QStyle::SP_MessageBoxWarning, QStyle::SP_MessageBoxCritical}) {
+            const QStyle& style = *QApplication::style();
+            const int side = style.pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, screen);
+            QCOMPARE(side, 3 * style.pixelMetric(QStyle::PM_MessageBoxIconSize));
+            const QIcon icon = style.standardIcon(pixmap, nullptr, screen);
+            QCOMPARE(icon.actualSize(QSize(side, side)), QSize(side, side));
+        }
+    }
+
     void contextMenusFollowTheFactor()
     {
         zoomTo(3);
