@@ -1,12 +1,12 @@
 #include "ui/style.h"
 
 #include "ui/box_icons.h"
+#include "ui/faces.h"
 #include "ui/indicators.h"
 #include "ui/look.h"
 #include "ui/screen.h"
 
 #include <QDialogButtonBox>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
@@ -21,123 +21,29 @@ namespace ui {
 
 namespace {
 
-constexpr double ButtonRadius = 8;
-constexpr double BoxRadius = 6;
+// Pixels at factor 1.
 constexpr QSize SmallestButton(96, 34); // where a layout decides, as in boxes
 constexpr QSize SmallestEntry(0, 34); // there too
-constexpr double TitleGap = 4; // between a frame and its title
 constexpr int LayoutMargin = 16; // in boxes, and 8 between what stands in them
 constexpr int LayoutSpacing = 8;
 constexpr int CheckColumn = 24; // of a menu, left of its captions
-constexpr int IconSize = 32;
-constexpr int IconMargin = 14; // left of a button's icon and between it and the caption
 
-void drawRounded(QPainter* painter, const QRect& rect, const QBrush& fill, const QColor& edge,
-    double penWidth, double radius)
-{
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(edge, penWidth));
-    painter->setBrush(fill);
-    const double inset = penWidth / 2;
-    painter->drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), radius, radius);
-    painter->restore();
-}
-
+/// Whether the ring of a screen shows the focus of a control; in a box each shows its own.
 bool standsOnScreen(const QWidget* widget)
 {
     return widget != nullptr && widget->window() == Screen::of(widget);
 }
 
-bool isFramelessBox(const QWidget* widget)
-{
-    const auto* box = qobject_cast<const QLineEdit*>(widget);
-    return box != nullptr && !box->hasFrame();
-}
-
-void drawBox(QPainter* painter, const QStyleOption& option, double factor)
-{
-    drawRounded(painter, option.rect, option.palette.brush(QPalette::Base), QColor(look::Line),
-        factor, BoxRadius * factor);
-}
-
-/// In a box, where no ring of the screen shows the focus, an entry draws its own.
 void drawEntry(
-    QPainter* painter, const QStyleOption& option, const QWidget* widget, double factor)
+    QPainter& painter, const QStyleOption& option, const QWidget* widget, double factor)
 {
+    const auto* entry = qobject_cast<const QLineEdit*>(widget);
+    if (entry != nullptr && !entry->hasFrame())
+        return;
     if (standsOnScreen(widget) || !(option.state & QStyle::State_HasFocus))
         drawBox(painter, option, factor);
     else
-        drawRounded(painter, option.rect, option.palette.brush(QPalette::Base),
-            QColor(look::Focus), look::RingWidth * factor, BoxRadius * factor);
-}
-
-/// Frames what stands below the title.
-void drawGroup(
-    QPainter* painter, const QStyleOption& option, const QWidget* widget, double factor)
-{
-    QRect frame = option.rect;
-    if (const auto* group = qobject_cast<const QGroupBox*>(widget); group != nullptr)
-        frame.setTop(frame.top() + group->fontMetrics().height() + qRound(TitleGap * factor));
-    drawRounded(
-        painter, frame, QColor(look::Card), QColor(look::Line), factor, BoxRadius * factor);
-}
-
-void drawButton(QPainter* painter, const QStyleOption& option, double factor, bool ringInside)
-{
-    const bool down = option.state & (QStyle::State_Sunken | QStyle::State_On);
-    const bool hover = option.state & QStyle::State_MouseOver;
-    const bool enabled = option.state & QStyle::State_Enabled;
-    QColor fill = option.palette.color(QPalette::Button);
-    const QColor edge = fill.darker(166);
-    if (down)
-        fill = fill.darker(115);
-    QRect rect = option.rect;
-    if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
-        button != nullptr && !button->icon.isNull()) {
-        // The menu's columns touch: a gap in the painting sets them apart.
-        const int gap = qRound(look::RingWidth * factor);
-        rect.adjust(gap, 0, -gap, 0);
-    }
-    if (down)
-        rect.translate(0, 1);
-    const double pen = (hover && enabled ? 2 : 1) * factor;
-    drawRounded(painter, rect, fill, edge, pen, ButtonRadius * factor);
-    if (ringInside && (option.state & QStyle::State_HasFocus))
-        drawRounded(painter, rect, Qt::NoBrush, QColor(look::Focus), look::RingWidth * factor,
-            ButtonRadius * factor);
-}
-
-void drawButtonLabel(QPainter* painter, const QStyleOptionButton& option, double factor)
-{
-    QRect rect = option.rect;
-    if (option.state & QStyle::State_Sunken)
-        rect.translate(0, 1);
-    const int flags = Qt::AlignVCenter | Qt::TextShowMnemonic
-        | (option.icon.isNull() ? Qt::AlignHCenter : Qt::AlignLeft);
-    if (!option.icon.isNull()) {
-        const int margin = qRound(IconMargin * factor);
-        const int size = qRound(IconSize * factor);
-        const QRect icon(
-            rect.left() + margin, rect.top() + (rect.height() - size) / 2, size, size);
-        option.icon.paint(painter, icon, Qt::AlignCenter,
-            option.state & QStyle::State_Enabled ? QIcon::Normal : QIcon::Disabled);
-        rect.setLeft(icon.right() + margin);
-    }
-    painter->setPen(option.palette.color(QPalette::ButtonText));
-    painter->drawText(rect, flags, option.text);
-}
-
-/// The items are as high as their bar; the line below the bar is its own.
-void drawMenuBarItem(QPainter* painter, const QStyleOptionMenuItem& item)
-{
-    const bool open =
-        (item.state & QStyle::State_Selected) && (item.state & QStyle::State_Sunken);
-    painter->fillRect(
-        item.rect, item.palette.brush(open ? QPalette::Highlight : QPalette::Window));
-    painter->setPen(item.palette.color(open ? QPalette::HighlightedText : QPalette::WindowText));
-    painter->drawText(
-        item.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, item.text);
+        drawFocusedBox(painter, option, factor);
 }
 
 } // namespace
@@ -161,14 +67,13 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     const double factor = Screen::factorOf(widget);
     switch (element) {
     case PE_PanelLineEdit:
-        if (!isFramelessBox(widget))
-            drawEntry(painter, *option, widget, factor);
+        drawEntry(*painter, *option, widget, factor);
         return;
     case PE_Frame:
-        drawBox(painter, *option, factor);
+        drawBox(*painter, *option, factor);
         return;
     case PE_FrameGroupBox:
-        drawGroup(painter, *option, widget, factor);
+        drawGroup(*painter, *option, widget, factor);
         return;
     case PE_IndicatorCheckBox:
         drawCheckBox(*painter, *option, factor);
@@ -194,18 +99,18 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
 {
     const double factor = Screen::factorOf(widget);
     if (element == CE_PushButtonBevel) {
-        drawButton(painter, *option, factor, !standsOnScreen(widget));
+        drawButton(*painter, *option, factor, !standsOnScreen(widget));
         return;
     }
     if (element == CE_MenuBarItem) {
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
-            drawMenuBarItem(painter, *item);
+            drawMenuBarItem(*painter, *item);
             return;
         }
     }
     if (element == CE_PushButtonLabel) {
         if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
-            drawButtonLabel(painter, *button, factor);
+            drawButtonLabel(*painter, *button, factor);
             return;
         }
     }
