@@ -1,11 +1,9 @@
-#include "activities.h"
-#include "core/random.h"
+#include "support/program_bench.h"
 #include "support/screen_bench.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
-#include <QDir>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QMenuBar>
@@ -43,19 +41,8 @@ class AccessibilityTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        for (const QFileInfo& file :
-            QDir(QString::fromUtf8(PIZARRIN_RESOURCES)).entryInfoList(QDir::Files))
-            QVERIFY(QFile::copy(file.filePath(), folder.filePath(file.fileName())));
-    }
-
-    void init()
-    {
-        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
-        addScreens(*screens);
-    }
-    void cleanup() { screens.reset(); }
+    void init() { program = std::make_unique<ProgramBench>(); }
+    void cleanup() { program.reset(); }
 
     void everyControlHasItsRoleAndASpanishName_data() { addScreenRows(); }
     void everyControlHasItsRoleAndASpanishName()
@@ -196,8 +183,8 @@ private:
     ui::Screen& open()
     {
         QFETCH(QString, name);
-        screens->show(name);
-        ui::Screen& screen = *screens->loaded(name);
+        program->screens.show(name);
+        ui::Screen& screen = *program->screens.loaded(name);
         if (name != u"FrmCarrera"_s) // its options come up at once, above it
             ScreenBench::activate(screen);
         return screen;
@@ -281,10 +268,7 @@ private:
         return order;
     }
 
-    core::SeededRandom random;
-    FakeClock clock;
-    QTemporaryDir folder;
-    std::unique_ptr<ui::Screens> screens;
+    std::unique_ptr<ProgramBench> program;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(AccessibilityTest)

@@ -1,10 +1,8 @@
-#include "activities.h"
-#include "core/random.h"
+#include "support/program_bench.h"
 #include "support/screen_bench.h"
 #include "support/typing.h"
 
 #include <QAccessible>
-#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -40,20 +38,16 @@ class AnnouncementsTest : public QObject {
 private slots:
     void initTestCase()
     {
-        for (const QFileInfo& file :
-            QDir(QString::fromUtf8(PIZARRIN_RESOURCES)).entryInfoList(QDir::Files))
-            QVERIFY(QFile::copy(file.filePath(), folder.filePath(file.fileName())));
         QTRY_VERIFY(QAccessible::isActive());
         QAccessible::installUpdateHandler(listen);
     }
     void init()
     {
-        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
-        addScreens(*screens);
+        program = std::make_unique<ProgramBench>();
         announced.clear();
         spoken.clear();
     }
-    void cleanup() { screens.reset(); }
+    void cleanup() { program.reset(); }
 
     void everyNewExerciseIsAnnounced_data()
     {
@@ -155,10 +149,10 @@ private slots:
 
     void raceAnnouncesOperationsAndVerdicts()
     {
-        screens->show(u"FrmCarrera"_s);
-        const ui::Screen& screen = *screens->loaded(u"FrmCarrera"_s);
-        QTRY_VERIFY(screens->loaded(u"DlgCarrera"_s));
-        ui::Screen& dialog = *screens->loaded(u"DlgCarrera"_s);
+        program->screens.show(u"FrmCarrera"_s);
+        const ui::Screen& screen = *program->screens.loaded(u"FrmCarrera"_s);
+        QTRY_VERIFY(program->screens.loaded(u"DlgCarrera"_s));
+        ui::Screen& dialog = *program->screens.loaded(u"DlgCarrera"_s);
         ScreenBench::activate(dialog);
         click(dialog, u"OKButton"_s);
         const auto& operation = ScreenBench::find<QLineEdit>(screen, u"TBOperación"_s);
@@ -189,8 +183,8 @@ private:
     }
     ui::Screen& open(const QString& name)
     {
-        screens->show(name);
-        ui::Screen& screen = *screens->loaded(name);
+        program->screens.show(name);
+        ui::Screen& screen = *program->screens.loaded(name);
         ScreenBench::activate(screen);
         return screen;
     }
@@ -205,10 +199,7 @@ private:
             .size();
     }
 
-    core::SeededRandom random;
-    FakeClock clock;
-    QTemporaryDir folder;
-    std::unique_ptr<ui::Screens> screens;
+    std::unique_ptr<ProgramBench> program;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(AnnouncementsTest)

@@ -1,9 +1,7 @@
-#include "activities.h"
-#include "core/random.h"
+#include "support/program_bench.h"
 #include "support/screen_bench.h"
 #include "support/text_fit.h"
 
-#include <QDir>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -13,20 +11,12 @@ class DisplayTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        for (const QFileInfo& file :
-            QDir(QString::fromUtf8(PIZARRIN_RESOURCES)).entryInfoList(QDir::Files))
-            QVERIFY(QFile::copy(file.filePath(), folder.filePath(file.fileName())));
-    }
-
     void init()
     {
-        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
-        addScreens(*screens);
-        screens->show(u"Form1"_s);
+        program = std::make_unique<ProgramBench>();
+        program->screens.show(u"Form1"_s);
     }
-    void cleanup() { screens.reset(); }
+    void cleanup() { program.reset(); }
 
     void everyScreenStandsWholeInTheMiddle_data() { addScreenRows(); }
     void everyScreenStandsWholeInTheMiddle()
@@ -65,8 +55,8 @@ private slots:
 
     void aScreenThatGrowsStaysOnTheDisplay()
     {
-        screens->show(u"Form3"_s);
-        const ui::Screen& screen = *screens->loaded(u"Form3"_s);
+        program->screens.show(u"Form3"_s);
+        const ui::Screen& screen = *program->screens.loaded(u"Form3"_s);
         const double before = screen.factor();
         for (const int digits : {10, 2}) {
             ScreenBench::find<QAction>(screen, u"MnuOpcCi2Lis(%1)"_s.arg(digits - 1)).trigger();
@@ -85,7 +75,7 @@ private slots:
             report << u"número %1: 100 errores. (33,3333333333333 %)"_s.arg(number);
         report << u"Errores por tiempo: 500."_s;
 
-        ui::Screen& owner = *screens->loaded(u"Form1"_s);
+        ui::Screen& owner = *program->screens.loaded(u"Form1"_s);
         BoxAnswerer boxes({u"Aceptar"_s, u"Sí"_s, u"Cancelar"_s});
         boxes.whileOpen = [&](QDialog& box) {
             const int aside = box.geometry().center().x() - owner.geometry().center().x();
@@ -121,8 +111,8 @@ private:
     ui::Screen& open()
     {
         QFETCH(QString, name);
-        screens->show(name);
-        return *screens->loaded(name);
+        program->screens.show(name);
+        return *program->screens.loaded(name);
     }
 
     static QRect placeIn(const QWidget& window, const QWidget& part)
@@ -141,10 +131,7 @@ private:
                            .arg(place.height())));
     }
 
-    core::SeededRandom random;
-    FakeClock clock;
-    QTemporaryDir folder;
-    std::unique_ptr<ui::Screens> screens;
+    std::unique_ptr<ProgramBench> program;
 };
 
 namespace {

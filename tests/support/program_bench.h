@@ -1,0 +1,28 @@
+#pragma once
+
+#include "activities.h"
+#include "core/random.h"
+#include "support/fake_clock.h"
+#include "ui/screens.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+/// The whole program, on a folder of its own with the problem bank and the pictures of cars.
+struct ProgramBench {
+    ProgramBench()
+        : screens(random, clock, folder.path())
+    {
+        const QDir source(QString::fromUtf8(PIZARRIN_RESOURCES));
+        for (const QString& name : source.entryList(QDir::Files)) {
+            if (!QFile::copy(source.filePath(name), folder.filePath(name)))
+                qFatal("%s cannot be copied", qPrintable(name));
+        }
+        addScreens(screens);
+    }
+
+    core::SeededRandom random;
+    FakeClock clock;
+    QTemporaryDir folder;
+    ui::Screens screens;
+};
