@@ -10,10 +10,6 @@ if [ -n "${CI:-}" ]; then
   cmake_options=(-DPIZARRIN_WERROR=ON)
 fi
 
-export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:strict_string_checks=1}
-export LSAN_OPTIONS=${LSAN_OPTIONS:-suppressions=$PWD/tests/leaks.txt:print_suppressions=0}
-export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
-
 run_tests() { # test preset
   quietly "probar $1" ctest --preset "$1" -j "$(nproc)"
   echo "Pruebas ($1):"
