@@ -1,8 +1,7 @@
+#include "support/display.h"
 #include "support/program_bench.h"
 #include "support/screen_bench.h"
 #include "support/text_fit.h"
-
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -100,11 +99,9 @@ private:
     static void addScreenRows(const QString& butFor = {})
     {
         QTest::addColumn<QString>("name");
-        for (const char* name : {"Form1", "Form2", "Form3", "Form4", "Form5", "Form6", "Form8",
-                 "FrmMultHuecos", "FrmMultidivi", "FRMCombi", "FormProblemas", "FrmCarrera",
-                 "Dialog", "DLGProblemas", "DLGSelProb", "DlgCarrera"}) {
-            if (QLatin1String(name) != butFor)
-                QTest::newRow(name) << QString::fromLatin1(name);
+        for (const QString& name : ScreenNames) {
+            if (name != butFor)
+                QTest::newRow(qPrintable(name)) << name;
         }
     }
 
@@ -134,36 +131,5 @@ private:
     std::unique_ptr<ProgramBench> program;
 };
 
-namespace {
-
-/// A description of one display, for the toolkit's offscreen platform.
-QByteArray displayOf(const QList<QByteArray>& size)
-{
-    return R"({"windowFrameMargins": false, "screens": [{"name": "display", "x": 0, "y": 0,
-        "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1, "width": )"
-        + size.value(0) + R"(, "height": )" + size.value(1) + "}]}";
-}
-
-} // namespace
-
-/// An argument is the size of an offscreen display: 1366x768.
-int main(int argc, char* argv[])
-{
-    QTemporaryFile description;
-    if (argc > 1) {
-        if (!description.open()
-            || description.write(displayOf(QByteArray(argv[1]).split('x'))) <= 0)
-            return 1;
-        description.close();
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toUtf8());
-    }
-    ui::prepareApplication();
-    QApplication application(argc, argv);
-    ui::dress();
-    if (argc > 1 && QGuiApplication::primaryScreen()->name() != u"display"_s)
-        return 1; // this platform takes no description
-    DisplayTest test;
-    return QTest::qExec(&test, {u"display_test"_s});
-}
-
+DISPLAY_TEST_MAIN(DisplayTest)
 #include "display_test.moc"

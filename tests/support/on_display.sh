@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs a command in real windows: on a display of its own with a window manager, and with the
-# desktop's accessibility services awake.
+# desktop's accessibility services awake. DISPLAY_SIZE is the size of the display: 1024x600.
 set -euo pipefail
 
 if [ "$1" != --on-bus ]; then
@@ -15,7 +15,7 @@ shift
 trap 'kill $(jobs -p) 2>/dev/null || true; wait' EXIT
 
 mkfifo "$XDG_RUNTIME_DIR/display"
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$XDG_RUNTIME_DIR/display" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 "${DISPLAY_SIZE:-1366x768}x24" -nolisten tcp 3>"$XDG_RUNTIME_DIR/display" 2>/dev/null &
 read -r number <"$XDG_RUNTIME_DIR/display"
 export DISPLAY=:$number
 

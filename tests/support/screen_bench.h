@@ -40,7 +40,8 @@ public:
     static void activate(QWidget& screen)
     {
         for (int tries = 0; tries < 20; ++tries) {
-            if (QTest::qWaitForWindowActive(&screen, 250)) {
+            // The application's word: the window's alone can be old.
+            if (QTest::qWaitFor([&] { return QApplication::activeWindow() == &screen; }, 250)) {
                 settle();
                 return;
             }
@@ -54,19 +55,16 @@ public:
 
     /// A control or menu item of the opened screen by its object name; ends the test program
     /// with the name when there is none of this kind.
-    template <typename T> T& control(const QString& name) const
-    {
-        return find<T>(*m_screen, name);
-    }
+    template <typename T> T& control(QStringView name) const { return find<T>(*m_screen, name); }
 
-    template <typename T> static T& find(const QObject& parent, const QString& name)
+    template <typename T> static T& find(const QObject& parent, QStringView name)
     {
         // A menu and its action share a name.
-        for (QObject* object : parent.findChildren<QObject*>(name)) {
+        for (QObject* object : parent.findChildren<QObject*>(name.toString())) {
             if (auto* found = dynamic_cast<T*>(object))
                 return *found;
         }
-        giveUp("no control", name);
+        giveUp("no control", name.toString());
     }
 
     void click(const QString& name) const

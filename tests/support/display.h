@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ui/application.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTemporaryFile>
+#include <QtTest>
+
+/// Every screen of the program, by name.
+inline const QStringList ScreenNames = QStringLiteral(
+    "Form1 Form2 Form3 Form4 Form5 Form6 Form8 FrmMultHuecos FrmMultidivi FRMCombi FormProblemas "
+    "FrmCarrera Dialog DLGProblemas DLGSelProb DlgCarrera")
+                                           .split(QLatin1Char(' '));
+
+/// A description of one display, for the toolkit's offscreen platform.
+inline QByteArray displayOf(const QList<QByteArray>& size)
+{
+    return R"({"windowFrameMargins": false, "screens": [{"name": "display", "x": 0, "y": 0,
+        "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1, "width": )"
+        + size.value(0) + R"(, "height": )" + size.value(1) + "}]}";
+}
+
+/// Runs a test on the display that there is, or, where the first argument is a size like
+/// 1366x768, on an offscreen one of that size.
+template <typename Test> int runOnDisplay(int argc, char* argv[])
+{
+    const bool sized = argc > 1 && QByteArray(argv[1]).contains('x') && argv[1][0] != '-';
+    QTemporaryFile description;
+    if (sized) {
+        if (!description.open()
+            || description.write(displayOf(QByteArray(argv[1]).split('x'))) <= 0)
+            return 1;
+        description.close();
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toUtf8());
+    }
+    ui::prepareApplication();
+    QApplication application(argc, argv);
+    ui::dress();
+    if (sized && QGuiApplication::primaryScreen()->name() != QStringLiteral("display"))
+        return 1; // this platform takes no description
+    QStringList arguments = QCoreApplication::arguments();
+    if (sized)
+        arguments.removeAt(1);
+    Test test;
+    return QTest::qExec(&test, arguments);
+}
+
+#define DISPLAY_TEST_MAIN(TestClass)                                                             \
+    int main(int argc, char* argv[])                                                             \
+    {                                                                                            \
+        return runOnDisplay<TestClass>(argc, argv);                                              \
+    }
