@@ -65,12 +65,9 @@ QList<QAction*> itemsOf(const QWidget& screen)
 QList<QMenu*> pathTo(const QAction& item)
 {
     QList<QMenu*> path;
-    const QObject* parent = item.parent();
-    while (auto* menu = qobject_cast<QMenu*>(const_cast<QObject*>(parent))) {
+    for (auto* menu = qobject_cast<QMenu*>(item.parent()); menu != nullptr;
+         menu = qobject_cast<QMenu*>(menu->parent()))
         path.prepend(menu);
-        parent =
-            menu->menuAction()->parent() == menu ? menu->parent() : menu->menuAction()->parent();
-    }
     return path;
 }
 
