@@ -122,6 +122,8 @@ private:
             ScreenBench::find<QPushButton>(*options, u"OKButton"_s).click();
         }
         ScreenBench::activate(*screen);
+        // Behind a dialog that has closed, the window can be active a moment before the focus.
+        QTRY_VERIFY((screen->activateWindow(), QApplication::focusWidget() != nullptr));
     }
 
     /// Those that a person can press as the screen comes up.

@@ -40,8 +40,7 @@ public:
     static void activate(QWidget& screen)
     {
         for (int tries = 0; tries < 20; ++tries) {
-            // The application's word: the window's alone can be old.
-            if (QTest::qWaitFor([&] { return QApplication::activeWindow() == &screen; }, 250)) {
+            if (QTest::qWaitForWindowActive(&screen, 250)) {
                 settle();
                 return;
             }
