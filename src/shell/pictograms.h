@@ -4,7 +4,7 @@
 
 namespace shell {
 
-/// The pictures of the main menu's buttons, in the buttons' order.
+/// The pictures of the main menu's buttons.
 enum class Pictogram {
     RepeatedSum,
     Tables,
