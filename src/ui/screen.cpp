@@ -166,6 +166,21 @@ void Screen::letEventsRun()
     QCoreApplication::processEvents();
 }
 
+namespace {
+
+Screen::Waiting::Observer& waitingObserver()
+{
+    static Screen::Waiting::Observer observer;
+    return observer;
+}
+
+} // namespace
+
+Screen::Waiting::Observer Screen::Waiting::exchangeObserver(Observer observer)
+{
+    return std::exchange(waitingObserver(), std::move(observer));
+}
+
 Screen::Waiting::Waiting(Screen& screen, QDialog* box)
     : m_screen(screen)
     , m_exceptions(std::uncaught_exceptions())
@@ -173,6 +188,8 @@ Screen::Waiting::Waiting(Screen& screen, QDialog* box)
     m_outer = std::exchange(m_screen.m_box, box);
     ++m_screen.m_waiting;
     ++m_screen.m_runningHandlers; // the screen must outlive the box whoever opened it
+    if (box != nullptr && waitingObserver())
+        waitingObserver()(*box);
 }
 
 Screen::Waiting::~Waiting() noexcept(false)

@@ -62,6 +62,12 @@ public:
     /// screen is gone.
     class Waiting {
     public:
+        using Observer = std::function<void(QDialog& box)>;
+
+        /// From now on the observer is told of every box that is waited for, before the box
+        /// comes up. Gives back the one before; an empty one is told nothing.
+        static Observer exchangeObserver(Observer observer);
+
         Waiting(Screen& screen, QDialog* box);
         ~Waiting() noexcept(false);
         Waiting(const Waiting&) = delete;

@@ -17,38 +17,33 @@ enum class Hand { Mouse, Keyboard };
 
 /// Answers every box with its button of this index, or its last, and keeps what was wrong
 /// with the boxes.
-class Answerer : public QObject {
+class Answerer {
 public:
     explicit Answerer(int choice)
         : m_choice(choice)
     {
-        connect(&m_poll, &QTimer::timeout, this, &Answerer::look);
-        m_poll.start(1);
     }
 
     QStringList faults;
     int mostButtons = 0; ///< of all boxes that came up
 
 private:
-    void look()
+    void answer(QDialog& box)
     {
-        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible() || !box->windowHandle()->isExposed())
-            return;
-        const auto buttons = box->findChildren<QPushButton*>();
+        const auto buttons = box.findChildren<QPushButton*>();
         for (const QPushButton* button : buttons)
             if (!QStringList{u"Aceptar"_s, u"Cancelar"_s, u"Sí"_s, u"No"_s}.contains(
                     button->text()))
                 faults << u"a button reads "_s + button->text();
-        if (!QGuiApplication::primaryScreen()->geometry().contains(box->frameGeometry()))
+        if (!QGuiApplication::primaryScreen()->geometry().contains(box.frameGeometry()))
             faults << u"a box leaves the display"_s;
         mostButtons = std::max(mostButtons, static_cast<int>(buttons.size()));
         QTest::mouseClick(
             buttons.at(std::min<qsizetype>(m_choice, buttons.size() - 1)), Qt::LeftButton);
     }
 
-    QTimer m_poll;
     int m_choice;
+    BoxWatcher m_watcher{[this](QDialog& box) { answer(box); }};
 };
 
 /// The leaves of a screen's menus.
