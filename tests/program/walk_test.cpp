@@ -199,14 +199,23 @@ private:
     {
         auto* bar = screen->findChild<QMenuBar*>();
         QAction* onBar = path.isEmpty() ? &item : path.first()->menuAction();
-        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(onBar).center());
+        clickOn(*bar, bar->actionGeometry(onBar).center());
         for (qsizetype i = 0; i < path.size(); ++i) {
             QTRY_VERIFY(path.at(i)->isVisible());
             verifyMenu(*path.at(i));
             QAction* next = i + 1 < path.size() ? path.at(i + 1)->menuAction() : &item;
-            QTest::mouseClick(
-                path.at(i), Qt::LeftButton, {}, path.at(i)->actionGeometry(next).center());
+            clickOn(*path.at(i), path.at(i)->actionGeometry(next).center());
         }
+    }
+
+    /// Clicks by way of the window, which tells the toolkit where the pointer is: from 6.8 on,
+    /// a menu closes when it is pressed without the pointer having moved since it came up.
+    static void clickOn(QWidget& widget, QPoint place)
+    {
+        QWindow* window = widget.window()->windowHandle();
+        place = widget.mapTo(widget.window(), place);
+        QTest::mouseMove(window, place);
+        QTest::mouseClick(window, Qt::LeftButton, {}, place);
     }
 
     void pickByKeys(QAction& item, const QList<QMenu*>& path)
