@@ -20,6 +20,9 @@ public:
     {
         ++m_guard.m_waiting;
         ++m_guard.m_running; // the window must outlive the box whoever opened it
+        QEvent waiting(waitingEvent());
+        if (box != nullptr)
+            QCoreApplication::sendEvent(box, &waiting);
     }
     ~Waiting()
     {
@@ -38,6 +41,12 @@ private:
 HandlerGuard::HandlerGuard(QWidget& window)
     : m_window(window)
 {
+}
+
+QEvent::Type HandlerGuard::waitingEvent()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
 }
 
 void HandlerGuard::guarded(const std::function<void()>& body)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QPointer>
 
 #include <functional>
@@ -24,6 +25,10 @@ public:
     HandlerGuard& operator=(const HandlerGuard&) = delete;
 
     QWidget& guardedWindow() const { return m_window; }
+
+    /// The type of the event that a box is sent when a handler begins to wait for it, before it
+    /// comes up. The program itself has no use for it: whoever drives the program has.
+    static QEvent::Type waitingEvent();
 
     /// Runs a handler; does nothing when the guard is shut or while another handler waits.
     void guarded(const std::function<void()>& body);
