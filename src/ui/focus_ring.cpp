@@ -1,7 +1,6 @@
 #include "ui/focus_ring.h"
 
 #include "ui/look.h"
-#include "ui/screen.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -14,11 +13,6 @@ namespace ui {
 namespace {
 
 constexpr double Radius = 8; // pixels at factor 1
-
-int ringWidth(const QWidget* widget)
-{
-    return static_cast<int>(std::ceil(look::RingWidth * Screen::factorOf(widget)));
-}
 
 } // namespace
 
@@ -50,11 +44,16 @@ void FocusRing::surround()
         hide();
         return;
     }
-    const int width = ringWidth(this);
+    const int width = ringWidth();
     const QPoint origin = m_focused->mapTo(parentWidget(), QPoint(0, 0));
     setGeometry(QRect(origin, m_focused->size()).adjusted(-width, -width, width, width));
     raise();
     show();
+}
+
+int FocusRing::ringWidth() const
+{
+    return static_cast<int>(std::ceil(look::RingWidth * factor()));
 }
 
 bool FocusRing::eventFilter(QObject* watched, QEvent* event)
@@ -75,12 +74,12 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event)
 
 void FocusRing::paintEvent(QPaintEvent*)
 {
-    const double width = look::RingWidth * Screen::factorOf(this);
+    const double width = look::RingWidth * factor();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(parentWidget()->palette().color(QPalette::Highlight), width));
     const double inset = width / 2;
-    const double radius = Radius * Screen::factorOf(this);
+    const double radius = Radius * factor();
     painter.drawRoundedRect(
         QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
 }

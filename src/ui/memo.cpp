@@ -22,6 +22,7 @@ Memo::Memo(Kind kind, QWidget* parent)
 
 void Memo::setFactor(double factor)
 {
+    Scalable::setFactor(factor);
     const bool entry = m_kind == Kind::Entry;
     const int corner = entry ? qRound(look::CornerMargin * factor) : 0;
     setViewportMargins(corner, corner, corner, corner);

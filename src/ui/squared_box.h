@@ -45,7 +45,6 @@ private:
     QRect caret() const;
 
     QColor m_highlight;
-    double m_factor = 1;
     double m_width = 250;
     double m_height = 250;
     double m_top = 250;

@@ -39,21 +39,15 @@ void SquaredPaper::setSquare(const TwipRect& square)
     update();
 }
 
-void SquaredPaper::setFactor(double factor)
-{
-    m_factor = factor;
-    update();
-}
-
 void SquaredPaper::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const int pen = std::max(1, static_cast<int>(m_factor));
+    const int pen = std::max(1, static_cast<int>(factor()));
     const QColor grid(look::Grid);
     painter.fillRect(rect(), QColor(look::Card));
-    forEachLine(m_square.left, m_square.width, m_factor, x(), x() + width(),
+    forEachLine(m_square.left, m_square.width, factor(), x(), x() + width(),
         [&](int at) { painter.fillRect(at - pen / 2, 0, pen, height(), grid); });
-    forEachLine(m_square.top, m_square.height, m_factor, y(), y() + height(),
+    forEachLine(m_square.top, m_square.height, factor(), y(), y() + height(),
         [&](int at) { painter.fillRect(0, at - pen / 2, width(), pen, grid); });
     painter.setPen(QPen(QColor(look::Line), pen));
     painter.drawRect(QRectF(rect()).adjusted(pen / 2.0, pen / 2.0, -pen / 2.0, -pen / 2.0));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/placement.h"
+#include "ui/scaling.h"
 
 #include <QWidget>
 
@@ -15,14 +15,11 @@ public:
     /// One of the squares, in twips on the parent; all others line up with it.
     void setSquare(const TwipRect& square);
 
-    void setFactor(double factor) override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     TwipRect m_square{0, 0, 250, 250};
-    double m_factor = 1;
 };
 
 } // namespace ui

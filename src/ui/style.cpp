@@ -4,8 +4,9 @@
 #include "ui/faces.h"
 #include "ui/indicators.h"
 #include "ui/look.h"
-#include "ui/screen.h"
+#include "ui/scaling.h"
 
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -28,10 +29,11 @@ constexpr int LayoutMargin = 16; // in boxes, and 8 between what stands in them
 constexpr int LayoutSpacing = 8;
 constexpr int CheckColumn = 24; // of a menu, left of its captions
 
-/// Whether the ring of a screen shows the focus of a control; in a box each shows its own.
-bool standsOnScreen(const QWidget* widget)
+/// Whether a control shows its focus by itself, as in a box; the ring of a screen shows that of
+/// every other one.
+bool standsInBox(const QWidget* widget)
 {
-    return widget != nullptr && widget->window() == Screen::of(widget);
+    return widget == nullptr || qobject_cast<const QDialog*>(widget->window()) != nullptr;
 }
 
 void drawEntry(
@@ -40,7 +42,7 @@ void drawEntry(
     const auto* entry = qobject_cast<const QLineEdit*>(widget);
     if (entry != nullptr && !entry->hasFrame())
         return;
-    if (standsOnScreen(widget) || !(option.state & QStyle::State_HasFocus))
+    if (!standsInBox(widget) || !(option.state & QStyle::State_HasFocus))
         drawBox(painter, option, factor);
     else
         drawFocusedBox(painter, option, factor);
@@ -58,13 +60,13 @@ void Style::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     // A context menu and a tool tip are windows: they inherit no font from their text box.
     if (qobject_cast<QMenu*>(widget) != nullptr || widget->inherits("QTipLabel"))
-        widget->setFont(look::scaled(look::Instruction, Screen::factorOf(widget)));
+        widget->setFont(look::scaled(look::Instruction, factorOf(widget)));
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
     const QWidget* widget) const
 {
-    const double factor = Screen::factorOf(widget);
+    const double factor = factorOf(widget);
     switch (element) {
     case PE_PanelLineEdit:
         drawEntry(*painter, *option, widget, factor);
@@ -85,7 +87,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         drawSubmenuArrow(*painter, *option, factor);
         return;
     case PE_FrameFocusRect:
-        if (standsOnScreen(widget))
+        if (!standsInBox(widget))
             return; // the screen's ring shows the focus
         break;
     default:
@@ -97,9 +99,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
     const QWidget* widget) const
 {
-    const double factor = Screen::factorOf(widget);
+    const double factor = factorOf(widget);
     if (element == CE_PushButtonBevel) {
-        drawButton(*painter, *option, factor, !standsOnScreen(widget));
+        drawButton(*painter, *option, factor, standsInBox(widget));
         return;
     }
     if (element == CE_MenuBarItem) {
@@ -134,10 +136,10 @@ int Style::pixelMetric(
     case PM_LayoutTopMargin:
     case PM_LayoutRightMargin:
     case PM_LayoutBottomMargin:
-        return qRound(LayoutMargin * Screen::factorOf(widget));
+        return qRound(LayoutMargin * factorOf(widget));
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
-        return qRound(LayoutSpacing * Screen::factorOf(widget));
+        return qRound(LayoutSpacing * factorOf(widget));
     case PM_MessageBoxIconSize:
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
@@ -149,7 +151,7 @@ int Style::pixelMetric(
     case PM_ScrollBarSliderMin:
     case PM_TextCursorWidth:
     case PM_MenuButtonIndicator:
-        return qRound(plain * Screen::factorOf(widget));
+        return qRound(plain * factorOf(widget));
     default:
         return plain;
     }
@@ -173,7 +175,7 @@ QSize Style::sizeFromContents(
     ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const
 {
     const QSize plain = QProxyStyle::sizeFromContents(type, option, size, widget);
-    const double factor = Screen::factorOf(widget);
+    const double factor = factorOf(widget);
     switch (type) {
     case CT_PushButton:
         return plain.expandedTo(SmallestButton * factor);

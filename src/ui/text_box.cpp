@@ -2,7 +2,6 @@
 
 #include "ui/announcement.h"
 #include "ui/look.h"
-#include "ui/screen.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
@@ -51,7 +50,7 @@ TextBox::TextBox(Kind kind, QWidget* parent)
 
 void TextBox::setFactor(double factor)
 {
-    m_factor = factor;
+    Scalable::setFactor(factor);
     const double inner = m_kind == Kind::Entry ? look::BoxMargin : 0;
     setTextMargins(
         qRound((inner + m_extraLeft) * factor), 0, qRound((inner + m_extraRight) * factor), 0);
@@ -61,7 +60,7 @@ void TextBox::setExtraMargins(double left, double right)
 {
     m_extraLeft = left;
     m_extraRight = right;
-    setFactor(m_factor);
+    setFactor(factor());
 }
 
 void TextBox::showSelected()
@@ -165,13 +164,12 @@ void VerdictBox::paintEvent(QPaintEvent* event)
     TextBox::paintEvent(event);
     if (m_mark == Mark::None || text().isEmpty())
         return;
-    const double factor = Screen::factorOf(this);
-    const double size = std::min(m_markSize * factor, height() - 2.0);
+    const double size = std::min(m_markSize * factor(), height() - 2.0);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor colour(m_mark == Mark::Right ? look::Right : look::Wrong);
     painter.setPen(QPen(colour, size * 0.18, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QRectF square(2 * factor, (height() - size) / 2, size, size);
+    const QRectF square(2 * factor(), (height() - size) / 2, size, size);
     if (m_mark == Mark::Right)
         drawTick(painter, square);
     else

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/placement.h"
+#include "ui/scaling.h"
 
 #include <QLineEdit>
 
@@ -37,7 +37,6 @@ protected:
 
 private:
     Kind m_kind;
-    double m_factor = 1;
     double m_extraLeft = 0;
     double m_extraRight = 0;
 };
