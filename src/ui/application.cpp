@@ -1,5 +1,6 @@
 #include "ui/application.h"
 
+#include "ui/held_keys.h"
 #include "ui/look.h"
 #include "ui/style.h"
 
@@ -22,6 +23,7 @@ void dress()
     QApplication::setPalette(look::palette());
     QApplication::setFont(look::scaled(look::Instruction, 1));
     QApplication::setQuitOnLastWindowClosed(false);
+    new HeldKeys(qApp);
 }
 
 void installToolkitTexts()
