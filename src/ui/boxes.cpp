@@ -2,6 +2,7 @@
 
 #include "ui/application.h"
 #include "ui/look.h"
+#include "ui/reading_pause.h"
 #include "ui/screen.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -112,6 +114,9 @@ QWidget* parentOf(Screen& owner)
 /// that is unloaded behind it.
 void run(Screen& owner, const QPointer<QDialog>& box)
 {
+    std::optional<ReadingPause> pause;
+    if (owner.isInTick())
+        pause.emplace(*box, owner.clock());
     const Screen::Waiting waiting(owner, box);
     box->exec();
     if (box)

@@ -51,6 +51,11 @@ double Screen::factorOf(const QWidget* widget)
     return screen != nullptr ? screen->factor() : 1;
 }
 
+const core::Clock& Screen::clock() const
+{
+    return m_screens.clock();
+}
+
 // --- life
 
 void Screen::unload()

@@ -17,10 +17,15 @@
 #include <concepts>
 #include <functional>
 #include <unordered_map>
+#include <utility>
 
 class QDialog;
 class QMenu;
 class QMenuBar;
+
+namespace core {
+class Clock;
+}
 
 namespace ui {
 
@@ -44,6 +49,9 @@ public:
     static double factorOf(const QWidget* widget);
 
     bool isUnloaded() const { return m_unloaded; }
+    /// Whether the handler that runs was started by a timer and not by the pupil.
+    bool isInTick() const { return m_inTick; }
+    const core::Clock& clock() const;
 
     /// Closes the screen and drops its state.
     void unload();
@@ -152,14 +160,15 @@ protected:
     void on(Sender* sender, Signal signal, void (Derived::*handler)(Args...))
     {
         auto* self = static_cast<Derived*>(this);
-        connect(sender, signal, this,
-            [self, handler](Args... args) { self->guarded([&] { (self->*handler)(args...); }); });
+        connect(sender, signal, this, [self, handler](Args... args) {
+            self->template handle<Sender>([&] { (self->*handler)(args...); });
+        });
     }
     template <typename Sender, typename Signal, std::invocable Handler>
     void on(Sender* sender, Signal signal, Handler handler)
     {
         connect(sender, signal, this,
-            [this, handler = std::move(handler)] { guarded([&] { handler(); }); });
+            [this, handler = std::move(handler)] { handle<Sender>([&] { handler(); }); });
     }
     /// For an element of a control array: the handler receives the index.
     template <typename Sender, typename Signal, typename Derived>
@@ -200,6 +209,12 @@ private:
         QWidget* control, const QString& name, const TwipRect& place, const look::Font& font);
     void applyPlace(QWidget* control, const Control& entry) const;
     KeyFilter* keyFilter(QWidget* control);
+    template <typename Sender> void handle(const std::function<void()>& body)
+    {
+        const bool outer = std::exchange(m_inTick, std::derived_from<Sender, QTimer>);
+        guarded(body);
+        m_inTick = outer;
+    }
     KeyResult guardedKey(const std::function<KeyResult()>& body);
     void run(const std::function<void()>& body);
     void leave();
@@ -232,6 +247,7 @@ private:
     bool m_reporting = false;
     bool m_unloaded = false;
     bool m_activated = false;
+    bool m_inTick = false;
     bool m_loading = false; ///< Form_Load is running
 };
 
