@@ -1,5 +1,6 @@
 #include "ui/application.h"
 
+#include "ui/blocked_windows.h"
 #include "ui/held_keys.h"
 #include "ui/look.h"
 #include "ui/style.h"
@@ -24,6 +25,7 @@ void dress()
     QApplication::setFont(look::scaled(look::Instruction, 1));
     QApplication::setQuitOnLastWindowClosed(false);
     new HeldKeys(qApp);
+    new BlockedWindows(qApp);
 }
 
 void installToolkitTexts()
