@@ -8,12 +8,15 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
     ui::prepareApplication();
-    QApplication application(argc, argv);
+    int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
+    QApplication application(nameAlone, argv);
     ui::dress();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
     QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));

@@ -53,6 +53,7 @@ void FrmCarrera::makeTrack()
     Picture1 = add(new RaceTrack(canvas()), u"Picture1"_s,
         {Margin, TrackTop, RaceTrack::Width, RaceTrack::Height});
     Picture1->setAccessibleName(u"Pista"_s);
+    Picture1->setFocusPolicy(Qt::ClickFocus); // for the end of a race
     const std::array<QString, 2> names{u"Tu coche"_s, u"El coche de tu rival"_s};
     for (std::size_t i = 0; i < Image1.size(); ++i) {
         Image1[i] = add(new QLabel(Picture1), u"Image1(%1)"_s.arg(i), {Race::StartLine, 0, 0, 0});

@@ -38,8 +38,9 @@ private:
     QPointer<QDialog> m_outer; ///< the box that another handler waits for
 };
 
-HandlerGuard::HandlerGuard(QWidget& window)
+HandlerGuard::HandlerGuard(QWidget& window, const core::Clock& clock)
     : m_window(window)
+    , m_clock(clock)
 {
 }
 
@@ -53,6 +54,13 @@ void HandlerGuard::guarded(const std::function<void()>& body)
 {
     if (!m_shut && m_waiting == 0)
         run(body);
+}
+
+void HandlerGuard::guardedTick(const std::function<void()>& body)
+{
+    const bool outer = std::exchange(m_inTick, true);
+    guarded(body);
+    m_inTick = outer;
 }
 
 void HandlerGuard::run(const std::function<void()>& body)

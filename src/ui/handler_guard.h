@@ -8,6 +8,10 @@
 class QDialog;
 class QWidget;
 
+namespace core {
+class Clock;
+}
+
 namespace ui {
 
 /// Thrown through a handler whose window was closed for good while it waited; never shown.
@@ -18,13 +22,14 @@ class ScreenUnloaded { };
 /// other one starts; once the guard is shut, none does.
 class HandlerGuard {
 public:
-    /// The boxes that handlers wait for stand over this window.
-    explicit HandlerGuard(QWidget& window);
+    /// The boxes that handlers wait for stand over this window. clock must outlive the guard.
+    HandlerGuard(QWidget& window, const core::Clock& clock);
     virtual ~HandlerGuard() = default;
     HandlerGuard(const HandlerGuard&) = delete;
     HandlerGuard& operator=(const HandlerGuard&) = delete;
 
     QWidget& guardedWindow() const { return m_window; }
+    const core::Clock& clock() const { return m_clock; }
 
     /// The type of the event that a box is sent when a handler begins to wait for it, before it
     /// comes up. The program itself has no use for it: whoever drives the program has.
@@ -32,6 +37,10 @@ public:
 
     /// Runs a handler; does nothing when the guard is shut or while another handler waits.
     void guarded(const std::function<void()>& body);
+    /// The same for a handler that a timer starts and not the pupil.
+    void guardedTick(const std::function<void()>& body);
+    /// Whether the handler that runs was started by a timer.
+    bool isInTick() const { return m_inTick; }
 
     /// Lets the handler that calls wait until waitFor returns. box, where it waits for one, is
     /// closed when the guard is shut meanwhile; then ScreenUnloaded is thrown.
@@ -63,11 +72,13 @@ private:
     void tell(const QString& text);
 
     QWidget& m_window;
+    const core::Clock& m_clock;
     QPointer<QDialog> m_box; ///< the box that a handler waits for
     int m_running = 0;
     int m_waiting = 0;
     bool m_reporting = false;
     bool m_shut = false;
+    bool m_inTick = false;
 };
 
 } // namespace ui

@@ -65,14 +65,15 @@ protected:
     void on(Sender* sender, Signal signal, void (Derived::*handler)(Args...))
     {
         auto* self = static_cast<Derived*>(this);
-        connect(sender, signal, this,
-            [self, handler](Args... args) { self->guarded([&] { (self->*handler)(args...); }); });
+        connect(sender, signal, this, [self, handler](Args... args) {
+            self->template handle<Sender>([&] { (self->*handler)(args...); });
+        });
     }
     template <typename Sender, typename Signal, std::invocable Handler>
     void on(Sender* sender, Signal signal, Handler handler)
     {
         connect(sender, signal, this,
-            [this, handler = std::move(handler)] { guarded([&] { handler(); }); });
+            [this, handler = std::move(handler)] { handle<Sender>([&] { handler(); }); });
     }
     /// For an element of a control array: the handler receives the index.
     template <typename Sender, typename Signal, typename Derived>
@@ -98,6 +99,13 @@ private:
     bool finishHandlers() override;
     void handlersEnded() override;
 
+    template <typename Sender> void handle(const std::function<void()>& body)
+    {
+        if constexpr (std::derived_from<Sender, QTimer>)
+            guardedTick(body);
+        else
+            guarded(body);
+    }
     void leave();
     bool tellClosed();
 
