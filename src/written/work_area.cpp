@@ -169,6 +169,13 @@ int WorkArea::positionAt(const QPoint& point) const
     return std::min((row + m_firstRow) * m_grid.columns() + column, m_grid.size());
 }
 
+void WorkArea::writeNear(const QPoint& point)
+{
+    const QPoint below(point.x(), std::max(point.y(), cellRect(m_grid.columns()).top()));
+    setFocus(Qt::MouseFocusReason);
+    setCursorPosition(positionAt(below));
+}
+
 int WorkArea::rowCount() const
 {
     return m_grid.size() / m_grid.columns() + 1; // the caret may stand behind the last character

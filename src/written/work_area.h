@@ -50,6 +50,10 @@ public:
     void copy() const;
     void paste();
 
+    /// Takes the focus, and the caret to the cell nearest to a point, of this control or beside
+    /// it, that can be written over.
+    void writeNear(const QPoint& point);
+
     /// The cell of a character, in pixels of this control.
     QRect cellRect(int position) const;
     /// The character whose cell lies at a point, or the nearest one.
