@@ -119,6 +119,11 @@ void replaceFile(const QString& name, const QByteArray& bytes)
 
 } // namespace
 
+QStringList readBankFile(const QString& path)
+{
+    return splitLines(readBytes(path));
+}
+
 std::optional<Bank> LeerBanco(const QString& folder, MissingBank missing)
 {
     core::FolderScope scope(folder);
@@ -127,7 +132,7 @@ std::optional<Bank> LeerBanco(const QString& folder, MissingBank missing)
             scope.stay();
         return std::nullopt;
     }
-    Bank bank{splitLines(readBytes(BankFile)), {}};
+    Bank bank{readBankFile(BankFile), {}};
     bank.used.resize(static_cast<std::size_t>(bank.lines.size()), false);
     return bank;
 }
