@@ -14,9 +14,9 @@ enum class Icon { None, Information, Exclamation, Critical };
 /// never goes on behind a box on a screen that is gone.
 class MessageBox {
 public:
-    /// Shows a text, exactly as given, with "Aceptar".
+    /// Shows a text, exactly as given, with "Aceptar"; below it notes on the text.
     static void show(HandlerGuard& owner, const QString& text,
-        const QString& title = programTitle(), Icon icon = Icon::None);
+        const QString& title = programTitle(), Icon icon = Icon::None, const QString& notes = {});
 
     /// Asks with "Sí" and "No"; true for "Sí". There is no way out but an answer.
     static bool ask(
