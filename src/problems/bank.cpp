@@ -88,7 +88,7 @@ QString reasonNotWritten(const QSaveFile& file)
         return u"No hay permiso para escribir en esa carpeta."_s;
     if (QFileInfo(file.fileName()).exists() && !QFileInfo(file.fileName()).isWritable())
         return u"El archivo está protegido contra escritura."_s;
-    return u"El sistema dice: %1."_s.arg(file.errorString());
+    return u"El sistema no ha dejado escribir en esa carpeta. Pruebe a guardar otra vez."_s;
 }
 
 bool writeAll(QSaveFile& file, QByteArrayView bytes)

@@ -83,7 +83,7 @@ void FormProblemas::makeBoxes()
         {4620, AnswerTop, Width - Margin - 4620, AnswerHeight}, StatementFont);
     LBUnidad->setWordWrap(true);
 
-    TBCorrecto = verdictBox(u"TBCorrecto"_s, {1680, 4860, 4500, 420}, u"Resultado"_s);
+    TBCorrecto = verdictBox(u"TBCorrecto"_s, {1680, 4860, 4500, 420}, u"Comprobación"_s);
 }
 
 void FormProblemas::Form_Load()
