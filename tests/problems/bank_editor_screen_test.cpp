@@ -189,6 +189,17 @@ private slots:
         }
     }
 
+    void oneAccessKeyLeadsToTheAnswerAndTwoCommands()
+    {
+        open();
+        QSet<QString> reached;
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClick(screen, Qt::Key_R, Qt::AltModifier);
+            reached << bench->focusName();
+        }
+        QCOMPARE(reached, (QSet<QString>{u"Command2"_s, u"Command4"_s, u"Text2"_s}));
+    }
+
     void aMissingBankIsAnEmptyOne()
     {
         open(QByteArray());

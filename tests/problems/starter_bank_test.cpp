@@ -17,6 +17,8 @@ using problems::Problem;
 
 namespace {
 
+constexpr int Rounds = 300;
+
 struct Set {
     QString operations;
     int least; ///< problems with just these operations
@@ -102,23 +104,13 @@ private slots:
         }
     }
 
-    void theCheckerFindsNothing()
-    {
-        core::SeededRandom random;
-        random.seed(20'260);
-        for (const QString& line : lines) {
-            const auto faults = problems::checkLine(line, random, evaluator);
-            QVERIFY2(faults.empty(), qPrintable(line + u'\n' + faultsText(faults)));
-        }
-    }
-
     void answersVaryAndAreOfFourFiguresAtMost()
     {
         core::SeededRandom random;
         random.seed(20'261);
         for (const QString& line : lines) {
             QSet<int> answers;
-            for (int round = 0; round < problems::DrawsPerLine; ++round) {
+            for (int round = 0; round < Rounds; ++round) {
                 const Problem problem = problems::InstanciarProblema(line, random, evaluator);
                 answers.insert(problem.answer);
                 QVERIFY2(problem.answer > 0 && problem.answer < 10'000, qPrintable(line));
@@ -135,12 +127,81 @@ private slots:
                 qPrintable(line));
     }
 
+    void theManualTellsHowManyItHas()
+    {
+        static const QRegularExpression number(u"El programa trae ([0-9]+) problemas"_s);
+        QCOMPARE(number.match(text(PIZARRIN_MANUAL)).captured(1).toInt(), lines.size());
+    }
+
+    void thePageForTheClassroomTellsWhereTheyAre()
+    {
+        static const QRegularExpression row(
+            u"<tr><th>([^<]*)</th>((?:<td>[^<]*</td>){4})<td>([0-9]+)</td></tr>"_s);
+        static const QRegularExpression cell(u"<td>([0-9]+) \\(([0-9]+)(?:–([0-9]+))?\\)</td>"_s);
+        qsizetype next = 0;
+        for (const auto& match : row.globalMatch(text(PIZARRIN_CLASSROOM_PAGE))) {
+            QString operations = match.captured(1);
+            if (!operations.contains(u' ') && operations.size() > 1)
+                continue; // the last row adds up
+            operations.remove(u' ').replace(u'×', u'*').replace(u'÷', u'/').replace(u'−', u'-');
+            const qsizetype before = next;
+            for (const auto& range : cell.globalMatch(match.captured(2))) {
+                const int first = range.captured(2).toInt();
+                const int last = range.captured(3).isEmpty() ? first : range.captured(3).toInt();
+                QCOMPARE(first, next + 1);
+                QCOMPARE(range.captured(1).toInt(), last - first + 1);
+                for (; next < last; ++next)
+                    QCOMPARE(problems::CampoOperaciones(lines.at(next)), operations);
+            }
+            QCOMPARE(match.captured(3).toInt(), next - before);
+        }
+        QCOMPARE(next, lines.size());
+    }
+
+    void gradesHaveLikeShares()
+    {
+        static const QRegularExpression total(
+            u"<tr><th>en total</th>((?:<td>[0-9]+</td>){4})<td>([0-9]+)</td></tr>"_s);
+        static const QRegularExpression number(u"[0-9]+"_s);
+        const auto match = total.match(text(PIZARRIN_CLASSROOM_PAGE));
+        QCOMPARE(match.captured(2).toInt(), lines.size());
+        int sum = 0;
+        for (const auto& grade : number.globalMatch(match.captured(1))) {
+            const int count = grade.captured().toInt();
+            QVERIFY2(5 * count >= lines.size() && 10 * count <= 3 * lines.size(),
+                qPrintable(grade.captured())); // 20 % to 30 %
+            sum += count;
+        }
+        QCOMPARE(sum, lines.size());
+    }
+
+    void theManualTellsWhatTheEditorProposes()
+    {
+        static const QRegularExpression example(
+            u"`([^`\n]*(?:\\|[^`\n]*){3})`(?:(?!`[^`]*\\|).)*?"
+            "El programa (no )?propone ([^.]*)\\."_s,
+            QRegularExpression::DotMatchesEverythingOption);
+        const std::array names{u"«Mult»"_s, u"«Div»"_s, u"«Sum»"_s, u"«Rest»"_s};
+        int examples = 0;
+        for (const auto& match : example.globalMatch(text(PIZARRIN_MANUAL))) {
+            ++examples;
+            problems::TemplateFields fields = problems::splitLine(match.captured(1));
+            fields.operations = {};
+            problems::markFromStatement(fields);
+            problems::markFromAnswer(fields);
+            for (std::size_t k = 0; k < names.size(); ++k)
+                QVERIFY2(fields.operations[k] == match.captured(3).contains(names[k]),
+                    qPrintable(match.captured()));
+        }
+        QCOMPARE(examples, 4);
+    }
+
     void theCheckerFindsNothingInTheExamplesOfTheManual()
     {
         static const QRegularExpression example(u"`([^`\n]*(?:\\|[^`\n]*){3})`"_s);
         core::SeededRandom random;
         int examples = 0;
-        for (const auto& match : example.globalMatch(manual())) {
+        for (const auto& match : example.globalMatch(text(PIZARRIN_MANUAL))) {
             ++examples;
             const QString line = match.captured(1);
             const auto faults = problems::checkLine(line, random, evaluator);
@@ -157,7 +218,7 @@ private slots:
             u"`([^`\n]*(?:\\|[^`\n]*){3})`\\s+Con ([0-9, y]+): «([^»]*)»\\s+"
             "Respuesta:[^.\n]*?([0-9]+)\\."_s);
         int examples = 0;
-        for (const auto& match : example.globalMatch(manual())) {
+        for (const auto& match : example.globalMatch(text(PIZARRIN_MANUAL))) {
             ++examples;
             ScriptedRandom random = drawing(match.captured(2), match.captured(1));
             const Problem problem =
@@ -170,9 +231,9 @@ private slots:
     }
 
 private:
-    static QString manual()
+    static QString text(const char* path)
     {
-        QFile file(QString::fromUtf8(PIZARRIN_MANUAL));
+        QFile file(QString::fromUtf8(path));
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 
