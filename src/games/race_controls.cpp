@@ -72,7 +72,7 @@ void FrmCarrera::makeBoxes()
     TBResultado =
         entryBox(u"TBResultado"_s, {6450, 1020, 1740, 900}, OperationFont, u"Respuesta"_s);
     onKeyPress(TBResultado, [this](QChar character) { return TBResultado_KeyPress(character); });
-    Text4 = verdictBox(u"Text4"_s, {8430, 1140, 2400, 660}, u"Resultado"_s);
+    Text4 = verdictBox(u"Text4"_s, {8430, 1140, 2400, 660}, u"Comprobación"_s);
     m_time = displayBox(u"raceTime"_s, {8430, 300, 2400, 360}, TimeFont, u"Tiempo"_s);
     showTime();
 

@@ -88,7 +88,7 @@ QString reasonNotWritten(const QSaveFile& file)
         return u"No hay permiso para escribir en esa carpeta."_s;
     if (QFileInfo(file.fileName()).exists() && !QFileInfo(file.fileName()).isWritable())
         return u"El archivo está protegido contra escritura."_s;
-    return u"El sistema dice: %1."_s.arg(file.errorString());
+    return u"El sistema no ha dejado escribir en esa carpeta. Pruebe a guardar otra vez."_s;
 }
 
 bool writeAll(QSaveFile& file, QByteArrayView bytes)
@@ -119,6 +119,11 @@ void replaceFile(const QString& name, const QByteArray& bytes)
 
 } // namespace
 
+QStringList readBankFile(const QString& path)
+{
+    return splitLines(readBytes(path));
+}
+
 std::optional<Bank> LeerBanco(const QString& folder, MissingBank missing)
 {
     core::FolderScope scope(folder);
@@ -127,7 +132,7 @@ std::optional<Bank> LeerBanco(const QString& folder, MissingBank missing)
             scope.stay();
         return std::nullopt;
     }
-    Bank bank{splitLines(readBytes(BankFile)), {}};
+    Bank bank{readBankFile(BankFile), {}};
     bank.used.resize(static_cast<std::size_t>(bank.lines.size()), false);
     return bank;
 }

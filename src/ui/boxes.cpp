@@ -170,9 +170,11 @@ QString MessageBox::programTitle()
     return u"Pizarrin"_s;
 }
 
-void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon)
+void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon,
+    const QString& notes)
 {
     const QPointer<Box> box = makeBox(owner, text, title, false);
+    box->setInformativeText(notes);
     box->setIcon(toQtIcon(icon));
     box->setDefaultButton(addButton(*box, u"Aceptar"_s, QMessageBox::AcceptRole));
     run(owner, box.data());

@@ -15,9 +15,9 @@ enum class Icon { None, Information, Exclamation, Critical };
 /// key and no click for its first moment.
 class MessageBox {
 public:
-    /// Shows a text, exactly as given, with "Aceptar".
+    /// Shows a text, exactly as given, with "Aceptar"; below it notes on the text.
     static void show(HandlerGuard& owner, const QString& text,
-        const QString& title = programTitle(), Icon icon = Icon::None);
+        const QString& title = programTitle(), Icon icon = Icon::None, const QString& notes = {});
 
     /// Asks with "Sí" and "No"; true for "Sí". There is no way out but an answer.
     static bool ask(

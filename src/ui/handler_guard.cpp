@@ -11,6 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace ui {
 
+namespace {
+
+const QString InternalError =
+    u"Error interno: algo ha fallado en el programa. La ventana sigue como estaba."_s;
+
+} // namespace
+
 /// One handler that waits, for a box where there is one.
 class HandlerGuard::Waiting {
 public:
@@ -74,9 +81,10 @@ void HandlerGuard::run(const std::function<void()>& body)
     } catch (const core::Error& error) {
         text = error.text();
     } catch (const std::exception& error) {
-        text = u"Error interno: %1"_s.arg(QString::fromUtf8(error.what()));
+        qWarning("%s", error.what()); // in no language that a child reads
+        text = InternalError;
     } catch (...) {
-        text = u"Error interno"_s;
+        text = InternalError;
     }
     if (!text.isEmpty()) // behind the catch blocks: the box runs an event loop of its own
         tell(text);

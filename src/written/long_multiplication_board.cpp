@@ -132,8 +132,8 @@ void Form3::makeTexts()
 {
     displayBox(u"TbTítulo"_s, {PaperLeft, 420, PaperWidth, 450}, ui::look::Instruction,
         u"Instrucción"_s, u"Realiza la siguiente operación"_s);
-    Text1 = verdictBox(u"Text1"_s, {SideLeft, 4180, SideWidth, 420}, u"Resultado"_s);
-    Text2 = displayBox(u"Text2"_s, {SideLeft, 4740, SideWidth, 300}, CounterFont, u"Contadores"_s,
+    Text1 = verdictBox(u"Text1"_s, {SideLeft, 4180, SideWidth, 420}, u"Comprobación"_s);
+    Text2 = displayBox(u"Text2"_s, {SideLeft, 4740, SideWidth, 300}, CounterFont, u"Ejercicios y errores"_s,
         m_model.counters().FormatoAlineado());
     for (ui::TextBox* box : std::initializer_list<ui::TextBox*>{Text1, Text2})
         box->setFocusPolicy(Qt::TabFocus);

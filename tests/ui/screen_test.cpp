@@ -115,8 +115,10 @@ private slots:
         QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("text");
         QTest::newRow("own") << 0 << u"El banco no se puede leer."_s;
-        QTest::newRow("standard") << 1 << u"Error interno: bad_alloc"_s;
-        QTest::newRow("unknown") << 2 << u"Error interno"_s;
+        const QString internal =
+            u"Error interno: algo ha fallado en el programa. La ventana sigue como estaba."_s;
+        QTest::newRow("standard") << 1 << internal;
+        QTest::newRow("unknown") << 2 << internal;
     }
     void exceptionInAHandlerShowsOneBoxAndTheScreenGoesOn()
     {

@@ -686,7 +686,7 @@ void LongDivisionScreenTest::tooManyDigitsToDraw()
     m_bench->random.append({0.5f});
     m_bench->click(u"Command2(0)"_s);
     QCOMPARE(boxes.texts.last(),
-        u"Los números de 10 cifras son demasiado grandes para proponer una división. Elige otro "
+        u"Los números de 10 cifras son demasiado grandes para proponer una división. Elija otro "
         "número de cifras en el menú Opciones."_s);
     QCOMPARE(text("Text4"), u"1234567890 ÷ 7"_s);
 }
