@@ -16,6 +16,7 @@ configure_windows() { # packages that the caller needs too
   quietly "configurar windows" cmake -S . -B "$windows_build" -G Ninja \
     -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE="$toolkit/lib/cmake/Qt6/qt.toolchain.cmake" \
     -DQT_CHAINLOAD_TOOLCHAIN_FILE="$PWD/packaging/windows/toolchain.cmake" \
+    -DCMAKE_CROSSCOMPILING_EMULATOR="$PWD/packaging/windows/wine.sh" \
     ${cmake_options+"${cmake_options[@]}"}
 }
 
