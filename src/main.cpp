@@ -1,5 +1,6 @@
 #include "activities.h"
 #include "core/clock.h"
+#include "core/folders.h"
 #include "core/random.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
@@ -23,7 +24,8 @@ int main(int argc, char* argv[])
 
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s);
+    ui::Screens screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
+        core::commonBankFolder());
     addScreens(screens);
     screens.show(shell::Form1::screenName());
     return QApplication::exec();

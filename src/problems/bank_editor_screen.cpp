@@ -34,7 +34,7 @@ QString DLGProblemas::screenName()
 void DLGProblemas::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
-    if (const auto bank = LeerBanco(screens().resources())) {
+    if (const auto bank = LeerBanco(screens().bankFolder().toRead())) {
         m_model.load(bank->lines);
         List1->clear();
         List1->addItems(bank->lines);
@@ -190,7 +190,7 @@ void DLGProblemas::deleteEntry()
 
 void DLGProblemas::OKButton_Click()
 {
-    GuardarBanco(screens().resources(), m_model.lines());
+    GuardarBanco(screens().bankFolder().toSave(), m_model.lines());
     closeDialog();
 }
 

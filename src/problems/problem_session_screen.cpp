@@ -91,7 +91,7 @@ void FormProblemas::Form_Load()
     core::seedByClock(screens().random(), screens().clock());
     TBRespuesta->setFocus();
     try {
-        auto bank = LeerBanco(screens().resources(), MissingBank::StayInFolder);
+        auto bank = LeerBanco(screens().bankFolder().toRead(), MissingBank::StayInFolder);
         if (!bank)
             return;
         m_model.setBank(*std::move(bank));
@@ -168,7 +168,7 @@ void FormProblemas::MnuOpcGes_Click()
     hide();
     screens().show(DLGProblemas::screenName());
     m_model.setBank({});
-    if (auto bank = LeerBanco(screens().resources()))
+    if (auto bank = LeerBanco(screens().bankFolder().toRead()))
         m_model.setBank(*std::move(bank));
 }
 
