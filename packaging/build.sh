@@ -17,6 +17,7 @@ copy_libraries() { # destination, files...
     name=$(basename "$path")
     [[ $name =~ $system_libraries ]] && continue
     install -m 644 "$path" "$destination/$name"
+    # shellcheck disable=SC2016 # the loader expands it
     patchelf --set-rpath '$ORIGIN' "$destination/$name"
   done
 }

@@ -1,4 +1,5 @@
-# Shared by run.sh and test.sh: installs what is missing, configures and builds. Sourced.
+# shellcheck shell=bash
+# Shared by the scripts: installs what is missing, configures and builds. Sourced.
 
 # Quiet unless it fails: then the log of the step is shown.
 quietly() { # title, command...
@@ -58,6 +59,7 @@ TEXT
   done
 }
 
+# shellcheck disable=SC2034 # for those who source this
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n
   fonts-liberation fonts-dejavu-core)
 
