@@ -1,6 +1,7 @@
 #include "ui/boxes.h"
 
 #include "ui/application.h"
+#include "ui/box_strip.h"
 #include "ui/look.h"
 #include "ui/screen.h"
 
@@ -25,6 +26,7 @@ namespace {
 constexpr double InputWidth = 420; // pixels at factor 1
 constexpr double LongestLine = 500;
 constexpr double ShortestLine = 220; // so that the title can be read
+constexpr double LargestShare = 0.7; // of the width of the display
 constexpr int BoxFrame = 160; // what a box needs beside its text
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
@@ -112,6 +114,7 @@ QWidget* parentOf(Screen& owner)
 /// that is unloaded behind it.
 void run(Screen& owner, const QPointer<QDialog>& box)
 {
+    BoxStrip::layUnderButtons(*box);
     const Screen::Waiting waiting(owner, box);
     box->exec();
     if (box)
@@ -130,7 +133,8 @@ void widen(const Box& box, const Screen& owner)
     int longest = qRound(ShortestLine * owner.factor());
     for (const QString& line : box.text().split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
-    const int room = owner.screen()->availableGeometry().width() - BoxFrame;
+    const int display = owner.screen()->availableGeometry().width();
+    const int room = static_cast<int>(LargestShare * display) - BoxFrame;
     label->setMinimumWidth(std::min({longest, qRound(LongestLine * owner.factor()), room}));
 }
 
@@ -138,7 +142,7 @@ QPointer<Box> makeBox(Screen& owner, const QString& text, const QString& title, 
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
-    box->setFont(look::scaled(look::Instruction, owner.factor()));
+    box->setFont(look::scaled(look::BoxText, owner.factor()));
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
@@ -183,7 +187,7 @@ bool MessageBox::ask(Screen& owner, const QString& text, const QString& title)
 QString InputBox::ask(Screen& owner, const QString& prompt, const QString& title)
 {
     const QPointer<QInputDialog> box(new QInputDialog(parentOf(owner)));
-    box->setFont(look::scaled(look::Instruction, owner.factor()));
+    box->setFont(look::scaled(look::BoxText, owner.factor()));
     box->setWindowTitle(title);
     box->setOkButtonText(u"Aceptar"_s);
     box->setCancelButtonText(u"Cancelar"_s);

@@ -1,11 +1,17 @@
 #include "ui/focus_ring.h"
 
+#include "ui/faces.h"
 #include "ui/look.h"
 #include "ui/screen.h"
+#include "ui/tray.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextEdit>
 
 #include <cmath>
 
@@ -13,11 +19,21 @@ namespace ui {
 
 namespace {
 
-constexpr double Radius = 8; // pixels at factor 1
+constexpr double Radius = 12; // pixels at factor 1
 
 int ringWidth(const QWidget* widget)
 {
     return static_cast<int>(std::ceil(look::RingWidth * Screen::factorOf(widget)));
+}
+
+bool isOnlyRead(const QWidget* widget)
+{
+    if (const auto* line = qobject_cast<const QLineEdit*>(widget))
+        return line->isReadOnly();
+    if (const auto* plain = qobject_cast<const QPlainTextEdit*>(widget))
+        return plain->isReadOnly();
+    const auto* text = qobject_cast<const QTextEdit*>(widget);
+    return text != nullptr && text->isReadOnly();
 }
 
 } // namespace
@@ -52,7 +68,10 @@ void FocusRing::surround()
     }
     const int width = ringWidth(this);
     const QPoint origin = m_focused->mapTo(parentWidget(), QPoint(0, 0));
-    setGeometry(QRect(origin, m_focused->size()).adjusted(-width, -width, width, width));
+    QRect place(origin, m_focused->size());
+    if (const auto* button = qobject_cast<const QPushButton*>(m_focused.data()))
+        place = buttonFace(place, !button->icon().isNull(), Screen::factorOf(this));
+    setGeometry(place.adjusted(-width, -width, width, width));
     raise();
     show();
 }
@@ -75,11 +94,18 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event)
 
 void FocusRing::paintEvent(QPaintEvent*)
 {
-    const double width = look::RingWidth * Screen::factorOf(this);
+    if (!m_focused)
+        return;
+    const double full = look::RingWidth * Screen::factorOf(this);
+    const double width =
+        isOnlyRead(m_focused) ? look::QuietRingWidth * Screen::factorOf(this) : full;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(parentWidget()->palette().color(QPalette::Highlight), width));
-    const double inset = width / 2;
+    painter.setPen(
+        QPen(Tray::holds(*m_focused) ? QColor(look::FocusOnSlate)
+                                     : parentWidget()->palette().color(QPalette::Highlight),
+            width));
+    const double inset = full - width / 2; // next to the edge of the control
     const double radius = Radius * Screen::factorOf(this);
     painter.drawRoundedRect(
         QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);

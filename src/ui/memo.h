@@ -19,8 +19,16 @@ public:
 
     void setFactor(double factor) override;
 
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    void setSurface(QRgb surface);
+
     Kind m_kind;
+    double m_factor = 1;
 };
 
 } // namespace ui

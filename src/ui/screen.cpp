@@ -2,6 +2,7 @@
 
 #include "core/errors.h"
 #include "ui/focus_ring.h"
+#include "ui/ground.h"
 #include "ui/screens.h"
 
 #include <QCloseEvent>
@@ -25,6 +26,7 @@ Screen::Screen(
 {
     setObjectName(name);
     setWindowTitle(caption);
+    new Ground(*m_canvas);
     new FocusRing(m_canvas);
     auto* close = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_F4), this);
     connect(close, &QShortcut::activated, this, [this] { this->close(); });

@@ -8,6 +8,7 @@
 #include "ui/menu_list.h"
 #include "ui/placement.h"
 #include "ui/text_box.h"
+#include "ui/verdict_box.h"
 
 #include <QLabel>
 #include <QPointer>

@@ -39,6 +39,12 @@ void SquaredPaper::setSquare(const TwipRect& square)
     update();
 }
 
+void SquaredPaper::setFill(const QColor& fill)
+{
+    m_fill = fill;
+    update();
+}
+
 void SquaredPaper::setFactor(double factor)
 {
     m_factor = factor;
@@ -50,13 +56,14 @@ void SquaredPaper::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const int pen = std::max(1, static_cast<int>(m_factor));
     const QColor grid(look::Grid);
-    painter.fillRect(rect(), QColor(look::Card));
+    painter.fillRect(rect(), m_fill);
     forEachLine(m_square.left, m_square.width, m_factor, x(), x() + width(),
         [&](int at) { painter.fillRect(at - pen / 2, 0, pen, height(), grid); });
     forEachLine(m_square.top, m_square.height, m_factor, y(), y() + height(),
         [&](int at) { painter.fillRect(0, at - pen / 2, width(), pen, grid); });
-    painter.setPen(QPen(QColor(look::Line), pen));
-    painter.drawRect(QRectF(rect()).adjusted(pen / 2.0, pen / 2.0, -pen / 2.0, -pen / 2.0));
+    const double edge = std::max(1.0, std::round(look::EdgeWidth * m_factor));
+    painter.setPen(QPen(QColor(look::Edge), edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2));
 }
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/look.h"
 #include "ui/placement.h"
 
 #include <QWidget>
@@ -15,6 +16,9 @@ public:
     /// One of the squares, in twips on the parent; all others line up with it.
     void setSquare(const TwipRect& square);
 
+    /// Another ground than white, where only a part of the sheet can be written.
+    void setFill(const QColor& fill);
+
     void setFactor(double factor) override;
 
 protected:
@@ -22,6 +26,7 @@ protected:
 
 private:
     TwipRect m_square{0, 0, 250, 250};
+    QColor m_fill = look::Card;
     double m_factor = 1;
 };
 

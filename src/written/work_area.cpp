@@ -218,7 +218,7 @@ void WorkArea::paintCell(QPainter& painter, int position) const
     if (selected && hasFocus())
         painter.fillRect(cell, QColor(ui::look::Focus));
     else if (selected || underCaret || composed)
-        painter.fillRect(cell, QColor(ui::look::Shown));
+        painter.fillRect(cell, QColor(ui::look::Marker));
 
     const QChar character =
         composed ? m_composed.at(position - m_caret) : m_grid.text().at(position);
