@@ -140,6 +140,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override
     {
         Screen::resizeEvent(event);
+        m_sky->setFactor(factor());
         m_sky->setGeometry(rect());
     }
 

@@ -1,3 +1,5 @@
+#include "activities.h"
+#include "display.h"
 #include "gallery.h"
 #include "pictures.h"
 
@@ -9,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    gallery::LaptopDisplay display;
     ui::prepareApplication();
     QApplication application(argc, argv);
     ui::dress();
@@ -18,17 +20,12 @@ int main(int argc, char* argv[])
     gallery::Gallery gallery(arguments.value(1, u"pictures"_s),
         QString::fromUtf8(PIZARRIN_RESOURCES), arguments.mid(2));
     gallery::addMenu(gallery);
-    gallery::addMultiplicationTables(gallery);
-    gallery::addQuickTables(gallery);
-    gallery::addRepeatedSum(gallery);
-    gallery::addFillTheGap(gallery);
-    gallery::addLongMultiplication(gallery);
-    gallery::addLongDivision(gallery);
-    gallery::addCombinedOperations(gallery);
-    gallery::addMultiplesDivisors(gallery);
-    gallery::addProblems(gallery);
+    for (const shell::Activity& activity : activities()) {
+        const auto pictures = gallery::picturesOf(activity.screen);
+        if (pictures == nullptr)
+            qFatal("no pictures of %s", qPrintable(activity.screen));
+        pictures(gallery);
+    }
     gallery::addProblemsEditor(gallery);
-    gallery::addNumberRain(gallery);
-    gallery::addRace(gallery);
     return 0;
 }

@@ -1,8 +1,15 @@
 #pragma once
 
+#include <QString>
+
 namespace gallery {
 
 class Gallery;
+
+using Pictures = void (*)(Gallery& gallery);
+
+/// What renders an activity, by the name of its screen; nullptr when there is nothing.
+Pictures picturesOf(const QString& screen);
 
 // One function an activity, in a file of its own.
 void addMenu(Gallery& gallery);

@@ -6,6 +6,7 @@
 #include "problems/bank_editor_screen.h"
 #include "problems/problem_session_screen.h"
 #include "problems/selection_screen.h"
+#include "shell/main_menu_screen.h"
 #include "tables/fill_the_gap_screen.h"
 #include "tables/multiplication_tables_screen.h"
 #include "tables/quick_tables_screen.h"
@@ -21,43 +22,42 @@ using namespace Qt::StringLiterals;
 
 std::vector<shell::Activity> activities()
 {
+    using shell::activity;
     using enum shell::Activity::Shown;
+    using enum shell::Pictogram;
     return {
-        {u"&Suma repetida"_s, u"Form4"_s, Modal},
-        {u"&Tablas de multiplicar"_s, u"Form2"_s, Modal},
-        {u"T&ablas rápidas"_s, u"Form8"_s, Modal},
-        {u"&Completa el hueco"_s, u"FrmMultHuecos"_s, Modal},
-        {u"&Múltiplos y divisores"_s, u"FrmMultidivi"_s, Modal},
-        {u"&Multiplicaciones"_s, u"Form3"_s, Modal},
-        {u"&Divisiones"_s, u"Form6"_s, Modal},
-        {u"&Problemas"_s, u"FormProblemas"_s, Modeless},
-        {u"&Operaciones combinadas"_s, u"FRMCombi"_s, Modal},
-        {u"&Lluvia de números"_s, u"Form5"_s, Modal},
-        {u"&La gran carrera"_s, u"FrmCarrera"_s, Modal},
+        activity<tables::Form4>(
+            u"&Suma repetida"_s, Modal, RepeatedSum, u"tables/repeated_sum"_s),
+        activity<tables::Form2>(
+            u"&Tablas de multiplicar"_s, Modal, Tables, u"tables/multiplication_tables"_s),
+        activity<tables::Form8>(
+            u"T&ablas rápidas"_s, Modal, QuickTables, u"tables/quick_tables"_s),
+        activity<tables::FrmMultHuecos>(
+            u"&Completa el hueco"_s, Modal, Gap, u"tables/fill_the_gap"_s),
+        activity<written::FrmMultidivi>(
+            u"&Múltiplos y divisores"_s, Modal, Multiples, u"written/multiples_divisors"_s),
+        activity<written::Form3>(
+            u"&Multiplicaciones"_s, Modal, Multiplication, u"written/long_multiplication"_s),
+        activity<written::Form6>(u"&Divisiones"_s, Modal, Division, u"written/long_division"_s),
+        activity<problems::FormProblemas>(
+            u"&Problemas"_s, Modeless, Problems, u"problems/problem_session"_s),
+        activity<written::FRMCombi>(
+            u"&Operaciones combinadas"_s, Modal, Combined, u"written/combined_operations"_s),
+        activity<games::Form5>(u"&Lluvia de números"_s, Modal, Rain, u"games/number_rain"_s),
+        activity<games::FrmCarrera>(u"&La gran carrera"_s, Modal, Race, u"games/race"_s),
     };
 }
 
 void addScreens(ui::Screens& screens)
 {
-    screens.add(shell::Form1::screenName(), [](ui::Screens& set) -> ui::Screen* {
-        const auto entries = activities();
-        return new shell::Form1(set, entries);
-    });
+    screens.add(shell::Form1::screenName(),
+        [](ui::Screens& set) -> ui::Screen* { return new shell::Form1(set, activities()); });
     screens.setMainScreen(shell::Form1::screenName());
 
+    for (const shell::Activity& activity : activities())
+        screens.add(activity.screen, activity.make);
     screens.add<games::DlgCarrera>();
-    screens.add<games::Form5>();
-    screens.add<games::FrmCarrera>();
     screens.add<problems::DLGProblemas>();
     screens.add<problems::DLGSelProb>();
-    screens.add<problems::FormProblemas>();
-    screens.add<tables::Form2>();
-    screens.add<tables::Form4>();
-    screens.add<tables::Form8>();
-    screens.add<tables::FrmMultHuecos>();
     screens.add<written::Dialog>();
-    screens.add<written::Form3>();
-    screens.add<written::Form6>();
-    screens.add<written::FRMCombi>();
-    screens.add<written::FrmMultidivi>();
 }

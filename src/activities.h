@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/main_menu_screen.h"
+#include "shell/activity.h"
 
 #include <vector>
 
@@ -8,7 +8,7 @@ namespace ui {
 class Screens;
 }
 
-/// The activities of the main menu, in its order.
+/// The one table of the activities, in the order of the menu.
 std::vector<shell::Activity> activities();
 
 /// Makes every screen of the program known; none is made yet. The menu is the main screen.

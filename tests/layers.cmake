@@ -1,18 +1,111 @@
-# Fails when the models' library could see the GUI: by what it links or by what it includes.
-# LIBS, SOURCES: those of the library, separated by semicolons.
+# Reads every include of src/ and fails at an arrow that the architecture does not draw.
+# ROOT: src/. CORE: the sources of pizarrin_core. LIBS: what that links.
+cmake_policy(SET CMP0057 NEW) # IN_LIST
+
 if(LIBS MATCHES "Gui|Widgets")
   message(FATAL_ERROR "pizarrin_core links ${LIBS}")
 endif()
-set(forbidden "ui/|_screen|QtGui|QtWidgets|QWidget|QTimer|QElapsedTimer|QRandomGenerator|QDateTime|QTime>|chrono>|ctime>|random>")
-# The one place for the clock and for the generator.
-set(allowed "core/(clock|random)\\.h")
-foreach(source ${SOURCES})
-  string(REGEX REPLACE "\\.cpp$" ".h" header ${source})
-  foreach(file ${source} ${header})
-    if(EXISTS ${file} AND NOT file MATCHES ${allowed})
-      file(STRINGS ${file} hits REGEX "#include [<\"].*(${forbidden})")
-      if(hits)
-        message(FATAL_ERROR "${file}: ${hits}")
+
+# What a layer may include of ours, as patterns on "layer path".
+set(may_core "^core ")
+set(may_ui "^(core|ui) ")
+set(may_shell_model "^(core|shell_model) ")
+set(may_shell_screen "^(core|ui|shell_model|shell_screen) ")
+set(may_model "^(core|shell_model|same_model) ")
+set(may_screen "^(core|ui|shell_model|shell_screen|same_model|same_screen) ")
+set(may_program "")
+
+# A screen includes another screen only where it opens it.
+set(opens
+  "problems/problem_session_screen>problems/bank_editor_screen"
+  "problems/problem_session_screen>problems/selection_screen"
+  "written/long_multiplication>written/digit_dialog"
+  "games/race>games/race_options_screen")
+
+# What no model may use, and what only one place of core may.
+set(gui "QtGui|QtWidgets|QWidget|QTimer|QElapsedTimer")
+set(outside "QRandomGenerator|QDateTime|QTime>|chrono>|ctime>|random>")
+set(outside_allowed "^core/(clock|random)\\.")
+
+# A header goes with its source; these have none.
+set(HEADER_MODELS shell/drill)
+function(layer_of path result)
+  get_filename_component(folder ${path} DIRECTORY)
+  string(REGEX REPLACE "\\.(h|cpp)$" "" stem ${path})
+  set(source ${ROOT}/${stem}.cpp)
+  if(NOT folder)
+    set(layer program)
+  elseif(folder MATCHES "^(core|ui)$")
+    set(layer ${folder})
+  else()
+    set(kind screen)
+    if(source IN_LIST CORE OR (NOT EXISTS ${source} AND stem IN_LIST HEADER_MODELS))
+      set(kind model)
+    endif()
+    set(layer ${folder}_${kind})
+  endif()
+  set(${result} ${layer} PARENT_SCOPE)
+endfunction()
+
+function(check_screens file included)
+  foreach(pair ${opens})
+    string(REPLACE ">" ";" pair ${pair})
+    list(GET pair 0 from)
+    list(GET pair 1 to)
+    if(file MATCHES "^${from}" AND included MATCHES "^${to}")
+      return()
+    endif()
+  endforeach()
+  string(REGEX REPLACE "\\.(h|cpp)$" "" own ${file})
+  string(REGEX REPLACE "_(screen|controls|board|options|keypad|fall|phase)$" "" own ${own})
+  if(included MATCHES "_screen\\.h$|digit_dialog\\.h$" AND NOT included MATCHES "^${own}"
+     AND NOT included MATCHES "^shell/exercise_screen")
+    message(SEND_ERROR "${file} includes another screen: ${included}")
+  endif()
+endfunction()
+
+function(check_own file layer included)
+  layer_of(${included} target)
+  get_filename_component(folder ${file} DIRECTORY)
+  if(layer MATCHES "^(core|ui|shell_model|shell_screen|program)$")
+    set(may "${may_${layer}}")
+  elseif(layer MATCHES "_model$")
+    set(may "${may_model}")
+  else()
+    set(may "${may_screen}")
+  endif()
+  if(NOT folder MATCHES "^(core|ui|shell)?$")
+    string(REGEX REPLACE "^${folder}_" "same_" target ${target})
+  endif()
+  if(NOT "${target} " MATCHES "${may}")
+    message(SEND_ERROR "${file} (${layer}) includes ${included} (${target})")
+  endif()
+  if(layer MATCHES "^(tables|written|problems|games)_screen$")
+    check_screens(${file} ${included})
+  endif()
+endfunction()
+
+file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/*.h ${ROOT}/*.cpp)
+list(LENGTH files count)
+if(count LESS 100)
+  message(FATAL_ERROR "only ${count} files under ${ROOT}: nothing would be checked")
+endif()
+foreach(file ${files})
+  layer_of(${file} layer)
+  file(STRINGS ${ROOT}/${file} lines REGEX "^#include ")
+  foreach(line ${lines})
+    string(REGEX MATCH "[<\"]([^>\"]+)[>\"]" _ "${line}")
+    set(included ${CMAKE_MATCH_1})
+    if(line MATCHES "#include \"")
+      if(NOT EXISTS ${ROOT}/${included})
+        message(SEND_ERROR "${file} includes what is not there: ${included}")
+      else()
+        check_own(${file} ${layer} ${included})
+      endif()
+    elseif(layer MATCHES "^core$|_model$")
+      if("${included}>" MATCHES "^(${gui})" OR ("${included}>" MATCHES "^(${outside})"
+          AND NOT file MATCHES "${outside_allowed}"))
+        message(SEND_ERROR "${file} (${layer}) includes <${included}>")
       endif()
     endif()
   endforeach()

@@ -1,7 +1,5 @@
 #include "games/night_sky.h"
 
-#include "ui/screen.h"
-
 #include <QPainter>
 #include <QPainterPath>
 #include <QPaintEvent>
@@ -102,7 +100,7 @@ void NightSky::paintEvent(QPaintEvent* event)
         m_picture = QPixmap(pixels);
         m_picture.setDevicePixelRatio(devicePixelRatioF());
         QPainter painter(&m_picture);
-        drawNight(painter, size(), ui::Screen::factorOf(this));
+        drawNight(painter, size(), factor());
     }
     const QRectF area = event->rect();
     const double ratio = devicePixelRatioF();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/scaling.h"
+
 #include <QPixmap>
 #include <QWidget>
 
@@ -7,7 +9,7 @@ namespace games {
 
 /// The night in which numbers fall: stars, a moon and hills, in colours on which every drop
 /// and every text of the scoreboard can be read.
-class NightSky : public QWidget {
+class NightSky : public QWidget, public ui::Scalable {
 public:
     explicit NightSky(QWidget* parent);
 

@@ -38,6 +38,7 @@ void Form5::Form_Load()
 void Form5::resizeEvent(QResizeEvent* event)
 {
     Screen::resizeEvent(event);
+    m_sky->setFactor(factor());
     m_sky->setGeometry(rect());
 }
 

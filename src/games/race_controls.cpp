@@ -65,9 +65,9 @@ void FrmCarrera::makeBoxes()
 {
     displayBox(u"Text1"_s, {Margin, 300, 6000, 360}, ui::look::Instruction, u"Instrucción"_s,
         u"Resuelve la operación para avanzar"_s);
-    TBOperación = displayBox(u"TBOperación"_s, {Margin, 990, 6000, 960}, OperationFont,
+    TBOperacion = displayBox(u"TBOperación"_s, {Margin, 990, 6000, 960}, OperationFont,
         u"Operación"_s, u"7 x 5 + 8 ="_s);
-    TBOperación->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    TBOperacion->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     TBResultado =
         entryBox(u"TBResultado"_s, {6450, 1020, 1740, 900}, OperationFont, u"Respuesta"_s);
     onKeyPress(TBResultado, [this](QChar character) { return TBResultado_KeyPress(character); });

@@ -1,7 +1,6 @@
 #include "games/race_keypad_button.h"
 
 #include "ui/look.h"
-#include "ui/screen.h"
 
 #include <QPainter>
 
@@ -21,8 +20,7 @@ void RaceKeypadButton::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF(rect()).center() + QPointF(0, isDown() ? 1 : 0));
-    const double factor = ui::Screen::factorOf(this);
-    painter.scale(factor, factor);
+    painter.scale(factor(), factor());
     const QColor ink(ui::look::Ink);
     if (m_drawing == Drawing::Cross) {
         painter.setPen(QPen(ink, 2.2, Qt::SolidLine, Qt::RoundCap));

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "ui/button.h"
+#include "ui/scaling.h"
 
 namespace games {
 
 /// A button without a caption that shows or hides the keypad: it carries a small drawing.
-class RaceKeypadButton : public ui::Button {
+class RaceKeypadButton : public ui::Button, public ui::Scalable {
 public:
     enum class Drawing { Keys, Cross };
 

@@ -58,7 +58,7 @@ void FrmCarrera::chooseOptions()
 
 void FrmCarrera::PreparaCarrera()
 {
-    TBOperación->clear(); // what stays when a picture cannot be read: no race
+    TBOperacion->clear(); // what stays when a picture cannot be read: no race
     const auto& options = screens().load<DlgCarrera>();
     const QImage player = carPicture(options.Personaje());
     const QImage rival = carPicture(options.Rival());
@@ -95,8 +95,8 @@ void FrmCarrera::moveCar(std::size_t index, double left)
 
 void FrmCarrera::NuevaOperacion()
 {
-    TBOperación->setText(m_race.operation());
-    ui::announce(*TBOperación, m_race.operation());
+    TBOperacion->setText(m_race.operation());
+    ui::announce(*TBOperacion, m_race.operation());
     TBResultado->clear();
     TBResultado->setFocus();
 }
@@ -212,8 +212,8 @@ ui::KeyResult FrmCarrera::Form_KeyDown(int KeyCode)
 {
     if (KeyCode != ui::key::Control)
         return ui::KeyResult::Pass;
-    const QString text = TBOperación->text();
-    TBOperación->setText(text.startsWith(u' ') ? text.mid(1) : u' ' + text);
+    const QString text = TBOperacion->text();
+    TBOperacion->setText(text.startsWith(u' ') ? text.mid(1) : u' ' + text);
     return ui::KeyResult::Pass;
 }
 

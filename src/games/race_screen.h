@@ -61,7 +61,7 @@ private:
 
     Race m_race;
     PictureNames NombresImagen;
-    ui::TextBox* TBOperación = nullptr;
+    ui::TextBox* TBOperacion = nullptr;
     ui::TextBox* TBResultado = nullptr;
     ui::VerdictBox* Text4 = nullptr;
     std::array<ui::TextBox*, 5> Text2{};

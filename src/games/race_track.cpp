@@ -1,8 +1,6 @@
 #include "games/race_track.h"
 
 #include "games/car_picture.h"
-#include "ui/placement.h"
-#include "ui/screen.h"
 
 #include <QPainter>
 
@@ -23,10 +21,10 @@ constexpr QRgb MownGrass = 0xFF92BF77;
 constexpr QRgb Shade = 0xFF5E8A47;
 
 /// Lets a painter draw in twips.
-void useTwips(QPainter& painter, const QWidget* widget)
+void useTwips(QPainter& painter, double factor)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    const double scale = ui::Screen::factorOf(widget) / ui::TwipsPerPixel;
+    const double scale = factor / ui::TwipsPerPixel;
     painter.scale(scale, scale);
     painter.setPen(Qt::NoPen);
 }
@@ -111,7 +109,7 @@ void RaceTrack::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(LaneGrey));
-    useTwips(painter, this);
+    useTwips(painter, factor());
     drawKerb(painter, 0);
     drawKerb(painter, Height - Kerb);
     drawLaneDivider(painter);
@@ -135,7 +133,7 @@ void RaceVerge::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(Grass));
-    useTwips(painter, this);
+    useTwips(painter, factor());
     for (double left = 0; left < RaceTrack::Width; left += 1200)
         painter.fillRect(
             QRectF(left, 0, 600, Above + RaceTrack::Height + Below), QColor(MownGrass));

@@ -1,7 +1,5 @@
 #include "games/rain_drop.h"
 
-#include "ui/screen.h"
-
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -94,8 +92,7 @@ void RainDrop::draw()
     m_picture.setDevicePixelRatio(devicePixelRatioF());
     m_picture.fill(Qt::transparent);
 
-    const double factor = ui::Screen::factorOf(this);
-    const double edge = (m_drawn.hover ? HoverEdgeWidth : EdgeWidth) * factor;
+    const double edge = (m_drawn.hover ? HoverEdgeWidth : EdgeWidth) * factor();
     const QRectF drop = QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
     const QColor fill(m_drawn.fill);
     QPainter painter(&m_picture);

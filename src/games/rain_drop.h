@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/button.h"
+#include "ui/scaling.h"
 
 #include <QPixmap>
 
@@ -8,7 +9,7 @@ namespace games {
 
 /// A falling number: a drop of one colour. The mouse hits it when it is pressed, not when it
 /// is released: the drop has fallen on by then.
-class RainDrop : public ui::Button {
+class RainDrop : public ui::Button, public ui::Scalable {
 public:
     explicit RainDrop(QWidget* parent);
 

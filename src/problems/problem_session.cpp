@@ -5,6 +5,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace problems {
 
@@ -33,9 +34,9 @@ void ProblemSession::setBank(Bank bank)
     beginCycle();
 }
 
-void ProblemSession::CargaDatos(core::Int16 Selección, OperationMask MaskOpera)
+void ProblemSession::CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera)
 {
-    m_mode = Selección;
+    m_mode = Seleccion;
     for (std::size_t k = 0; k < m_maskOp.size(); ++k)
         m_maskOp[k] = has(MaskOpera, k) ? Selected : core::Int16();
 }
@@ -131,30 +132,30 @@ Problem ProblemSession::prepare(int index)
     }
 }
 
-void ProblemSession::NuevoProblema(const std::function<void()>& beforeDraw)
+void ProblemSession::newExercise(const std::function<void()>& beforeDraw)
 {
     ensureDrawable();
     const int index = drawLine(beforeDraw);
     m_bank.used[static_cast<std::size_t>(index)] = true;
     m_problem = prepare(index);
-    m_solved = false;
+    Pendiente = true;
+    m_verdict.clear();
 }
 
-ProblemSession::Verdict ProblemSession::check(double answer)
+shell::Verdict ProblemSession::judge(double answer)
 {
-    if (answer != m_problem.answer) {
-        m_counters.countWrong();
-        return Verdict::Wrong;
-    }
-    if (!m_solved)
-        m_counters.countRight();
-    m_solved = true;
-    return Verdict::Right;
+    const bool right = answer == m_problem.answer;
+    countEveryWrong(right ? Verdict::Right : Verdict::Wrong);
+    if (right)
+        m_verdict.tell(Verdict::Right, u"Respuesta correcta"_s);
+    else
+        m_verdict.tell(Verdict::Wrong, u"Respuesta incorrecta"_s);
+    return *m_verdict.verdict();
 }
 
 qint32 ProblemSession::showSolution()
 {
-    m_solved = true;
+    Pendiente = false;
     return m_problem.answer;
 }
 

@@ -14,9 +14,10 @@ namespace problems {
 /// A session of word problems: which line of the bank comes next, what its answer is, and
 /// what is counted. In a cycle every problem comes at most once; a new one begins when
 /// fewer than a tenth of the bank are left.
-class ProblemSession {
+class ProblemSession : public shell::Exercise {
 public:
-    enum class Verdict { Right, Wrong };
+    /// The result, read as a number.
+    using Answer = double;
 
     /// random must outlive the session.
     explicit ProblemSession(core::RandomSource& random);
@@ -26,7 +27,7 @@ public:
 
     /// Restricts what is drawn: Selección is 0 for all problems, 1 for those with any of
     /// the operations of MaskOpera, 2 for those with all of them.
-    void CargaDatos(core::Int16 Selección, OperationMask MaskOpera);
+    void CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera);
 
     /// Whether the selection admits a line.
     bool CumpleSeleccion(QStringView line) const;
@@ -35,19 +36,17 @@ public:
     /// throw. The first line is never drawn. Throws core::Error when there is no line to
     /// draw, TemplateError with the number of the line when it cannot be prepared; the
     /// problem of before then stays, counted or not as it was.
-    void NuevoProblema(const std::function<void()>& beforeDraw);
+    void newExercise(const std::function<void()>& beforeDraw = [] {});
 
     /// The problem that is shown; with an empty statement and the answer 0 before the first.
     const Problem& problem() const { return m_problem; }
 
-    /// Counts the answer: each wrong one an exercise and an error, a right one an exercise
-    /// unless the problem has been counted or its solution shown.
-    Verdict check(double answer);
+    /// Judges and counts the answer: each wrong one an exercise and an error, a right one an
+    /// exercise unless the problem has been counted or its solution shown.
+    shell::Verdict judge(double answer);
 
     /// The answer; the problem no longer counts.
     qint32 showSolution();
-
-    const shell::ExerciseCounters& counters() const { return m_counters; }
 
 private:
     bool isSelected(OperationMask operations) const;
@@ -67,8 +66,6 @@ private:
     core::Int16 m_mode;
     std::array<core::Int16, 4> m_maskOp{}; ///< of each operation, -1 when it is selected
     Problem m_problem;
-    shell::ExerciseCounters m_counters;
-    bool m_solved = false;
 };
 
 } // namespace problems

@@ -13,7 +13,6 @@
 
 using namespace Qt::StringLiterals;
 using ui::look::Family;
-using Mark = ui::VerdictBox::Mark;
 
 namespace problems {
 
@@ -42,8 +41,7 @@ QString FormProblemas::screenName()
 }
 
 FormProblemas::FormProblemas(ui::Screens& screens)
-    : ExerciseScreen(screens, screenName(), u"Problemas"_s, Width, Height)
-    , m_session(screens.random())
+    : DrillScreen(screens, screenName(), u"Problemas"_s, Width, Height)
 {
     makeMenu();
     makeBoxes();
@@ -95,8 +93,8 @@ void FormProblemas::Form_Load()
         auto bank = LeerBanco(screens().resources(), MissingBank::StayInFolder);
         if (!bank)
             return;
-        m_session.setBank(*std::move(bank));
-        NuevoProblema();
+        m_model.setBank(*std::move(bank));
+        newExercise();
     } catch (const core::Error& error) {
         // The screen comes up all the same: the bank is mended or selected from here.
         m_loadFailure = error.text();
@@ -109,60 +107,54 @@ void FormProblemas::Form_Activate()
         ui::MessageBox::show(*this, std::exchange(m_loadFailure, {}));
 }
 
-void FormProblemas::CargaDatos(core::Int16 Selección, OperationMask MaskOpera)
+void FormProblemas::CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera)
 {
-    m_session.CargaDatos(Selección, MaskOpera);
+    m_model.CargaDatos(Seleccion, MaskOpera);
 }
 
 void FormProblemas::NuevoProblema()
 {
     int draws = 0;
-    m_session.NuevoProblema([&] {
+    m_model.newExercise([&] {
         if (draws < DrawsWithEvents || draws % DrawsWithEvents == 0)
             letEventsRun();
         ++draws;
     });
-    TBEnunciado->setStatement(m_session.problem().statement);
-    LBUnidad->setText(m_session.problem().unit);
-    ui::announce(*TBEnunciado, m_session.problem().statement);
-    TBCorrecto->setVerdict({}, Mark::None);
+    TBEnunciado->setStatement(m_model.problem().statement);
+    LBUnidad->setText(m_model.problem().unit);
+    ui::announce(*TBEnunciado, m_model.problem().statement);
+    showVerdict(*TBCorrecto, m_model.verdict());
 }
 
-void FormProblemas::showNextProblem()
+void FormProblemas::check()
 {
-    NuevoProblema();
+    const auto verdict = m_model.judge(core::readNumber(TBRespuesta->text()));
+    showVerdict(*TBCorrecto, m_model.verdict());
+    if (verdict == shell::Verdict::Wrong) {
+        TBRespuesta->clear();
+        TBRespuesta->setFocus();
+    } else {
+        Command2[0]->setFocus();
+    }
+    LBEstado->setText(m_model.counters().FormatoSimple());
+}
+
+void FormProblemas::nextExercise()
+{
+    newExercise();
     TBRespuesta->clear();
     TBRespuesta->setFocus();
 }
 
-void FormProblemas::Command1_Click()
+void FormProblemas::clearAnswer()
 {
-    const auto verdict = m_session.check(core::readNumber(TBRespuesta->text()));
-    if (verdict == ProblemSession::Verdict::Wrong) {
-        TBCorrecto->setVerdict(u"Respuesta incorrecta"_s, Mark::Wrong);
-        TBRespuesta->clear();
-        TBRespuesta->setFocus();
-    } else {
-        TBCorrecto->setVerdict(u"Respuesta correcta"_s, Mark::Right);
-        Command2[0]->setFocus();
-    }
-    LBEstado->setText(m_session.counters().FormatoSimple());
+    TBRespuesta->clear();
+    TBRespuesta->setFocus();
 }
 
-void FormProblemas::Command2_Click(int Index)
+void FormProblemas::showSolution()
 {
-    switch (Index) {
-    case 0:
-        showNextProblem();
-        break;
-    case 1:
-        TBRespuesta->clear();
-        TBRespuesta->setFocus();
-        break;
-    default:
-        TBRespuesta->setText(QString::number(m_session.showSolution()));
-        break;
-    }
+    TBRespuesta->setText(QString::number(m_model.showSolution()));
 }
 
 void FormProblemas::MnuOpcGes_Click()
@@ -174,21 +166,21 @@ void FormProblemas::MnuOpcGes_Click()
     };
     hide();
     screens().show(DLGProblemas::screenName());
-    m_session.setBank({});
+    m_model.setBank({});
     if (auto bank = LeerBanco(screens().resources()))
-        m_session.setBank(*std::move(bank));
+        m_model.setBank(*std::move(bank));
 }
 
 void FormProblemas::MnuOpcSel_Click()
 {
     auto& dialog = screens().load<DLGSelProb>();
-    dialog.CargaDatos = [form = QPointer(this)](core::Int16 Selección, OperationMask MaskOpera) {
+    dialog.CargaDatos = [form = QPointer(this)](core::Int16 Seleccion, OperationMask MaskOpera) {
         if (form)
-            form->CargaDatos(Selección, MaskOpera);
+            form->CargaDatos(Seleccion, MaskOpera);
     };
     screens().showModal(DLGSelProb::screenName(), *this, [this] {
         screens().show(screenName());
-        showNextProblem();
+        nextExercise();
     });
 }
 

@@ -8,7 +8,7 @@ namespace problems {
 class StatementBox;
 
 /// The practice of word problems: one problem of the bank at a time, drawn with fresh data.
-class FormProblemas : public shell::ExerciseScreen {
+class FormProblemas : public shell::DrillScreen<ProblemSession> {
 public:
     static QString screenName();
 
@@ -16,13 +16,16 @@ public:
 
     /// Restricts what is drawn from now on: Selección is 0 for all problems, 1 for those with
     /// any of the operations of MaskOpera, 2 for those with all of them.
-    void CargaDatos(core::Int16 Selección, OperationMask MaskOpera);
+    void CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera);
 
 protected:
     void Form_Load() override;
     void Form_Activate() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override { NuevoProblema(); }
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeMenu();
@@ -33,15 +36,13 @@ private:
     void MnuOpcSal_Click();
 
     void NuevoProblema();
-    void showNextProblem();
 
-    ProblemSession m_session;
     QString m_loadFailure; ///< to be told once the screen has come up
-    StatementBox* TBEnunciado = nullptr;
-    ui::TextBox* TBRespuesta = nullptr;
-    QLabel* LBUnidad = nullptr;
-    ui::VerdictBox* TBCorrecto = nullptr;
-    QLabel* LBEstado = nullptr;
+    StatementBox* TBEnunciado = nullptr; ///< the statement
+    ui::TextBox* TBRespuesta = nullptr; ///< the answer
+    QLabel* LBUnidad = nullptr; ///< the unit behind the answer
+    ui::VerdictBox* TBCorrecto = nullptr; ///< the verdict
+    QLabel* LBEstado = nullptr; ///< the counters
 };
 
 } // namespace problems

@@ -21,7 +21,7 @@ public:
     explicit DLGSelProb(ui::Screens& screens);
 
     /// Receives the choice when "Aceptar" takes it; the dialog's opener sets it.
-    std::function<void(core::Int16 Selección, OperationMask MaskOpera)> CargaDatos;
+    std::function<void(core::Int16 Seleccion, OperationMask MaskOpera)> CargaDatos;
 
 protected:
     void Form_Load() override;

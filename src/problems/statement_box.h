@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/placement.h"
+#include "ui/scaling.h"
 
 #include <QTextEdit>
 

@@ -26,4 +26,20 @@ QString ExerciseCounters::FormatoSimple() const
     return u"Ejercicios: %1 Errores: %2"_s.arg(Ejercicios.value()).arg(Errores.value());
 }
 
+void Exercise::countWhilePending(Verdict verdict)
+{
+    if (Pendiente)
+        countEveryWrong(verdict);
+}
+
+void Exercise::countEveryWrong(Verdict verdict)
+{
+    if (verdict == Verdict::Wrong) {
+        m_counters.countWrong();
+    } else if (verdict == Verdict::Right && Pendiente) {
+        m_counters.countRight();
+        Pendiente = false;
+    }
+}
+
 } // namespace shell

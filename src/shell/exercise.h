@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/int16.h"
+#include "shell/verdict.h"
 
 #include <QString>
 
@@ -22,6 +23,35 @@ struct ExerciseCounters {
     QString FormatoAlineado() const;
     /// "Ejercicios: 0 Errores: 0"
     QString FormatoSimple() const;
+};
+
+/// What the models of the drills share: the counters, whether the exercise is still to be
+/// counted, and the verdict line. The rules of counting differ, and each drill uses one.
+class Exercise {
+public:
+    const ExerciseCounters& counters() const { return m_counters; }
+
+    /// Whether the exercise is still to be counted.
+    bool isPending() const { return Pendiente; }
+
+    /// What the verdict line shows.
+    const VerdictLine& verdict() const { return m_verdict; }
+
+protected:
+    ~Exercise() = default;
+
+    /// While the exercise is pending each wrong answer is one more exercise and one more
+    /// error; the right one is one more exercise and ends the counting. Throws
+    /// core::OverflowError, with nothing changed, when a counter is full.
+    void countWhilePending(Verdict verdict);
+
+    /// Each wrong answer is one more exercise and one more error, whenever it comes; the
+    /// first right one is one more exercise. Throws as above.
+    void countEveryWrong(Verdict verdict);
+
+    ExerciseCounters m_counters;
+    bool Pendiente = true;
+    VerdictLine m_verdict;
 };
 
 } // namespace shell

@@ -1,6 +1,5 @@
 #include "shell/exercise_screen.h"
 
-#include "core/errors.h"
 #include "ui/tray.h"
 
 using namespace Qt::StringLiterals;
@@ -28,17 +27,39 @@ void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& so
         setTabOrder(Command2[1], Command2[0]); // as they stand, from left to right
 }
 
+void ExerciseScreen::Command1_Click()
+{
+    check();
+}
+
+void ExerciseScreen::Command2_Click(int Index)
+{
+    switch (Index) {
+    case 0:
+        nextExercise();
+        break;
+    case 1:
+        clearAnswer();
+        break;
+    default:
+        showSolution();
+        break;
+    }
+}
+
 void ExerciseScreen::enterChecks(QWidget* answerBox)
 {
     onEnter(answerBox, [this] { Command1_Click(); });
 }
 
-void ExerciseScreen::countSilently(const std::function<void()>& count)
+void ExerciseScreen::showVerdict(ui::VerdictBox& box, const VerdictLine& line)
 {
-    try {
-        count();
-    } catch (const core::OverflowError&) {
-    }
+    using Mark = ui::VerdictBox::Mark;
+    const auto verdict = line.verdict();
+    const Mark mark = verdict == Verdict::Right ? Mark::Right
+        : verdict == Verdict::Wrong             ? Mark::Wrong
+                                                : Mark::None;
+    box.setVerdict(line.text(), mark);
 }
 
 bool ExerciseScreen::askToRepeat()

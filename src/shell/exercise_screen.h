@@ -1,16 +1,30 @@
 #pragma once
 
+#include "shell/drill.h"
 #include "ui/screen.h"
+#include "ui/screens.h"
 
 #include <array>
 
 namespace shell {
 
 /// What the drill screens share: the four buttons in their colours, Enter as "&Hecho" in an
-/// answer box, and the question at the end of a series.
+/// answer box, the verdict, and the question at the end of a series.
 class ExerciseScreen : public ui::Screen {
 protected:
     using ui::Screen::Screen;
+
+    /// "&Hecho", and Enter in an answer box.
+    virtual void check() = 0;
+    /// "&Continuar".
+    virtual void nextExercise() = 0;
+    /// "&Borrar".
+    virtual void clearAnswer() = 0;
+    /// "&Ver solución".
+    virtual void showSolution() = 0;
+
+    /// Draws an exercise and shows it.
+    virtual void newExercise() = 0;
 
     /// Where the buttons stand, in twips.
     struct CommandPlaces {
@@ -26,20 +40,32 @@ protected:
     /// Enter in this box does what "&Hecho" does.
     void enterChecks(QWidget* answerBox);
 
-    /// For the screens that show no box, whatever fails: full counters stay as they are.
-    static void countSilently(const std::function<void()>& count);
+    /// Shows the verdict line of the model, with a tick or a cross where it tells a verdict.
+    static void showVerdict(ui::VerdictBox& box, const VerdictLine& line);
 
     /// "Actividad terminada": true when the pupil wants to repeat the series.
     bool askToRepeat();
-
-    virtual void Command1_Click() = 0;
-    virtual void Command2_Click(int Index) = 0;
 
     ui::Button* Command1 = nullptr; ///< "&Hecho"
     std::array<ui::Button*, 3> Command2{}; ///< "&Continuar", "&Borrar", "&Ver solución"
 
 private:
+    void Command1_Click();
+    void Command2_Click(int Index);
     static QString defaultSolutionCaption();
+};
+
+/// The screen of one drill, with its model.
+template <Drill Model> class DrillScreen : public ExerciseScreen {
+protected:
+    DrillScreen(ui::Screens& screens, const QString& name, const QString& caption, double width,
+        double height)
+        : ExerciseScreen(screens, name, caption, width, height)
+        , m_model(screens.random())
+    {
+    }
+
+    Model m_model;
 };
 
 } // namespace shell

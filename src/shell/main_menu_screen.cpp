@@ -27,9 +27,9 @@ QString Form1::screenName()
     return u"Form1"_s;
 }
 
-Form1::Form1(ui::Screens& screens, std::span<const Activity> activities)
+Form1::Form1(ui::Screens& screens, std::vector<Activity> activities)
     : Screen(screens, screenName(), u"PIZARRIN"_s, ClientWidth, ClientHeight)
-    , m_activities(activities.begin(), activities.end())
+    , m_activities(std::move(activities))
 {
     canvas()->setPalette(ui::look::onSlate());
     QAction* about = barItem(u"MnuAce"_s, u"Acerca de..."_s);
@@ -48,7 +48,8 @@ void Form1::Form_Load()
             isExit ? u"&Salir"_s : m_activities.at(index).caption,
             {place.left, place.top, place.width, place.height},
             isExit ? ui::look::Red : ui::look::Green, ButtonFont);
-        button->setIcon(pictogramIcon(isExit ? Pictogram::Exit : static_cast<Pictogram>(i)));
+        button->setIcon(
+            pictogramIcon(isExit ? Pictogram::Exit : m_activities.at(index).pictogram));
         on(button, &QPushButton::clicked, &Form1::Command1_Click, i);
         Command1.push_back(button);
     }

@@ -1,27 +1,18 @@
 #pragma once
 
+#include "shell/activity.h"
 #include "ui/screen.h"
 
-#include <span>
 #include <vector>
 
 namespace shell {
-
-/// An activity of the main menu: its button's caption, the screen it opens, and how.
-struct Activity {
-    enum class Shown { Modal, Modeless };
-
-    QString caption;
-    QString screen;
-    Shown shown = Shown::Modal;
-};
 
 /// The main menu: one button an activity, and "&Salir", which ends the program.
 class Form1 : public ui::Screen {
 public:
     static QString screenName();
 
-    Form1(ui::Screens& screens, std::span<const Activity> activities);
+    Form1(ui::Screens& screens, std::vector<Activity> activities);
 
 protected:
     void Form_Load() override;

@@ -1,7 +1,6 @@
 #include "tables/blackboard.h"
 
 #include "ui/look.h"
-#include "ui/screen.h"
 
 #include <QPainter>
 
@@ -36,7 +35,7 @@ Blackboard::Blackboard(QWidget* parent)
 
 void Blackboard::paintEvent(QPaintEvent*)
 {
-    const double radius = Radius * ui::Screen::factorOf(this);
+    const double radius = Radius * factor();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -59,6 +58,7 @@ BoardText::BoardText(QWidget* parent)
 void BoardText::setFactor(double factor)
 {
     Memo::setFactor(factor);
+    m_board->setFactor(factor);
     centre();
 }
 
@@ -73,7 +73,7 @@ void BoardText::centre()
 {
     const auto lines = static_cast<int>(toPlainText().trimmed().count(u'\n')) + 1;
     const int top = std::max(0, (height() - lines * fontMetrics().lineSpacing()) / 2);
-    const int left = qRound(Margin * ui::Screen::factorOf(this));
+    const int left = qRound(Margin * factor());
     const QMargins margins(left, top, 0, 0);
     if (margins != viewportMargins())
         setViewportMargins(margins);

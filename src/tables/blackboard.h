@@ -12,7 +12,7 @@ namespace tables {
 QPalette chalk();
 
 /// A piece of blackboard behind other controls.
-class Blackboard : public QWidget {
+class Blackboard : public QWidget, public ui::Scalable {
 public:
     explicit Blackboard(QWidget* parent);
 

@@ -1,10 +1,12 @@
 #include "tables/fill_the_gap.h"
 
+#include "core/errors.h"
 #include "core/random.h"
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace tables {
 
@@ -13,7 +15,7 @@ FillTheGap::FillTheGap(core::RandomSource& random)
 {
 }
 
-void FillTheGap::NuevoHueco()
+void FillTheGap::newExercise()
 {
     const core::Int16 previousA = FactorA;
     const core::Int16 previousB = FactorB;
@@ -24,29 +26,23 @@ void FillTheGap::NuevoHueco()
             std::swap(FactorA, FactorB);
     } while (FactorA == previousA || FactorB == previousB);
     Producto = FactorA * FactorB;
-    Contado = false;
+    Pendiente = true;
+    m_verdict.clear();
 }
 
-FillTheGap::Verdict FillTheGap::judge(double answer) const
+shell::Verdict FillTheGap::judge(double answer)
 {
-    return answer == FactorB.value() ? Verdict::Right : Verdict::Wrong;
-}
-
-void FillTheGap::count(Verdict verdict)
-{
-    if (verdict == Verdict::Wrong) {
-        m_counters.countWrong();
-    } else if (!Contado) {
-        m_counters.countRight();
-        Contado = true;
-    }
-}
-
-QString FillTheGap::verdictText(Verdict verdict, QStringView standing)
-{
+    const Verdict verdict = answer == hiddenFactor() ? Verdict::Right : Verdict::Wrong;
     if (verdict == Verdict::Right)
-        return u"Respuesta correcta "_s;
-    return (standing.isEmpty() ? QString() : u" "_s) + u"Respuesta incorrecta"_s;
+        m_verdict.tell(verdict, u"Respuesta correcta "_s);
+    else
+        m_verdict.tell(verdict, u"Respuesta incorrecta"_s, shell::Repeat::BlankInFront);
+    try {
+        countEveryWrong(verdict);
+    } catch (const core::OverflowError&) {
+        // This screen shows no box, whatever fails.
+    }
+    return verdict;
 }
 
 } // namespace tables

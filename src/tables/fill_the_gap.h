@@ -1,9 +1,6 @@
 #pragma once
 
-#include "core/int16.h"
 #include "shell/exercise.h"
-
-#include <QString>
 
 namespace core {
 class RandomSource;
@@ -12,9 +9,10 @@ class RandomSource;
 namespace tables {
 
 /// The rules of the gap: a product is shown without its second factor, which is asked for.
-class FillTheGap {
+class FillTheGap : public shell::Exercise {
 public:
-    enum class Verdict { Right, Wrong };
+    /// The missing factor, read as a number.
+    using Answer = double;
 
     /// random must outlive the model and be seeded before the first exercise.
     explicit FillTheGap(core::RandomSource& random);
@@ -23,31 +21,24 @@ public:
     int hiddenFactor() const { return FactorB.value(); } ///< from the shown one to 10
     int product() const { return Producto.value(); }
 
-    const shell::ExerciseCounters& counters() const { return m_counters; }
-
     /// Whether a right answer to the exercise has been counted.
-    bool isCounted() const { return Contado; }
+    bool Contado() const { return !isPending(); }
 
     /// Draws an exercise that has neither factor in the place where the last one had it.
-    void NuevoHueco();
+    void newExercise();
 
-    Verdict judge(double answer) const;
+    /// Judges and counts: the first right answer to each exercise, and every wrong one. Full
+    /// counters stay as they are, silently.
+    shell::Verdict judge(double answer);
 
-    /// Counts a judged answer: the first right one to each exercise, and every wrong one.
-    /// Throws core::OverflowError, with the counters unchanged, beyond 16 bits.
-    void count(Verdict verdict);
-
-    /// The verdict as it is written over the standing one: a wrong one gets a blank in
-    /// front while there is one, so that the pupil sees that something happened.
-    static QString verdictText(Verdict verdict, QStringView standing);
+    /// The missing factor. A right answer to it still counts: meant.
+    int showSolution() const { return hiddenFactor(); }
 
 private:
     core::RandomSource& m_random;
-    shell::ExerciseCounters m_counters;
     core::Int16 FactorA;
     core::Int16 FactorB;
     core::Int16 Producto;
-    bool Contado = false;
 };
 
 } // namespace tables

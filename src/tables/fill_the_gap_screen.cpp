@@ -8,7 +8,6 @@
 
 using namespace Qt::StringLiterals;
 using ui::look::Family;
-using Mark = ui::VerdictBox::Mark;
 
 namespace tables {
 
@@ -28,8 +27,7 @@ QString FrmMultHuecos::screenName()
 }
 
 FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
-    : ExerciseScreen(screens, screenName(), u"Completa el hueco"_s, Width, Height)
-    , m_model(screens.random())
+    : DrillScreen(screens, screenName(), u"Completa el hueco"_s, Width, Height)
 {
     displayBox(u"TbInstruc"_s, {240, 300, 4200, 400}, ui::look::Instruction, u"Instrucciones"_s,
         u"Completa el Cuadro vacío "_s)
@@ -79,13 +77,13 @@ void FrmMultHuecos::makeButtons()
 void FrmMultHuecos::Form_Load()
 {
     core::seedByTimer(screens().random(), screens().clock());
-    NuevoHueco();
+    newExercise();
     TbTermin[1]->setFocus();
 }
 
 void FrmMultHuecos::NuevoHueco()
 {
-    m_model.NuevoHueco();
+    m_model.newExercise();
     TbTermin[0]->setText(QString::number(m_model.shownFactor()));
     TbSignos[0]->setText(u"x"_s);
     TbTermin[1]->clear();
@@ -97,37 +95,34 @@ void FrmMultHuecos::NuevoHueco()
         *TbTermin[2], u"%1 x … = %2"_s.arg(m_model.shownFactor()).arg(m_model.product()));
 }
 
-void FrmMultHuecos::Command1_Click()
+void FrmMultHuecos::check()
 {
     const auto verdict = m_model.judge(core::readNumber(TbTermin[1]->text()));
-    const bool right = verdict == FillTheGap::Verdict::Right;
-    TbResultado->setVerdict(
-        FillTheGap::verdictText(verdict, TbResultado->text()), right ? Mark::Right : Mark::Wrong);
-    if (right)
+    showVerdict(*TbResultado, m_model.verdict());
+    if (verdict == shell::Verdict::Right)
         Command2[0]->setFocus();
     else
         TbTermin[1]->clear();
-    countSilently([&] { m_model.count(verdict); });
     TbEjercicios->setText(m_model.counters().FormatoSimple());
 }
 
-void FrmMultHuecos::Command2_Click(int Index)
+void FrmMultHuecos::nextExercise()
 {
-    switch (Index) {
-    case 0:
-        NuevoHueco();
-        TbResultado->setVerdict({}, Mark::None);
-        TbTermin[1]->setFocus();
-        break;
-    case 1:
-        TbTermin[1]->clear();
-        TbTermin[1]->setFocus();
-        break;
-    default:
-        TbTermin[1]->setText(QString::number(m_model.hiddenFactor()));
-        Command2[0]->setFocus();
-        break;
-    }
+    newExercise();
+    showVerdict(*TbResultado, m_model.verdict());
+    TbTermin[1]->setFocus();
+}
+
+void FrmMultHuecos::clearAnswer()
+{
+    TbTermin[1]->clear();
+    TbTermin[1]->setFocus();
+}
+
+void FrmMultHuecos::showSolution()
+{
+    TbTermin[1]->setText(QString::number(m_model.showSolution()));
+    Command2[0]->setFocus();
 }
 
 } // namespace tables

@@ -6,7 +6,7 @@
 namespace tables {
 
 /// The gap: a multiplication whose second factor is missing.
-class FrmMultHuecos : public shell::ExerciseScreen {
+class FrmMultHuecos : public shell::DrillScreen<FillTheGap> {
 public:
     static QString screenName();
 
@@ -14,8 +14,11 @@ public:
 
 protected:
     void Form_Load() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override { NuevoHueco(); }
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeRow();
@@ -25,11 +28,10 @@ private:
 
     void NuevoHueco();
 
-    FillTheGap m_model;
-    std::array<ui::TextBox*, 3> TbTermin{};
-    std::array<ui::TextBox*, 2> TbSignos{};
-    ui::VerdictBox* TbResultado = nullptr;
-    ui::TextBox* TbEjercicios = nullptr;
+    std::array<ui::TextBox*, 3> TbTermin{}; ///< the shown factor, the gap, the product
+    std::array<ui::TextBox*, 2> TbSignos{}; ///< the times and the equals sign
+    ui::VerdictBox* TbResultado = nullptr; ///< the verdict
+    ui::TextBox* TbEjercicios = nullptr; ///< the counters
 };
 
 } // namespace tables

@@ -5,6 +5,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace tables {
 
@@ -68,7 +69,7 @@ QString MultiplicationTables::tableText(int half) const
     return text;
 }
 
-void MultiplicationTables::EmpiezaRepaso()
+void MultiplicationTables::newExercise()
 {
     Pregunta = 1;
     for (int i = 0; i < 10; ++i)
@@ -88,19 +89,27 @@ void MultiplicationTables::shuffle()
 
 int MultiplicationTables::multiplier() const
 {
-    return Pregunta < Over ? Orden.at(at(Pregunta.value() - 1)).value() : 0;
+    return !isSeriesOver() ? Orden.at(at(Pregunta.value() - 1)).value() : 0;
 }
 
-MultiplicationTables::Verdict MultiplicationTables::check(double answer)
+QString MultiplicationTables::seriesReport() const
 {
-    if (Pregunta >= Over)
-        return Verdict::AlreadyOver;
+    return u"Has cometido %1 errores. ¿Deseas volver a realizar esta actividad?"_s.arg(
+        seriesErrors());
+}
+
+shell::Verdict MultiplicationTables::judge(double answer)
+{
+    if (isSeriesOver())
+        return Verdict::NotJudged;
     if (answer != product()) {
         ++ErroresRepaso;
+        m_verdict.tell(Verdict::Wrong, u"resultado incorrecto "_s);
         return Verdict::Wrong;
     }
     ++Pregunta;
-    return Pregunta < Over ? Verdict::Right : Verdict::SeriesOver;
+    m_verdict.tell(Verdict::Right, u"Resultado correcto"_s);
+    return Verdict::Right;
 }
 
 } // namespace tables

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/int16.h"
+#include "shell/verdict.h"
 
 #include <QString>
 
@@ -17,12 +18,8 @@ namespace tables {
 /// asked about.
 class MultiplicationTables {
 public:
-    enum class Verdict {
-        Wrong, ///< the same question stands
-        Right, ///< the next question is up
-        SeriesOver, ///< right, and it was the last question
-        AlreadyOver ///< nothing was checked: the series had ended before
-    };
+    /// The product, read as a number.
+    using Answer = double;
 
     static constexpr int Tables = 10;
     static constexpr int Activities = 3;
@@ -46,17 +43,28 @@ public:
     /// Rows 1 to 5 (half 0) or 6 to 10 (half 1) of the table, ten characters a line.
     QString tableText(int half) const;
 
-    /// Starts or restarts the series of the current table.
-    void EmpiezaRepaso();
+    /// Starts or restarts the series of the current table: its ten questions are the exercise.
+    void newExercise();
 
     /// Number of the question, 1 to 10; 11 when the series is over.
     int question() const { return Pregunta.value(); }
+    bool isSeriesOver() const { return Pregunta >= Over; }
     int multiplier() const; ///< 1 to 10; 0 when the series is over
     int product() const { return table() * multiplier(); }
     int seriesErrors() const { return ErroresRepaso.value(); }
 
-    /// Checks an answer, read as a number.
-    Verdict check(double answer);
+    /// "Has cometido 3 errores. …"
+    QString seriesReport() const;
+
+    /// A right answer brings the next question up or ends the series; a wrong one leaves the
+    /// question standing and counts an error. Nothing is judged once the series is over.
+    shell::Verdict judge(double answer);
+
+    const shell::VerdictLine& verdict() const { return m_verdict; }
+    void clearVerdict() { m_verdict.clear(); }
+
+    /// The product; the pupil still confirms it, and it counts as a right answer.
+    int showSolution() const { return product(); }
 
 private:
     static constexpr int Over = 11;
@@ -70,6 +78,7 @@ private:
     core::Int16 ActividadActual;
     core::Int16 Pregunta = 1;
     core::Int16 ErroresRepaso;
+    shell::VerdictLine m_verdict;
 };
 
 } // namespace tables

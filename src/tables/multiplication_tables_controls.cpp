@@ -22,8 +22,7 @@ constexpr ui::look::Font QuestionFont{Family::CourierNew, 26, true};
 } // namespace
 
 Form2::Form2(ui::Screens& screens)
-    : ExerciseScreen(screens, screenName(), QString(), Width, Height)
-    , m_model(screens.random())
+    : DrillScreen(screens, screenName(), QString(), Width, Height)
 {
     makeMenu();
     makeTables();
@@ -82,7 +81,7 @@ void Form2::makeQuestion()
 {
     constexpr double Top = 900;
     constexpr double BoxHeight = 500;
-    TbOperación = {
+    TbOperacion = {
         displayBox(u"TbOperación(0)"_s, {770, Top, 1000, BoxHeight}, QuestionFont, u"Tabla"_s),
         displayBox(
             u"TbOperación(1)"_s, {1810, Top, 500, BoxHeight}, QuestionFont, u"Por"_s, u"×"_s),
@@ -92,11 +91,11 @@ void Form2::makeQuestion()
             u"TbOperación(3)"_s, {3390, Top, 500, BoxHeight}, QuestionFont, u"Igual a"_s, u"="_s),
         entryBox(
             u"TbOperación(4)"_s, {4030, Top, 1000, BoxHeight}, QuestionFont, u"Respuesta"_s)};
-    for (ui::TextBox* box : TbOperación)
+    for (ui::TextBox* box : TbOperacion)
         box->setAlignment(Qt::AlignCenter);
-    enterChecks(TbOperación[4]);
-    onKeyDown(TbOperación[4],
-        [this](int keyCode, Qt::KeyboardModifiers) { return TbOperación_KeyDown(keyCode); });
+    enterChecks(TbOperacion[4]);
+    onKeyDown(TbOperacion[4],
+        [this](int keyCode, Qt::KeyboardModifiers) { return TbOperacion_KeyDown(keyCode); });
 
     Text1 = verdictBox(u"Text1"_s, {1150, 1650, 3600, 450}, u"Resultado"_s);
 }

@@ -55,7 +55,7 @@ void Form2::takeUpActivity()
 {
     setWindowTitle(m_model.caption());
     if (m_model.isReview())
-        EmpiezaRepaso();
+        newExercise();
     else
         TbTabla1->setFocus();
 }
@@ -72,7 +72,7 @@ void Form2::placeForActivity()
     const bool review = m_model.isReview();
     for (QWidget* table : {TbTabla1, TbTabla2})
         show(table, !review, BoxShift);
-    for (QWidget* box : TbOperación)
+    for (QWidget* box : TbOperacion)
         show(box, review, BoxShift);
     for (QWidget* command : Command2)
         show(command, review, CommandShift);
@@ -82,98 +82,92 @@ void Form2::placeForActivity()
 
 void Form2::EmpiezaRepaso()
 {
-    m_model.EmpiezaRepaso();
+    m_model.newExercise();
     showQuestion();
 }
 
 void Form2::showQuestion()
 {
-    TbOperación[0]->setText(QString::number(m_model.table()));
-    TbOperación[2]->setText(QString::number(m_model.multiplier()));
-    TbOperación[4]->clear();
-    TbOperación[4]->setFocus();
+    TbOperacion[0]->setText(QString::number(m_model.table()));
+    TbOperacion[2]->setText(QString::number(m_model.multiplier()));
+    TbOperacion[4]->clear();
+    TbOperacion[4]->setFocus();
     showSigns();
     Command2[2]->setEnabled(false);
-    ui::announce(*TbOperación[2], u"%1 × %2"_s.arg(m_model.table()).arg(m_model.multiplier()));
+    ui::announce(*TbOperacion[2], u"%1 × %2"_s.arg(m_model.table()).arg(m_model.multiplier()));
 }
 
 void Form2::showSigns()
 {
     for (std::size_t i = 0; i < 4; ++i)
-        TbOperación.at(i)->showSelected();
+        TbOperacion.at(i)->showSelected();
 }
 
-void Form2::Command1_Click()
+void Form2::check()
 {
-    using Verdict = MultiplicationTables::Verdict;
-    using Mark = ui::VerdictBox::Mark;
-    const Verdict verdict = m_model.check(core::readNumber(TbOperación[4]->text()));
-    if (verdict == Verdict::AlreadyOver) {
+    const auto verdict = m_model.judge(core::readNumber(TbOperacion[4]->text()));
+    if (verdict == shell::Verdict::NotJudged) {
         if (askToRepeat())
-            EmpiezaRepaso();
+            newExercise();
         return;
     }
-    if (verdict == Verdict::Wrong) {
-        Text1->setVerdict(u"resultado incorrecto "_s, Mark::Wrong);
-        TbOperación[4]->clear();
-        Command2[2]->setEnabled(true);
-    } else {
-        Text1->setVerdict(u"Resultado correcto"_s, Mark::Right);
-    }
+    showVerdict(*Text1, m_model.verdict());
     Text1->showSelected();
-    if (verdict != Verdict::Wrong)
-        SiguientePregunta(verdict == Verdict::SeriesOver);
+    if (verdict == shell::Verdict::Right) {
+        SiguientePregunta();
+    } else {
+        TbOperacion[4]->clear();
+        Command2[2]->setEnabled(true);
+    }
 }
 
-void Form2::SiguientePregunta(bool seriesOver)
+void Form2::SiguientePregunta()
 {
-    if (!seriesOver) {
+    if (!m_model.isSeriesOver())
         showQuestion();
-        return;
-    }
-    const bool again = ui::MessageBox::ask(*this,
-        u"Has cometido %1 errores. ¿Deseas volver a realizar esta actividad?"_s.arg(
-            m_model.seriesErrors()),
-        u"Repaso terminado"_s);
-    if (again)
-        EmpiezaRepaso();
+    else if (ui::MessageBox::ask(*this, m_model.seriesReport(), u"Repaso terminado"_s))
+        newExercise();
     else
         Command3_Click(0);
 }
 
-void Form2::Command2_Click(int Index)
+/// "&Continuar" checks here, as "&Hecho" does: meant.
+void Form2::nextExercise()
 {
-    switch (Index) {
-    case 0:
-        Command1_Click();
-        break;
-    case 1:
-        TbOperación[4]->clear();
-        break;
-    default:
-        TbOperación[4]->setText(QString::number(m_model.product()));
-        TbOperación[4]->selectAll();
-        break;
-    }
-    TbOperación[4]->setFocus();
+    check();
+    TbOperacion[4]->setFocus();
+}
+
+void Form2::clearAnswer()
+{
+    TbOperacion[4]->clear();
+    TbOperacion[4]->setFocus();
+}
+
+void Form2::showSolution()
+{
+    TbOperacion[4]->setText(QString::number(m_model.showSolution()));
+    TbOperacion[4]->selectAll();
+    TbOperacion[4]->setFocus();
 }
 
 void Form2::Command3_Click(int Index)
 {
-    Text1->setVerdict({}, ui::VerdictBox::Mark::None);
+    m_model.clearVerdict();
+    showVerdict(*Text1, m_model.verdict());
     if (Index == 0)
         MnuOpcActLis_Click(m_model.nextActivity());
     else
         MnuOpcTabLis_Click(m_model.nextTable());
 }
 
-ui::KeyResult Form2::TbOperación_KeyDown(int KeyCode)
+ui::KeyResult Form2::TbOperacion_KeyDown(int KeyCode)
 {
     if (KeyCode == ui::key::F5) {
         showSigns();
     } else {
         for (std::size_t i = 0; i < 4; ++i)
-            TbOperación.at(i)->deselect();
+            TbOperacion.at(i)->deselect();
     }
     return ui::KeyResult::Pass;
 }

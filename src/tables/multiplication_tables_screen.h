@@ -6,7 +6,7 @@
 namespace tables {
 
 /// The multiplication tables: study a table, review it in order, review it shuffled.
-class Form2 : public shell::ExerciseScreen {
+class Form2 : public shell::DrillScreen<MultiplicationTables> {
 public:
     static QString screenName();
 
@@ -14,8 +14,11 @@ public:
 
 protected:
     void Form_Load() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override { EmpiezaRepaso(); }
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeMenu();
@@ -25,23 +28,22 @@ private:
     void Command3_Click(int Index);
     void MnuOpcTabLis_Click(int Index);
     void MnuOpcActLis_Click(int Index);
-    ui::KeyResult TbOperación_KeyDown(int KeyCode);
+    ui::KeyResult TbOperacion_KeyDown(int KeyCode);
 
     void EscribeTabla();
     void EmpiezaRepaso();
-    void SiguientePregunta(bool seriesOver);
+    void SiguientePregunta();
     void showQuestion();
     void showSigns();
     void takeUpActivity();
     void placeForActivity();
 
-    MultiplicationTables m_model;
-    ui::MenuList MnuOpcTabLis;
-    ui::Memo* TbTabla1 = nullptr;
-    ui::Memo* TbTabla2 = nullptr;
-    std::array<ui::TextBox*, 5> TbOperación{};
-    ui::VerdictBox* Text1 = nullptr;
-    std::array<ui::Button*, 2> Command3{};
+    ui::MenuList MnuOpcTabLis; ///< the ten tables
+    ui::Memo* TbTabla1 = nullptr; ///< rows 1 to 5
+    ui::Memo* TbTabla2 = nullptr; ///< rows 6 to 10
+    std::array<ui::TextBox*, 5> TbOperacion{}; ///< table, sign, multiplier, sign, answer
+    ui::VerdictBox* Text1 = nullptr; ///< the verdict
+    std::array<ui::Button*, 2> Command3{}; ///< next activity, next table
 };
 
 } // namespace tables

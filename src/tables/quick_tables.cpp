@@ -4,6 +4,7 @@
 #include "core/random.h"
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace tables {
 
@@ -87,11 +88,28 @@ QuickTables::LimitVerdict QuickTables::setLimit(core::Int16 limit)
     return limit < 1 ? LimitVerdict::TooSmall : LimitVerdict::TooLarge;
 }
 
-QuickTables::Events QuickTables::answer(double value)
+QString QuickTables::limitWarning(LimitVerdict verdict)
 {
-    return run([this, value] {
+    const QString size = verdict == LimitVerdict::TooSmall ? u"pequeño"_s : u"grande"_s;
+    return u"Ha especificado un valor demasiado %1. La actividad continuará hasta   que se "
+           "pulse  el botón salir"_s.arg(size);
+}
+
+std::optional<QString> QuickTables::limitFault(const QString& typed) const
+{
+    const double limit = core::roundHalfEven(core::readNumber(typed));
+    if (limit >= core::Int16::Min && limit <= core::Int16::Max)
+        return {};
+    return u"«%1» es demasiado %2. Escribe un número del 1 al %3 y vuelve a empezar."_s.arg(
+        typed.trimmed(), limit < 0 ? u"pequeño"_s : u"grande"_s,
+        QString::number(largestLimit(m_state.FinActividad)));
+}
+
+QuickTables::Events QuickTables::judge(double answer)
+{
+    return run([this, answer] {
         ++m_state.Operaciones;
-        if (value == m_state.Producto.value())
+        if (answer == m_state.Producto.value())
             Acierto();
         else
             Fallo();
@@ -177,6 +195,11 @@ void QuickTables::advance()
     // The first operation is drawn before a limit below 1 is turned down.
     if (m_state.Limite >= 1 && m_state.Progreso >= m_state.Limite)
         end();
+}
+
+QString QuickTables::verdictText(Verdict verdict)
+{
+    return verdict == Verdict::Right ? u"BIEN"_s : u"MAL"_s;
 }
 
 QString QuickTables::operationText() const

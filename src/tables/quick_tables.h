@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/int16.h"
+#include "shell/verdict.h"
 
 #include <QLocale>
 #include <QString>
@@ -26,12 +27,11 @@ public:
 
     /// What ends the drill, in the order of the options on the screen.
     enum class End { Button, Minutes, Operations, Errors };
-    enum class Verdict { Right, Wrong };
     enum class LimitVerdict { Fine, TooSmall, TooLarge };
 
     /// What an answer or a tick brought about, to be shown in this order.
     struct Events {
-        std::optional<Verdict> verdict;
+        std::optional<shell::Verdict> verdict;
         bool newOperation = false;
         bool ended = false;
     };
@@ -70,7 +70,15 @@ public:
     /// only the button ends.
     LimitVerdict setLimit(core::Int16 limit);
 
-    Events answer(double value);
+    /// What to tell of a limit that was turned down.
+    static QString limitWarning(LimitVerdict verdict);
+
+    /// What to tell of a typed limit that no counter can hold, with which no drill starts;
+    /// nothing of any other.
+    std::optional<QString> limitFault(const QString& typed) const;
+
+    /// Judges an answer and counts it.
+    Events judge(double answer);
 
     /// One second has passed for the operation. When none is left, an error is counted and
     /// two operations are drawn, of which the second one stands.
@@ -81,6 +89,9 @@ public:
 
     /// The button ends the drill.
     void end();
+
+    /// The word on the verdict's patch, in the colour of the patch: for screen readers.
+    static QString verdictText(shell::Verdict verdict);
 
     /// The operation as one line: "7 x 8 = ".
     QString operationText() const;
@@ -99,7 +110,7 @@ private:
     void NuevaOperacion();
     void Acierto();
     void Fallo();
-    void countUse(Verdict verdict);
+    void countUse(shell::Verdict verdict);
     void advance();
 
     core::RandomSource& m_random;

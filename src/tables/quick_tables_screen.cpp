@@ -83,7 +83,7 @@ void Form8::makeTime()
 {
     constexpr double Top = 1980;
     constexpr double RowHeight = 600;
-    LBOperación = label(u"LBOperación"_s, {}, {240, Top, 1860, RowHeight}, LineFont);
+    LBOperacion = label(u"LBOperación"_s, {}, {240, Top, 1860, RowHeight}, LineFont);
     LBTiempo = label(u"LBTiempo"_s, {}, {2160, Top, 960, RowHeight}, TimeFont);
     LBTiempo->setAlignment(Qt::AlignCenter);
     m_bar = add(new CountdownBar(canvas()), {}, ui::TwipRect{3300, Top, 2340, RowHeight});
@@ -143,6 +143,11 @@ void Form8::Command1_Click()
 
 void Form8::start()
 {
+    if (const auto fault = m_model.limitFault(Text1->text())) {
+        ui::MessageBox::show(
+            *this, *fault, ui::MessageBox::programTitle(), ui::Icon::Exclamation);
+        return;
+    }
     play(m_model.start(core::readInt16(Text1->text())));
     if (m_model.ended())
         return;
@@ -159,19 +164,14 @@ void Form8::start()
 
 void Form8::warnOfLimit(QuickTables::LimitVerdict verdict)
 {
-    if (verdict == QuickTables::LimitVerdict::Fine)
-        return;
-    const QString size =
-        verdict == QuickTables::LimitVerdict::TooSmall ? u"pequeño"_s : u"grande"_s;
-    ui::MessageBox::show(*this,
-        u"Ha especificado un valor demasiado %1. La actividad continuará hasta   que se "
-        "pulse  el botón salir"_s.arg(size),
-        ui::MessageBox::programTitle(), ui::Icon::Exclamation);
+    if (verdict != QuickTables::LimitVerdict::Fine)
+        ui::MessageBox::show(*this, QuickTables::limitWarning(verdict),
+            ui::MessageBox::programTitle(), ui::Icon::Exclamation);
 }
 
 void Form8::TbDatos_KeyPress()
 {
-    play(m_model.answer(core::readNumber(TbDatos[4]->text())));
+    play(m_model.judge(core::readNumber(TbDatos[4]->text())));
 }
 
 void Form8::Timer1_Timer()
@@ -201,14 +201,15 @@ void Form8::play(const QuickTables::Events& events)
         finish();
 }
 
-void Form8::showVerdict(QuickTables::Verdict verdict)
+void Form8::showVerdict(shell::Verdict verdict)
 {
-    if (verdict == QuickTables::Verdict::Right) {
-        TBResul->setPatch(u"BIEN"_s, Mark::Right, QColor(ui::look::Green));
+    const QString text = QuickTables::verdictText(verdict);
+    if (verdict == shell::Verdict::Right) {
+        TBResul->setPatch(text, Mark::Right, QColor(ui::look::Green));
         return;
     }
     QApplication::beep();
-    TBResul->setPatch(u"MAL"_s, Mark::Wrong, QColor(ui::look::Red));
+    TBResul->setPatch(text, Mark::Wrong, QColor(ui::look::Red));
 }
 
 void Form8::showOperation()
@@ -216,8 +217,8 @@ void Form8::showOperation()
     TbDatos[0]->setText(QString::number(m_model.state().FactorA.value()));
     TbDatos[2]->setText(QString::number(m_model.state().FactorB.value()));
     TbDatos[4]->clear();
-    LBOperación->setText(m_model.operationText());
-    ui::announce(*LBOperación, m_model.operationText());
+    LBOperacion->setText(m_model.operationText());
+    ui::announce(*LBOperacion, m_model.operationText());
     showRemaining(); // the label keeps its colour until the next second
 }
 

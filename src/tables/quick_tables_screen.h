@@ -37,25 +37,25 @@ private:
     void start();
     void warnOfLimit(QuickTables::LimitVerdict verdict);
     void play(const QuickTables::Events& events);
-    void showVerdict(QuickTables::Verdict verdict);
+    void showVerdict(shell::Verdict verdict);
     void showOperation();
     void showTime();
     void showRemaining();
     void finish();
 
     QuickTables m_model;
-    QGroupBox* Frame1 = nullptr;
-    std::array<QRadioButton*, 4> Option1{};
-    QLabel* Label1 = nullptr;
-    ui::TextBox* Text1 = nullptr;
-    ui::Button* Command1 = nullptr;
-    std::array<ui::TextBox*, 5> TbDatos{};
-    QLabel* LBOperación = nullptr;
-    QLabel* LBTiempo = nullptr;
+    QGroupBox* Frame1 = nullptr; ///< holds the end options; hidden while the drill runs
+    std::array<QRadioButton*, 4> Option1{}; ///< what ends the drill
+    QLabel* Label1 = nullptr; ///< what the limit counts
+    ui::TextBox* Text1 = nullptr; ///< the limit
+    ui::Button* Command1 = nullptr; ///< starts and ends the drill
+    std::array<ui::TextBox*, 5> TbDatos{}; ///< factor, sign, factor, sign, answer
+    QLabel* LBOperacion = nullptr; ///< the operation as one line
+    QLabel* LBTiempo = nullptr; ///< the seconds left
     CountdownBar* m_bar = nullptr;
-    VerdictPatch* TBResul = nullptr;
-    QTimer* Timer1 = nullptr;
-    QTimer* Timer2 = nullptr;
+    VerdictPatch* TBResul = nullptr; ///< the verdict as a patch of colour
+    QTimer* Timer1 = nullptr; ///< a tick a second for the operation
+    QTimer* Timer2 = nullptr; ///< a tick a second for the limit of minutes
 };
 
 } // namespace tables

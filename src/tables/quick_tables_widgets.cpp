@@ -1,7 +1,6 @@
 #include "tables/quick_tables_widgets.h"
 
 #include "ui/look.h"
-#include "ui/screen.h"
 
 #include <QPainter>
 
@@ -39,13 +38,12 @@ void VerdictPatch::setPatch(const QString& text, Mark mark, const QColor& colour
 void VerdictPatch::paintEvent(QPaintEvent* event)
 {
     if (mark() != Mark::None) {
-        const double factor = ui::Screen::factorOf(this);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(palette().color(QPalette::Base));
         drawRounded(
-            painter, QRectF(rect()).adjusted(PatchLeft * factor, 0, 0, 0), Radius * factor);
+            painter, QRectF(rect()).adjusted(PatchLeft * factor(), 0, 0, 0), Radius * factor());
     }
     VerdictBox::paintEvent(event);
 }
@@ -66,18 +64,17 @@ void CountdownBar::paintEvent(QPaintEvent*)
 {
     if (!m_colour.isValid())
         return;
-    const double factor = ui::Screen::factorOf(this);
     const QRectF track = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(ui::look::Edge), factor));
+    painter.setPen(QPen(QColor(ui::look::Edge), factor()));
     painter.setBrush(QColor(ui::look::Card));
-    drawRounded(painter, track, Radius * factor);
-    painter.setPen(QPen(m_colour.darker(166), factor));
+    drawRounded(painter, track, Radius * factor());
+    painter.setPen(QPen(m_colour.darker(166), factor()));
     painter.setBrush(m_colour);
     QRectF left = track;
     left.setWidth(track.width() * m_share);
-    drawRounded(painter, left, Radius * factor);
+    drawRounded(painter, left, Radius * factor());
 }
 
 } // namespace tables

@@ -18,7 +18,7 @@ protected:
 };
 
 /// The time that is left, as a bar that empties. Not to be seen before it is first set.
-class CountdownBar : public QWidget {
+class CountdownBar : public QWidget, public ui::Scalable {
 public:
     explicit CountdownBar(QWidget* parent);
 

@@ -1,8 +1,10 @@
 #include "tables/repeated_sum.h"
 
+#include "core/errors.h"
 #include "core/random.h"
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace tables {
 
@@ -11,38 +13,41 @@ RepeatedSum::RepeatedSum(core::RandomSource& random)
 {
 }
 
-void RepeatedSum::NuevaSuma()
+void RepeatedSum::newExercise()
 {
     m_canContinue = true;
     Sumando = core::drawInteger(m_random, 10, 1);
     Veces = core::drawInteger(m_random, 9, 2);
     Pendiente = true;
+    m_verdict.clear();
 }
 
-RepeatedSum::Verdict RepeatedSum::judge(double a, double b) const
+bool RepeatedSum::isRight(const Answer& answer) const
 {
-    const bool right = (a == addend() && b == times()) || (a == times() && b == addend());
-    return right ? Verdict::Right : Verdict::Wrong;
+    return (answer.first == addend() && answer.second == times())
+        || (answer.first == times() && answer.second == addend());
 }
 
-void RepeatedSum::count(Verdict verdict)
+shell::Verdict RepeatedSum::judge(const Answer& answer)
 {
-    const bool wrong = verdict == Verdict::Wrong;
-    if (wrong)
-        m_canContinue = false;
-    if (!Pendiente)
-        return;
-    if (wrong)
-        m_counters.countWrong();
-    else
-        m_counters.countRight();
-    Pendiente = wrong;
+    const Verdict verdict = isRight(answer) ? Verdict::Right : Verdict::Wrong;
+    m_verdict.tell(
+        verdict, verdict == Verdict::Right ? u"Respuesta correcta"_s : u"Respuesta incorrecta"_s);
+    if (verdict == Verdict::Wrong)
+        m_canContinue = false; // and a right answer that follows does not set it again: meant
+    try {
+        countWhilePending(verdict);
+    } catch (const core::OverflowError&) {
+        // This screen shows no box, whatever fails.
+    }
+    return verdict;
 }
 
 void RepeatedSum::showSolution()
 {
     m_canContinue = true;
     Pendiente = false;
+    m_verdict.show(u"%1 por %2"_s.arg(addend()).arg(times()));
 }
 
 QString RepeatedSum::sumText() const
@@ -56,11 +61,6 @@ QString RepeatedSum::sumText() const
             text += u"\r\n"_s;
     }
     return text;
-}
-
-QString RepeatedSum::solutionText() const
-{
-    return u"%1 por %2"_s.arg(addend()).arg(times());
 }
 
 } // namespace tables

@@ -8,7 +8,6 @@
 
 using namespace Qt::StringLiterals;
 using ui::look::Family;
-using Mark = ui::VerdictBox::Mark;
 
 namespace tables {
 
@@ -44,8 +43,7 @@ QString Form4::screenName()
 }
 
 Form4::Form4(ui::Screens& screens)
-    : ExerciseScreen(screens, screenName(), u"SUMA REPETIDA"_s, Width, Height)
-    , m_model(screens.random())
+    : DrillScreen(screens, screenName(), u"SUMA REPETIDA"_s, Width, Height)
 {
     makeBoxes();
     makeButtons();
@@ -91,56 +89,48 @@ void Form4::makeButtons()
 void Form4::Form_Load()
 {
     core::seedBySecondsTwice(screens().random(), screens().clock());
-    NuevaSuma();
+    newExercise();
     Text3[0]->setFocus();
 }
 
 void Form4::NuevaSuma()
 {
-    m_model.NuevaSuma();
+    m_model.newExercise();
     Command2[0]->setEnabled(m_model.canContinue());
     TbSuma->setPlainText(m_model.sumText());
     ui::announce(*TbSuma, m_model.sumText());
-    Text1->setVerdict({}, Mark::None);
-    clearAnswer();
+    showVerdict(*Text1, m_model.verdict());
+    emptyFactors();
     TbSuma->setFocus();
 }
 
-void Form4::clearAnswer()
+void Form4::emptyFactors()
 {
     Text3[0]->clear();
     Text3[2]->clear();
 }
 
-void Form4::Command1_Click()
+void Form4::check()
 {
-    const RepeatedSum::Verdict verdict =
-        m_model.judge(core::readNumber(Text3[0]->text()), core::readNumber(Text3[2]->text()));
-    const bool right = verdict == RepeatedSum::Verdict::Right;
-    Text1->setVerdict(right ? u"Respuesta correcta"_s : u"Respuesta incorrecta"_s,
-        right ? Mark::Right : Mark::Wrong);
-    countSilently([&] { m_model.count(verdict); });
+    const auto verdict =
+        m_model.judge({core::readNumber(Text3[0]->text()), core::readNumber(Text3[2]->text())});
+    showVerdict(*Text1, m_model.verdict());
     Command2[0]->setEnabled(m_model.canContinue());
     tbResultados->setText(m_model.counters().FormatoAlineado());
-    if (right)
+    if (verdict == shell::Verdict::Right)
         Command2[0]->setFocus(); // it keeps where it is while "&Continuar" is disabled
 }
 
-void Form4::Command2_Click(int Index)
+void Form4::nextExercise()
 {
-    switch (Index) {
-    case 0:
-        NuevaSuma();
-        Text3[0]->setFocus();
-        break;
-    case 1:
-        clearAnswer();
-        Text3[0]->setFocus();
-        break;
-    default:
-        showSolution();
-        break;
-    }
+    newExercise();
+    Text3[0]->setFocus();
+}
+
+void Form4::clearAnswer()
+{
+    emptyFactors();
+    Text3[0]->setFocus();
 }
 
 void Form4::showSolution()
@@ -149,7 +139,7 @@ void Form4::showSolution()
     Text3[0]->setText(QString::number(m_model.addend()));
     Text3[2]->setText(QString::number(m_model.times()));
     Command2[0]->setEnabled(m_model.canContinue());
-    Text1->setVerdict(m_model.solutionText(), Mark::None);
+    showVerdict(*Text1, m_model.verdict());
 }
 
 } // namespace tables

@@ -8,7 +8,7 @@ namespace tables {
 class BoardText;
 
 /// The repeated sum: a sum of equal addends, to be written as a multiplication.
-class Form4 : public shell::ExerciseScreen {
+class Form4 : public shell::DrillScreen<RepeatedSum> {
 public:
     static QString screenName();
 
@@ -16,22 +16,23 @@ public:
 
 protected:
     void Form_Load() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override { NuevaSuma(); }
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeBoxes();
     void makeButtons();
 
     void NuevaSuma();
-    void clearAnswer();
-    void showSolution();
+    void emptyFactors();
 
-    RepeatedSum m_model;
-    BoardText* TbSuma = nullptr;
-    std::array<ui::TextBox*, 3> Text3{};
-    ui::VerdictBox* Text1 = nullptr;
-    ui::TextBox* tbResultados = nullptr;
+    BoardText* TbSuma = nullptr; ///< the sum
+    std::array<ui::TextBox*, 3> Text3{}; ///< the first factor, the sign between, the second
+    ui::VerdictBox* Text1 = nullptr; ///< the verdict
+    ui::TextBox* tbResultados = nullptr; ///< the counters
 };
 
 } // namespace tables

@@ -2,8 +2,9 @@
 
 #include "ui/application.h"
 #include "ui/box_strip.h"
+#include "ui/handler_guard.h"
 #include "ui/look.h"
-#include "ui/screen.h"
+#include "ui/scaling.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -105,48 +106,52 @@ QMessageBox::Icon toQtIcon(Icon icon)
     return QMessageBox::NoIcon;
 }
 
-QWidget* parentOf(Screen& owner)
+QWidget* parentOf(HandlerGuard& owner)
 {
-    return owner.isVisible() ? &owner : QApplication::activeWindow();
+    QWidget& window = owner.guardedWindow();
+    return window.isVisible() ? &window : QApplication::activeWindow();
 }
 
 /// Runs a box as owner's. The box lives on the heap: it is deleted with its parent when
 /// that is unloaded behind it.
-void run(Screen& owner, const QPointer<QDialog>& box)
+void run(HandlerGuard& owner, const QPointer<QDialog>& box)
 {
     BoxStrip::layUnderButtons(*box);
-    const Screen::Waiting waiting(owner, box);
-    box->exec();
-    if (box)
-        box->deleteLater();
+    owner.wait(box, [&box] {
+        box->exec();
+        if (box)
+            box->deleteLater();
+    });
 }
 
 /// Lets the text be as wide as its longest line, up to a measure that grows with the font.
 /// Left alone, the box would wrap at the same number of pixels at every factor.
-void widen(const Box& box, const Screen& owner)
+void widen(const Box& box, const QWidget& owner)
 {
+    const double factor = factorOf(&owner);
     auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
     if (label == nullptr)
         return;
     const QFontMetrics metrics(box.font());
     label->setIndent(0);
-    int longest = qRound(ShortestLine * owner.factor());
+    int longest = qRound(ShortestLine * factor);
     for (const QString& line : box.text().split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
     const int display = owner.screen()->availableGeometry().width();
     const int room = static_cast<int>(LargestShare * display) - BoxFrame;
-    label->setMinimumWidth(std::min({longest, qRound(LongestLine * owner.factor()), room}));
+    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), room}));
 }
 
-QPointer<Box> makeBox(Screen& owner, const QString& text, const QString& title, bool question)
+QPointer<Box> makeBox(
+    HandlerGuard& owner, const QString& text, const QString& title, bool question)
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
-    box->setFont(look::scaled(look::BoxText, owner.factor()));
+    box->setFont(look::scaled(look::BoxText, factorOf(&owner.guardedWindow())));
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
-    widen(*box, owner);
+    widen(*box, owner.guardedWindow());
     return box;
 }
 
@@ -164,7 +169,7 @@ QString MessageBox::programTitle()
     return u"Pizarrin"_s;
 }
 
-void MessageBox::show(Screen& owner, const QString& text, const QString& title, Icon icon)
+void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon)
 {
     const QPointer<Box> box = makeBox(owner, text, title, false);
     box->setIcon(toQtIcon(icon));
@@ -172,7 +177,7 @@ void MessageBox::show(Screen& owner, const QString& text, const QString& title, 
     run(owner, box.data());
 }
 
-bool MessageBox::ask(Screen& owner, const QString& text, const QString& title)
+bool MessageBox::ask(HandlerGuard& owner, const QString& text, const QString& title)
 {
     const QPointer<Box> box = makeBox(owner, text, title, true);
     QPushButton* yes = addButton(*box, u"Sí"_s, QMessageBox::YesRole);
@@ -184,22 +189,23 @@ bool MessageBox::ask(Screen& owner, const QString& text, const QString& title)
     return answer;
 }
 
-QString InputBox::ask(Screen& owner, const QString& prompt, const QString& title)
+QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString& title)
 {
+    const double factor = factorOf(&owner.guardedWindow());
     const QPointer<QInputDialog> box(new QInputDialog(parentOf(owner)));
-    box->setFont(look::scaled(look::BoxText, owner.factor()));
+    box->setFont(look::scaled(look::BoxText, factor));
     box->setWindowTitle(title);
     box->setOkButtonText(u"Aceptar"_s);
     box->setCancelButtonText(u"Cancelar"_s);
     box->setLabelText(prompt);
-    box->resize(qRound(InputWidth * owner.factor()), box->height());
+    box->resize(qRound(InputWidth * factor), box->height());
     if (auto* label = box->findChild<QLabel*>()) {
         label->setBuddy(nullptr); // else an "&1" in the prompt would be an access key
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
     if (auto* edit = box->findChild<QLineEdit*>()) {
-        const int margin = qRound(look::BoxMargin * owner.factor());
+        const int margin = qRound(look::BoxMargin * factor);
         edit->setTextMargins(margin, 0, margin, 0);
         edit->setAccessibleName(prompt.isEmpty() ? title : prompt);
     }

@@ -4,7 +4,7 @@
 
 namespace ui {
 
-class Screen;
+class HandlerGuard;
 
 enum class Icon { None, Information, Exclamation, Critical };
 
@@ -15,11 +15,12 @@ enum class Icon { None, Information, Exclamation, Critical };
 class MessageBox {
 public:
     /// Shows a text, exactly as given, with "Aceptar".
-    static void show(Screen& owner, const QString& text, const QString& title = programTitle(),
-        Icon icon = Icon::None);
+    static void show(HandlerGuard& owner, const QString& text,
+        const QString& title = programTitle(), Icon icon = Icon::None);
 
     /// Asks with "Sí" and "No"; true for "Sí". There is no way out but an answer.
-    static bool ask(Screen& owner, const QString& text, const QString& title = programTitle());
+    static bool ask(
+        HandlerGuard& owner, const QString& text, const QString& title = programTitle());
 
     static QString programTitle();
 };
@@ -27,10 +28,7 @@ public:
 class InputBox {
 public:
     /// Asks for a text with "Aceptar" and "Cancelar"; empty when cancelled.
-    static QString ask(Screen& owner, const QString& prompt, const QString& title);
+    static QString ask(HandlerGuard& owner, const QString& prompt, const QString& title);
 };
-
-/// Thrown through a handler whose screen was unloaded while it waited; never shown.
-class ScreenUnloaded { };
 
 } // namespace ui

@@ -2,7 +2,6 @@
 
 #include "ui/faces.h"
 #include "ui/look.h"
-#include "ui/screen.h"
 #include "ui/tray.h"
 
 #include <QApplication>
@@ -20,11 +19,6 @@ namespace ui {
 namespace {
 
 constexpr double Radius = 12; // pixels at factor 1
-
-int ringWidth(const QWidget* widget)
-{
-    return static_cast<int>(std::ceil(look::RingWidth * Screen::factorOf(widget)));
-}
 
 bool isOnlyRead(const QWidget* widget)
 {
@@ -66,14 +60,19 @@ void FocusRing::surround()
         hide();
         return;
     }
-    const int width = ringWidth(this);
+    const int width = ringWidth();
     const QPoint origin = m_focused->mapTo(parentWidget(), QPoint(0, 0));
     QRect place(origin, m_focused->size());
     if (const auto* button = qobject_cast<const QPushButton*>(m_focused.data()))
-        place = buttonFace(place, !button->icon().isNull(), Screen::factorOf(this));
+        place = buttonFace(place, !button->icon().isNull(), factor());
     setGeometry(place.adjusted(-width, -width, width, width));
     raise();
     show();
+}
+
+int FocusRing::ringWidth() const
+{
+    return static_cast<int>(std::ceil(look::RingWidth * factor()));
 }
 
 bool FocusRing::eventFilter(QObject* watched, QEvent* event)
@@ -96,9 +95,8 @@ void FocusRing::paintEvent(QPaintEvent*)
 {
     if (!m_focused)
         return;
-    const double full = look::RingWidth * Screen::factorOf(this);
-    const double width =
-        isOnlyRead(m_focused) ? look::QuietRingWidth * Screen::factorOf(this) : full;
+    const double full = look::RingWidth * factor();
+    const double width = isOnlyRead(m_focused) ? look::QuietRingWidth * factor() : full;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(
@@ -106,7 +104,7 @@ void FocusRing::paintEvent(QPaintEvent*)
                                      : parentWidget()->palette().color(QPalette::Highlight),
             width));
     const double inset = full - width / 2; // next to the edge of the control
-    const double radius = Radius * Screen::factorOf(this);
+    const double radius = Radius * factor();
     painter.drawRoundedRect(
         QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
 }

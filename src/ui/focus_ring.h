@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/scaling.h"
+
 #include <QPointer>
 #include <QWidget>
 
@@ -8,7 +10,7 @@ namespace ui {
 /// The ring around the control that has the focus, drawn outside its edge. Stands on a
 /// screen's canvas, above the controls, and follows the focus by itself. White where it
 /// stands on slate, else the highlight of the canvas's palette; thin around what is only read.
-class FocusRing : public QWidget {
+class FocusRing : public QWidget, public Scalable {
 public:
     explicit FocusRing(QWidget* canvas);
 
@@ -20,6 +22,7 @@ protected:
 private:
     void follow(QWidget* focused);
     void surround();
+    int ringWidth() const;
 
     QPointer<QWidget> m_focused;
 };

@@ -12,6 +12,8 @@ namespace ui::look {
 
 namespace {
 
+constexpr int LastResorts = 2; // the names at the end that are found on every system
+
 bool isInstalled(const QStringList& names)
 {
     return std::any_of(names.begin(), names.end(),
@@ -24,9 +26,10 @@ public:
     Travelling(QStringList names, const QString& prefix)
         : m_names(std::move(names))
     {
-        // The last two names are those of every system.
-        if (!isInstalled(m_names.first(m_names.size() - 2)))
-            loadFonts(QCoreApplication::applicationDirPath() + u"/fonts"_s, prefix);
+        const QString folder = QCoreApplication::applicationDirPath() + u"/fonts"_s;
+        // Asking for the installed ones reads all of them: first whether there is any need.
+        if (QDir(folder).exists() && !isInstalled(m_names.first(m_names.size() - LastResorts)))
+            loadFonts(folder, prefix);
     }
 
     const QStringList& names() const { return m_names; }

@@ -44,6 +44,7 @@ ListBox::ListBox(QWidget* parent, Start start)
 
 void ListBox::setFactor(double factor)
 {
+    Scalable::setFactor(factor);
     const int corner = qRound(look::CornerMargin * factor);
     setViewportMargins(corner, corner, corner, corner);
 }

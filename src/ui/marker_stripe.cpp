@@ -1,7 +1,7 @@
 #include "ui/marker_stripe.h"
 
 #include "ui/look.h"
-#include "ui/screen.h"
+#include "ui/scaling.h"
 #include "ui/text_box.h"
 
 #include <QEvent>
@@ -57,7 +57,7 @@ void MarkerStripe::follow()
         if (box && box->hasSelectedText() && box->isVisibleTo(parentWidget()))
             covered |= textPlace(*box);
     }
-    const int overlap = qRound(Overlap * Screen::factorOf(this));
+    const int overlap = qRound(Overlap * factorOf(this));
     setGeometry(covered.adjusted(-overlap, 0, overlap, 0));
     setVisible(!covered.isNull());
 }
@@ -80,7 +80,7 @@ bool MarkerStripe::eventFilter(QObject* watched, QEvent* event)
 
 void MarkerStripe::paintEvent(QPaintEvent*)
 {
-    const double factor = Screen::factorOf(this);
+    const double factor = factorOf(this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

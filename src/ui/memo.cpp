@@ -30,7 +30,7 @@ Memo::Memo(Kind kind, QWidget* parent)
 
 void Memo::setFactor(double factor)
 {
-    m_factor = factor;
+    Scalable::setFactor(factor);
     const bool entry = m_kind == Kind::Entry;
     const int corner = entry ? qRound(look::CornerMargin * factor) : 0;
     setViewportMargins(corner, corner, corner, corner);
@@ -64,7 +64,7 @@ void Memo::paintEvent(QPaintEvent* event)
     if (!hasFocus() || isReadOnly() || textCursor().hasSelection())
         return;
     QRect caret = cursorRect();
-    caret.setWidth(std::max(1, qRound(look::CaretWidth * m_factor)));
+    caret.setWidth(std::max(1, qRound(look::CaretWidth * factor())));
     QPainter(viewport()).fillRect(caret, QColor(look::Focus));
 }
 

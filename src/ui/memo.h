@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/placement.h"
+#include "ui/scaling.h"
 
 #include <QPlainTextEdit>
 
@@ -28,7 +28,6 @@ private:
     void setSurface(QRgb surface);
 
     Kind m_kind;
-    double m_factor = 1;
 };
 
 } // namespace ui

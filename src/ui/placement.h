@@ -22,11 +22,4 @@ inline constexpr double TwipsPerPixel = 15;
 /// controls that touch in twips touch in pixels.
 QRect toPixels(const TwipRect& place, double factor);
 
-/// A control that keeps measures of its own (margins, pens) and wants to know the factor.
-class Scalable {
-public:
-    virtual ~Scalable() = default;
-    virtual void setFactor(double factor) = 0;
-};
-
 } // namespace ui

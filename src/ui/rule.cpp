@@ -14,16 +14,10 @@ Rule::Rule(QWidget* parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void Rule::setFactor(double factor)
-{
-    m_factor = factor;
-    update();
-}
-
 void Rule::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(0, 0, width(), std::max(1, qRound(2 * m_factor)), QColor(look::Ink));
+    painter.fillRect(0, 0, width(), std::max(1, qRound(2 * factor())), QColor(look::Ink));
 }
 
 } // namespace ui

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/placement.h"
+#include "ui/scaling.h"
 
 #include <QWidget>
 
@@ -14,13 +14,8 @@ public:
 
     explicit Rule(QWidget* parent);
 
-    void setFactor(double factor) override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    double m_factor = 1;
 };
 
 } // namespace ui

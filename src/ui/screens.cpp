@@ -4,7 +4,6 @@
 #include "ui/screen.h"
 
 #include <QCoreApplication>
-#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -52,22 +51,21 @@ Screen& Screens::load(const QString& name)
         installToolkitTexts();
     const QPointer<Screen> screen(m_factories.at(name)(*this));
     m_loaded.emplace_back(screen); // at once: what Form_Load lets run must not make a second
+    QObject::connect(
+        screen, &Screen::unloaded, screen, [this, made = screen.data()] { forget(*made); });
     try {
-        screen->m_loading = true;
-        screen->Form_Load();
-        screen->m_loading = false;
+        screen->load();
     } catch (...) {
         delete screen.data();
         throw;
     }
-    screen->comeUp();
     return *screen;
 }
 
 void Screens::show(const QString& name)
 {
     Screen& screen = load(name);
-    if (screen.m_loading) // whoever loads it will show it
+    if (screen.isLoading()) // whoever loads it will show it
         return;
     screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
     screen.show();
@@ -79,16 +77,10 @@ void Screens::showModal(const QString& name, Screen& owner, std::function<void()
 {
     Screen& screen = load(name);
     const QPointer<Screen> waiter(&owner);
-    screen.m_whenClosed = [waiter, then = std::move(then)] {
+    screen.showModal(owner, [waiter, then = std::move(then)] {
         if (waiter && then)
             waiter->guarded(then);
-    };
-    screen.setWindowModality(Qt::ApplicationModal);
-    screen.winId(); // makes the window, so that it can be tied to its owner's
-    owner.winId();
-    screen.windowHandle()->setTransientParent(owner.windowHandle());
-    screen.show();
-    screen.activateWindow();
+    });
 }
 
 void Screens::unload(const QString& name)

@@ -75,8 +75,6 @@ public:
     static double initialFactor(double windowHeight, double freeHeight);
 
 private:
-    friend class Screen;
-
     void forget(Screen& screen);
     void unloadRest();
 

@@ -54,7 +54,7 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
 void SquaredBox::setBlankRun(int blanks)
 {
     m_blankRun = blanks;
-    setFactor(m_factor);
+    setFactor(factor());
 }
 
 void SquaredBox::setSquare(double width, double height, double top)
@@ -64,19 +64,19 @@ void SquaredBox::setSquare(double width, double height, double top)
     m_width = width;
     m_height = height;
     m_top = top;
-    setFactor(m_factor);
+    setFactor(factor());
 }
 
 void SquaredBox::setLeftAligned(double indent)
 {
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_indent = indent;
-    setFactor(m_factor);
+    setFactor(factor());
 }
 
 void SquaredBox::setFactor(double factor)
 {
-    m_factor = factor;
+    Scalable::setFactor(factor);
     const double pixels = factor / TwipsPerPixel;
     QFont type = font();
     type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
@@ -121,14 +121,14 @@ void SquaredBox::paintEvent(QPaintEvent* event)
             strip(lineBefore(selectionStart()), lineBefore(selectionEnd())), m_highlight);
     } else if (hasFocus() && !isReadOnly() && hereSquare().isValid()) {
         QPainter painter(this);
-        drawHere(painter, hereSquare(), m_factor);
+        drawHere(painter, hereSquare(), factor());
     }
     TextBox::paintEvent(event);
 }
 
 double SquaredBox::squarePixels() const
 {
-    return m_width * m_factor / TwipsPerPixel;
+    return m_width * factor() / TwipsPerPixel;
 }
 
 /// How many squares the text from an index on takes up.
@@ -143,7 +143,7 @@ int SquaredBox::columnsFrom(int index) const
 double SquaredBox::lineBefore(int index) const
 {
     const bool fromLeft = alignment() & Qt::AlignLeft;
-    const double indent = m_indent * m_factor / TwipsPerPixel;
+    const double indent = m_indent * factor() / TwipsPerPixel;
     const double length = columnsFrom(0) * squarePixels();
     if (indent + length <= width() + 1)
         return (fromLeft ? indent + length : width()) - columnsFrom(index) * squarePixels();
@@ -155,7 +155,7 @@ double SquaredBox::lineBefore(int index) const
 
 QRect SquaredBox::strip(double left, double right) const
 {
-    const double pixels = m_factor / TwipsPerPixel;
+    const double pixels = factor() / TwipsPerPixel;
     return QRect(QPoint(qRound(left), qRound(m_top * pixels)),
         QPoint(qRound(right) - 1, qRound((m_top + m_height) * pixels) - 1));
 }
@@ -177,8 +177,8 @@ QRect SquaredBox::caretRect() const
 {
     if (hereSquare().isValid())
         return {};
-    const int thickness = std::max(1, qRound(look::CaretWidth * m_factor));
-    const int gap = qRound(std::min(CaretGap * m_factor, CaretGapShare * squarePixels()));
+    const int thickness = std::max(1, qRound(look::CaretWidth * factor()));
+    const int gap = qRound(std::min(CaretGap * factor(), CaretGapShare * squarePixels()));
     const int at = qRound(lineBefore(cursorPosition())) - thickness / 2;
     const int left = std::clamp(at, gap, std::max(gap, width() - gap - thickness));
     return strip(left, left + thickness);

@@ -43,7 +43,6 @@ private:
     QRect hereSquare() const;
 
     QColor m_highlight;
-    double m_factor = 1;
     double m_width = 250;
     double m_height = 250;
     double m_top = 250;

@@ -45,23 +45,17 @@ void SquaredPaper::setFill(const QColor& fill)
     update();
 }
 
-void SquaredPaper::setFactor(double factor)
-{
-    m_factor = factor;
-    update();
-}
-
 void SquaredPaper::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const int pen = std::max(1, static_cast<int>(m_factor));
+    const int pen = std::max(1, static_cast<int>(factor()));
     const QColor grid(look::Grid);
     painter.fillRect(rect(), m_fill);
-    forEachLine(m_square.left, m_square.width, m_factor, x(), x() + width(),
+    forEachLine(m_square.left, m_square.width, factor(), x(), x() + width(),
         [&](int at) { painter.fillRect(at - pen / 2, 0, pen, height(), grid); });
-    forEachLine(m_square.top, m_square.height, m_factor, y(), y() + height(),
+    forEachLine(m_square.top, m_square.height, factor(), y(), y() + height(),
         [&](int at) { painter.fillRect(0, at - pen / 2, width(), pen, grid); });
-    const double edge = std::max(1.0, std::round(look::EdgeWidth * m_factor));
+    const double edge = std::max(1.0, std::round(look::EdgeWidth * factor()));
     painter.setPen(QPen(QColor(look::Edge), edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2));
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ui/look.h"
-#include "ui/placement.h"
+#include "ui/scaling.h"
 
 #include <QWidget>
 
@@ -19,15 +18,12 @@ public:
     /// Another ground than white, where only a part of the sheet can be written.
     void setFill(const QColor& fill);
 
-    void setFactor(double factor) override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     TwipRect m_square{0, 0, 250, 250};
     QColor m_fill = look::Card;
-    double m_factor = 1;
 };
 
 } // namespace ui

@@ -5,8 +5,9 @@
 #include "ui/faces.h"
 #include "ui/indicators.h"
 #include "ui/look.h"
-#include "ui/screen.h"
+#include "ui/scaling.h"
 
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -29,10 +30,11 @@ constexpr int LayoutMargin = 16; // in boxes, and 8 between what stands in them
 constexpr int LayoutSpacing = 8;
 constexpr int CheckColumn = 24; // of a menu, left of its captions
 
-/// Whether the ring of a screen shows the focus of a control; in a box each shows its own.
-bool standsOnScreen(const QWidget* widget)
+/// Whether a control shows its focus by itself, as in a box; the ring of a screen shows that of
+/// every other one.
+bool standsInBox(const QWidget* widget)
 {
-    return widget != nullptr && widget->window() == Screen::of(widget);
+    return widget == nullptr || qobject_cast<const QDialog*>(widget->window()) != nullptr;
 }
 
 bool hasFrame(const QWidget* entry)
@@ -54,17 +56,17 @@ void Style::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     // A context menu and a tool tip are windows: they inherit no font from their text box.
     if (qobject_cast<QMenu*>(widget) != nullptr || widget->inherits("QTipLabel"))
-        widget->setFont(look::scaled(look::Instruction, Screen::factorOf(widget)));
+        widget->setFont(look::scaled(look::Instruction, factorOf(widget)));
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
     const QWidget* widget) const
 {
-    const double factor = Screen::factorOf(widget);
+    const double factor = factorOf(widget);
     switch (element) {
     case PE_PanelLineEdit:
         if (hasFrame(widget))
-            drawEntry(*painter, *option, factor, !standsOnScreen(widget));
+            drawEntry(*painter, *option, factor, standsInBox(widget));
         return;
     case PE_Frame:
         drawBox(*painter, *option, factor);
@@ -82,7 +84,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         drawSubmenuArrow(*painter, *option, factor);
         return;
     case PE_FrameFocusRect:
-        if (standsOnScreen(widget))
+        if (!standsInBox(widget))
             return; // the screen's ring shows the focus
         break;
     default:
@@ -94,9 +96,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
     const QWidget* widget) const
 {
-    const double factor = Screen::factorOf(widget);
+    const double factor = factorOf(widget);
     if (element == CE_PushButtonBevel) {
-        drawButton(*painter, *option, factor, !standsOnScreen(widget));
+        drawButton(*painter, *option, factor, standsInBox(widget));
         return;
     }
     if (element == CE_MenuBarItem) {
@@ -131,10 +133,10 @@ int Style::pixelMetric(
     case PM_LayoutTopMargin:
     case PM_LayoutRightMargin:
     case PM_LayoutBottomMargin:
-        return qRound(LayoutMargin * Screen::factorOf(widget));
+        return qRound(LayoutMargin * factorOf(widget));
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
-        return qRound(LayoutSpacing * Screen::factorOf(widget));
+        return qRound(LayoutSpacing * factorOf(widget));
     case PM_MessageBoxIconSize:
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
@@ -145,9 +147,9 @@ int Style::pixelMetric(
     case PM_ScrollBarExtent:
     case PM_ScrollBarSliderMin:
     case PM_MenuButtonIndicator:
-        return qRound(plain * Screen::factorOf(widget));
+        return qRound(plain * factorOf(widget));
     case PM_TextCursorWidth:
-        return qRound(look::CaretWidth * Screen::factorOf(widget));
+        return qRound(look::CaretWidth * factorOf(widget));
     default:
         return plain;
     }
@@ -171,7 +173,7 @@ QSize Style::sizeFromContents(
     ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const
 {
     const QSize plain = QProxyStyle::sizeFromContents(type, option, size, widget);
-    const double factor = Screen::factorOf(widget);
+    const double factor = factorOf(widget);
     switch (type) {
     case CT_PushButton:
         return plain.expandedTo(SmallestButton * factor);

@@ -34,7 +34,7 @@ TextBox::TextBox(Kind kind, QWidget* parent)
 
 void TextBox::setFactor(double factor)
 {
-    m_factor = factor;
+    Scalable::setFactor(factor);
     const double inner = m_kind == Kind::Entry ? look::BoxMargin : 0;
     setTextMargins(
         qRound((inner + m_extraLeft) * factor), 0, qRound((inner + m_extraRight) * factor), 0);
@@ -44,7 +44,7 @@ void TextBox::setExtraMargins(double left, double right)
 {
     m_extraLeft = left;
     m_extraRight = right;
-    setFactor(m_factor);
+    TextBox::setFactor(factor()); // its own part alone: a derived one may have led here
 }
 
 void TextBox::showSelected()
@@ -126,8 +126,8 @@ void TextBox::hideOrdinaryCaret()
 QRect TextBox::caretRect() const
 {
     constexpr int Beside = 5; // what the toolkit's rectangle keeps free left of the caret
-    const int thickness = std::max(1, qRound(look::CaretWidth * m_factor));
-    const int gap = qRound(CaretGap * m_factor);
+    const int thickness = std::max(1, qRound(look::CaretWidth * factor()));
+    const int gap = qRound(CaretGap * factor());
     const int left = cursorRect().left() + Beside - thickness / 2;
     const QRect line(left, cursorRect().top(), thickness, cursorRect().height());
     return line.intersected(rect().adjusted(0, gap, 0, -gap));
@@ -144,8 +144,8 @@ void TextBox::paintEvent(QPaintEvent* event)
 
 void TextBox::drawEdge()
 {
-    const double pen = look::JudgedEdgeWidth * m_factor;
-    const double radius = look::BoxRadius * m_factor;
+    const double pen = look::JudgedEdgeWidth * factor();
+    const double radius = look::BoxRadius * factor();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(*m_edge, pen));

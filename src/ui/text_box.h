@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/placement.h"
+#include "ui/scaling.h"
 
 #include <QColor>
 #include <QLineEdit>
@@ -50,7 +50,6 @@ private:
     void drawEdge();
 
     Kind m_kind;
-    double m_factor = 1;
     double m_extraLeft = 0;
     double m_extraRight = 0;
     std::optional<QColor> m_edge;

@@ -1,7 +1,7 @@
 #include "ui/tray.h"
 
 #include "ui/look.h"
-#include "ui/screen.h"
+#include "ui/scaling.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -45,7 +45,7 @@ void Tray::follow()
         if (button && button->isVisibleTo(parentWidget()))
             covered |= button->geometry();
     }
-    const int margin = qRound(Margin * Screen::factorOf(this));
+    const int margin = qRound(Margin * factorOf(this));
     setGeometry(covered.adjusted(-margin, -margin, margin, margin));
     setVisible(!covered.isNull());
 }
@@ -69,7 +69,7 @@ bool Tray::eventFilter(QObject* watched, QEvent* event)
 
 void Tray::paintEvent(QPaintEvent*)
 {
-    const double radius = Radius * Screen::factorOf(this);
+    const double radius = Radius * factorOf(this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

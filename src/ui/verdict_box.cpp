@@ -53,7 +53,6 @@ void VerdictBox::setMarkSize(double pixels)
 
 void VerdictBox::setFactor(double factor)
 {
-    m_factor = factor;
     TextBox::setFactor(factor);
     makeRoom();
 }
@@ -66,12 +65,12 @@ void VerdictBox::resizeEvent(QResizeEvent* event)
 
 double VerdictBox::discSize() const
 {
-    return std::min(m_markSize * m_factor, static_cast<double>(height()));
+    return std::min(m_markSize * factor(), static_cast<double>(height()));
 }
 
 void VerdictBox::makeRoom()
 {
-    setExtraMargins(discSize() / m_factor + MarkGap, 0);
+    setExtraMargins(discSize() / factor() + MarkGap, 0);
 }
 
 void VerdictBox::setVerdict(const QString& text, Mark mark)
@@ -129,9 +128,9 @@ void VerdictBox::paintEvent(QPaintEvent* event)
 
 void VerdictBox::drawStarBehindText(QPainter& painter) const
 {
-    const double size = std::min(StarSize * m_factor, static_cast<double>(height()));
+    const double size = std::min(StarSize * factor(), static_cast<double>(height()));
     const double end =
-        textMargins().left() + fontMetrics().horizontalAdvance(text()) + MarkGap * m_factor;
+        textMargins().left() + fontMetrics().horizontalAdvance(text()) + MarkGap * factor();
     if (!(alignment() & Qt::AlignHCenter) && end + size <= width())
         drawStar(painter, {end, (height() - size) / 2, size, size});
 }

@@ -45,7 +45,6 @@ private:
 
     Mark m_mark = Mark::None;
     double m_markSize = 36;
-    double m_factor = 1;
     std::vector<QPointer<TextBox>> m_judged;
     std::optional<QPalette> m_palette; ///< of the next verdict, while one is retired
 };

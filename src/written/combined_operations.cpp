@@ -19,7 +19,7 @@ const QString& CombinedOperations::sign(Operator oper)
     return Signos.at(static_cast<std::size_t>(oper - Plus));
 }
 
-void CombinedOperations::newExpression()
+void CombinedOperations::newExercise()
 {
     for (core::Int16& number : Numeros)
         number = core::drawInteger(m_random, 8, 2);
@@ -86,14 +86,13 @@ QString CombinedOperations::groupText(std::size_t group) const
     return oper == Plus || oper == Minus ? u'(' + operation + u')' : operation;
 }
 
-CombinedOperations::Verdict CombinedOperations::check(double answer) const
+shell::Verdict CombinedOperations::judge(double answer)
 {
-    return answer == solution() ? Verdict::Right : Verdict::Wrong;
-}
-
-QString CombinedOperations::verdictText(Verdict verdict)
-{
-    return verdict == Verdict::Right ? u"Resultado correcto"_s : u"Resultado incorrecto"_s;
+    if (answer == solution())
+        m_verdict.tell(shell::Verdict::Right, u"Resultado correcto"_s);
+    else
+        m_verdict.tell(shell::Verdict::Wrong, u"Resultado incorrecto"_s);
+    return *m_verdict.verdict();
 }
 
 } // namespace written

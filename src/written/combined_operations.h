@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/int16.h"
+#include "shell/verdict.h"
 
 #include <QString>
 
@@ -16,25 +17,31 @@ namespace written {
 /// minus signs so that every value on the way and the result are whole and not negative.
 class CombinedOperations {
 public:
-    enum class Verdict { Right, Wrong };
+    /// The value of the expression, read as a number.
+    using Answer = double;
 
     /// Draws nothing yet. random must outlive the model and be seeded before the first
     /// expression.
     explicit CombinedOperations(core::RandomSource& random);
 
     /// Draws the six numbers, then the three operators of the groups, and joins the groups.
-    void newExpression();
+    void newExercise();
 
     /// "(5 + 3) + 4 x 2 - 18 ÷ 3": at most LongestText characters. There is an expression
-    /// from the first newExpression() on.
+    /// from the first newExercise() on.
     QString text() const;
     static constexpr int LongestText = 27;
 
     /// The value of the expression, 0 to 162.
     int solution() const { return Solucion.value(); }
 
-    Verdict check(double answer) const;
-    static QString verdictText(Verdict verdict);
+    /// Judges; nothing is counted in this activity.
+    shell::Verdict judge(double answer);
+
+    /// Stands beside the next expression too, until that is judged.
+    const shell::VerdictLine& verdict() const { return m_verdict; }
+
+    int showSolution() const { return solution(); }
 
 private:
     static constexpr std::size_t Groups = 3;
@@ -54,6 +61,7 @@ private:
     Operator Enlace1 = Plus;
     Operator Enlace2 = Plus;
     core::Int16 Solucion;
+    shell::VerdictLine m_verdict;
 };
 
 } // namespace written

@@ -29,8 +29,7 @@ QString FRMCombi::screenName()
 }
 
 FRMCombi::FRMCombi(ui::Screens& screens)
-    : ExerciseScreen(screens, screenName(), u"Operaciones combinadas "_s, Width, Height)
-    , m_model(screens.random())
+    : DrillScreen(screens, screenName(), u"Operaciones combinadas "_s, Width, Height)
 {
     makeExpression();
     makeAnswer();
@@ -47,16 +46,16 @@ void FRMCombi::makeExpression()
     displayBox(u"TBInfo"_s, {240, 180, 10020, 420}, ui::look::Instruction, u"Instrucción"_s,
         u"Resuelva la operación siguiendo las reglas de precedencia"_s);
 
-    TBOperación = displayBox(
+    TBOperacion = displayBox(
         u"TBOperación"_s, {240, 720, 10020, 840}, ExpressionFont, u"Operación"_s, sample);
-    TBOperación->setAlignment(Qt::AlignCenter);
-    TBOperación->setToolTip(u"Operación a realizar"_s);
+    TBOperacion->setAlignment(Qt::AlignCenter);
+    TBOperacion->setToolTip(u"Operación a realizar"_s);
 
-    TBCálculos =
+    TBCalculos =
         add(new ScratchArea(canvas()), u"TBCálculos"_s, {240, 1680, 10020, 3420}, ScratchFont);
-    TBCálculos->setAccessibleName(u"Cálculos"_s);
-    TBCálculos->setToolTip(u"Haga aquí sus cálculos"_s);
-    TBCálculos->setPlainText(sample);
+    TBCalculos->setAccessibleName(u"Cálculos"_s);
+    TBCalculos->setToolTip(u"Haga aquí sus cálculos"_s);
+    TBCalculos->setPlainText(sample);
 }
 
 void FRMCombi::makeAnswer()
@@ -71,44 +70,41 @@ void FRMCombi::makeAnswer()
 void FRMCombi::Form_Load()
 {
     core::seedByTimer(screens().random(), screens().clock());
-    newExpression();
+    newExercise();
 }
 
-void FRMCombi::newExpression()
+void FRMCombi::newExercise()
 {
-    m_model.newExpression();
+    m_model.newExercise();
     Text1->retire();
-    TBOperación->setText(m_model.text());
-    ui::announce(*TBOperación, m_model.text());
-    TBCálculos->setPlainText(m_model.text());
-    TBCálculos->moveCursor(QTextCursor::End);
+    TBOperacion->setText(m_model.text());
+    ui::announce(*TBOperacion, m_model.text());
+    TBCalculos->setPlainText(m_model.text());
+    TBCalculos->moveCursor(QTextCursor::End);
     TBResultado->setFocus();
     TBResultado->selectAll(); // an answer that still stands there gives way to the next one
 }
 
-void FRMCombi::Command1_Click()
+void FRMCombi::check()
 {
-    using Verdict = CombinedOperations::Verdict;
-    using Mark = ui::VerdictBox::Mark;
-    const Verdict verdict = m_model.check(core::readNumber(TBResultado->text()));
-    Text1->setVerdict(CombinedOperations::verdictText(verdict),
-        verdict == Verdict::Right ? Mark::Right : Mark::Wrong);
+    m_model.judge(core::readNumber(TBResultado->text()));
+    showVerdict(*Text1, m_model.verdict());
 }
 
-void FRMCombi::Command2_Click(int Index)
+void FRMCombi::nextExercise()
 {
-    switch (Index) {
-    case 0:
-        newExpression();
-        break;
-    case 1:
-        TBResultado->clear();
-        TBResultado->setFocus();
-        break;
-    default:
-        TBResultado->setText(QString::number(m_model.solution()));
-        break;
-    }
+    newExercise();
+}
+
+void FRMCombi::clearAnswer()
+{
+    TBResultado->clear();
+    TBResultado->setFocus();
+}
+
+void FRMCombi::showSolution()
+{
+    TBResultado->setText(QString::number(m_model.showSolution()));
 }
 
 } // namespace written

@@ -8,7 +8,7 @@ namespace written {
 class ScratchArea;
 
 /// Combined operations: an expression to solve by precedence, with room to work in.
-class FRMCombi : public shell::ExerciseScreen {
+class FRMCombi : public shell::DrillScreen<CombinedOperations> {
 public:
     static QString screenName();
 
@@ -16,20 +16,20 @@ public:
 
 protected:
     void Form_Load() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override;
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeExpression();
     void makeAnswer();
 
-    void newExpression();
-
-    CombinedOperations m_model;
-    ui::TextBox* TBOperación = nullptr;
-    ScratchArea* TBCálculos = nullptr;
-    ui::TextBox* TBResultado = nullptr;
-    ui::VerdictBox* Text1 = nullptr;
+    ui::TextBox* TBOperacion = nullptr; ///< the expression
+    ScratchArea* TBCalculos = nullptr; ///< the pupil's own sums, judged by nobody
+    ui::TextBox* TBResultado = nullptr; ///< the answer
+    ui::VerdictBox* Text1 = nullptr; ///< the verdict
 };
 
 } // namespace written

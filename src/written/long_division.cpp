@@ -8,6 +8,7 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace written {
 
@@ -78,15 +79,15 @@ GridText LongDivision::emptyWork() const
     return {u" %1"_s.arg(Dividendo()), m_AnchoLinea.value()};
 }
 
-void LongDivision::draw()
+void LongDivision::newExercise()
 {
     start(m_settings);
 }
 
-void LongDivision::next()
+void LongDivision::nextExercise()
 {
-    draw();
-    m_Pendiente = true;
+    newExercise();
+    Pendiente = true;
 }
 
 void LongDivision::chooseDecimals(core::Int16 decimals)
@@ -151,18 +152,27 @@ bool LongDivision::typeDivisor(const QString& typed)
     return true;
 }
 
-DivisionVerdict LongDivision::check(const QString& quotient, const GridText& work)
+shell::Verdict LongDivision::judge(const Answer& answer)
 {
-    const double remainder = core::readNumber(work.lastWrittenLine());
+    const double remainder = core::readNumber(answer.work.lastWrittenLine());
     // Without a comma the position is 0, so that every character counts as a decimal.
-    const auto decimals = static_cast<int>(quotient.size() - (quotient.indexOf(u',') + 1));
+    const auto decimals =
+        static_cast<int>(answer.quotient.size() - (answer.quotient.indexOf(u',') + 1));
     const int wanted = m_settings.DecimalesCociente.value();
     if (wanted > 0 && decimals < wanted && remainder > 0)
-        return DivisionVerdict::TooFewDecimals;
-    const bool right = isRight(core::readNumber(quotient), remainder, decimals);
-    const DivisionVerdict verdict = right ? DivisionVerdict::Right : DivisionVerdict::Wrong;
-    count(verdict);
-    return verdict;
+        return Verdict::NotJudged;
+    const bool right = isRight(core::readNumber(answer.quotient), remainder, decimals);
+    countWhilePending(right ? Verdict::Right : Verdict::Wrong);
+    if (right)
+        m_verdict.tell(Verdict::Right, u"resultado correcto"_s);
+    else
+        m_verdict.tell(Verdict::Wrong, u"Resultado incorrecto"_s);
+    return *m_verdict.verdict();
+}
+
+QString LongDivision::tooFewDecimals() const
+{
+    return u"Debe sacar al menos %1 decimales."_s.arg(m_settings.DecimalesCociente.value());
 }
 
 bool LongDivision::isRight(double quotient, double remainder, int decimals) const
@@ -177,22 +187,12 @@ bool LongDivision::isRight(double quotient, double remainder, int decimals) cons
     return core::roundHalfEven(sum) == static_cast<double>(dividend);
 }
 
-void LongDivision::count(DivisionVerdict verdict)
-{
-    if (!m_Pendiente)
-        return;
-    if (verdict == DivisionVerdict::Right)
-        m_counters.countRight();
-    else
-        m_counters.countWrong();
-    m_Pendiente = verdict == DivisionVerdict::Wrong;
-}
-
-WorkedDivision LongDivision::solve()
+WorkedDivision LongDivision::showSolution()
 {
     WorkedDivision worked = ResuelveDivision(emptyWork(), Divisor(),
         m_settings.DecimalesCociente.value(), m_settings.RestasIntermedias);
-    m_Pendiente = false;
+    Pendiente = false;
+    m_verdict.clear();
     return worked;
 }
 

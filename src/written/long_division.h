@@ -11,12 +11,6 @@ class RandomSource;
 
 namespace written {
 
-enum class DivisionVerdict {
-    Right,
-    Wrong,
-    TooFewDecimals ///< the quotient must go on; nothing is counted
-};
-
 /// What the pupil chooses for the divisions to come.
 struct DivisionSettings {
     core::Int16 CifrasDividendo = 2;
@@ -28,8 +22,14 @@ struct DivisionSettings {
 
 /// The long-division drill: the exercise, its settings and its counters. What throws
 /// changes nothing.
-class LongDivision {
+class LongDivision : public shell::Exercise {
 public:
+    /// The quotient as typed and the work under the dividend.
+    struct Answer {
+        QString quotient;
+        GridText work;
+    };
+
     /// Draws nothing yet. random must outlive the model.
     explicit LongDivision(core::RandomSource& random);
 
@@ -37,8 +37,6 @@ public:
     qint32 Dividendo() const { return m_operands.Dividendo; }
     qint32 Divisor() const { return m_operands.Divisor; }
     core::Int16 AnchoLinea() const { return m_AnchoLinea; }
-    const shell::ExerciseCounters& counters() const { return m_counters; }
-    bool Pendiente() const { return m_Pendiente; }
 
     /// "84 ÷ 7".
     QString operationText() const;
@@ -46,18 +44,18 @@ public:
     /// The work area as the exercise starts: a blank, the dividend and blank room.
     GridText emptyWork() const;
 
-    /// Draws a division; the exercise keeps its state. Throws OverflowError when a number
-    /// of so many digits leaves 32 bits.
-    void draw();
+    /// Draws a division; whether it counts stays as it was: meant. Throws OverflowError when a
+    /// number of so many digits leaves 32 bits.
+    void newExercise();
 
     /// "&Continuar": draws a division, which is to be counted.
-    void next();
+    void nextExercise();
 
     /// For the next exercise.
     void chooseDividendDigits(core::Int16 digits) { m_settings.CifrasDividendo = digits; }
     void chooseDivisorDigits(core::Int16 digits) { m_settings.CifrasDivisor = digits; }
 
-    /// These draw a division at once, as draw() does.
+    /// These draw a division at once, as newExercise() does.
     void chooseDecimals(core::Int16 decimals);
     void toggleProducts();
     void toggleForcedZeros();
@@ -68,11 +66,13 @@ public:
     bool typeDividend(const QString& typed);
     bool typeDivisor(const QString& typed);
 
-    /// Checks and counts the typed quotient and the last number written in the work area.
-    DivisionVerdict check(const QString& quotient, const GridText& work);
+    /// Judges and counts the typed quotient and the last number written in the work area.
+    /// Nothing is judged where the quotient must go on: tooFewDecimals() says so.
+    shell::Verdict judge(const Answer& answer);
+    QString tooFewDecimals() const;
 
     /// The worked solution. The exercise is no longer counted.
-    WorkedDivision solve();
+    WorkedDivision showSolution();
 
 private:
     struct Operands {
@@ -83,14 +83,11 @@ private:
     Operands drawOperands(const DivisionSettings& settings) const;
     void start(const DivisionSettings& settings);
     bool isRight(double quotient, double remainder, int decimals) const;
-    void count(DivisionVerdict verdict);
 
     core::RandomSource& m_random;
     DivisionSettings m_settings;
     Operands m_operands;
     core::Int16 m_AnchoLinea = 6;
-    shell::ExerciseCounters m_counters;
-    bool m_Pendiente = true;
 };
 
 } // namespace written

@@ -71,8 +71,7 @@ QString Form6::screenName()
 }
 
 Form6::Form6(ui::Screens& screens)
-    : ExerciseScreen(screens, screenName(), u"DIVISIONES"_s, Width, Height)
-    , m_model(screens.random())
+    : DrillScreen(screens, screenName(), u"DIVISIONES"_s, Width, Height)
 {
     makeMenu();
     makeSheet();

@@ -15,7 +15,7 @@ namespace written {
 void Form6::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
-    NuevaDivision();
+    newExercise();
     Text1->setFocus();
 }
 
@@ -23,7 +23,7 @@ void Form6::Form_Load()
 
 void Form6::NuevaDivision()
 {
-    m_model.draw();
+    m_model.newExercise();
     showExercise();
 }
 
@@ -55,44 +55,39 @@ void Form6::showOperation()
 
 // --- commands
 
-void Form6::Command1_Click()
+void Form6::check()
 {
-    const DivisionVerdict verdict = m_model.check(Text3->text(), Text1->grid());
-    if (verdict == DivisionVerdict::TooFewDecimals) {
-        ui::MessageBox::show(*this,
-            u"Debe sacar al menos %1 decimales."_s.arg(
-                m_model.settings().DecimalesCociente.value()),
-            u"Atención"_s, ui::Icon::Information);
+    const auto verdict = m_model.judge({Text3->text(), Text1->grid()});
+    if (verdict == shell::Verdict::NotJudged) {
+        ui::MessageBox::show(
+            *this, m_model.tooFewDecimals(), u"Atención"_s, ui::Icon::Information);
         return;
     }
     tbResultados->setText(m_model.counters().FormatoAlineado());
-    if (verdict == DivisionVerdict::Wrong) {
-        Text4->setVerdict(u"Resultado incorrecto"_s, Mark::Wrong);
-    } else {
-        Text4->setVerdict(u"resultado correcto"_s, Mark::Right);
+    showVerdict(*Text4, m_model.verdict());
+    if (verdict == shell::Verdict::Right)
         Command2[0]->setFocus();
-    }
 }
 
-void Form6::Command2_Click(int Index)
+void Form6::nextExercise()
 {
-    switch (Index) {
-    case 0:
-        m_model.next();
-        showExercise();
-        break;
-    case 1:
-        Text3->clear();
-        clearWork();
-        Text3->setFocus();
-        break;
-    default:
-        const WorkedDivision worked = m_model.solve();
-        Text4->setVerdict({}, Mark::None);
-        Text3->setText(worked.quotient);
-        Text1->setGrid(worked.work);
-        break;
-    }
+    m_model.nextExercise();
+    showExercise();
+}
+
+void Form6::clearAnswer()
+{
+    Text3->clear();
+    clearWork();
+    Text3->setFocus();
+}
+
+void Form6::showSolution()
+{
+    const WorkedDivision worked = m_model.showSolution();
+    showVerdict(*Text4, m_model.verdict());
+    Text3->setText(worked.quotient);
+    Text1->setGrid(worked.work);
 }
 
 // --- boxes

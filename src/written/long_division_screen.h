@@ -14,7 +14,7 @@ class WorkArea;
 
 /// Long division on squared paper: the dividend with the work under it, the bracket, the
 /// divisor and, under that, the quotient.
-class Form6 : public shell::ExerciseScreen {
+class Form6 : public shell::DrillScreen<LongDivision> {
 public:
     static QString screenName();
 
@@ -22,8 +22,11 @@ public:
 
 protected:
     void Form_Load() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override { NuevaDivision(); }
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeMenu();
@@ -55,20 +58,19 @@ private:
     void showOperation();
     void placeOperation();
 
-    LongDivision m_model;
-    ui::MenuList MnuOpcDivLis;
-    ui::MenuList MnuOpcDisLis;
-    ui::MenuList MnuOpcDecLis;
-    QAction* MnuOpcRes = nullptr;
-    QAction* MnuOpcFor = nullptr;
+    ui::MenuList MnuOpcDivLis; ///< digits of the dividend
+    ui::MenuList MnuOpcDisLis; ///< digits of the divisor
+    ui::MenuList MnuOpcDecLis; ///< decimals of the quotient
+    QAction* MnuOpcRes = nullptr; ///< the solution writes the products too
+    QAction* MnuOpcFor = nullptr; ///< the quotient must contain a zero
     ui::SquaredPaper* m_sheet = nullptr;
-    WorkArea* Text1 = nullptr;
-    ui::SquaredBox* Text2 = nullptr;
-    ui::SquaredBox* Text3 = nullptr;
-    QWidget* Line1 = nullptr;
-    QWidget* Line2 = nullptr;
-    ui::VerdictBox* Text4 = nullptr;
-    ui::TextBox* tbResultados = nullptr;
+    WorkArea* Text1 = nullptr; ///< the dividend with the work under it
+    ui::SquaredBox* Text2 = nullptr; ///< the divisor
+    ui::SquaredBox* Text3 = nullptr; ///< the quotient
+    QWidget* Line1 = nullptr; ///< the bracket's upright
+    QWidget* Line2 = nullptr; ///< the bracket's level line
+    ui::VerdictBox* Text4 = nullptr; ///< the operation, the verdict, or the box being typed into
+    ui::TextBox* tbResultados = nullptr; ///< the counters
 };
 
 } // namespace written

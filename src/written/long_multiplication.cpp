@@ -9,6 +9,7 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace written {
 
@@ -41,7 +42,7 @@ LongMultiplication::LongMultiplication(core::RandomSource& random)
 {
 }
 
-void LongMultiplication::NuevaMultiplicacion()
+void LongMultiplication::newExercise()
 {
     const double factor1 = drawFactor(m_CifrasFactor1);
     const double factor2 = m_CualquierCifra ? drawFactor(m_CifrasFactor2) : drawChosenDigits();
@@ -50,6 +51,7 @@ void LongMultiplication::NuevaMultiplicacion()
             u"Los factores de %1 y %2 cifras son demasiado grandes: elige menos cifras en el menú Opciones."_s
                 .arg(m_CifrasFactor1.value())
                 .arg(m_CifrasFactor2.value()));
+    m_verdict.clear();
 }
 
 double LongMultiplication::drawFactor(core::Int16 digits)
@@ -149,8 +151,10 @@ TypedFactor LongMultiplication::typeFactor2(QStringView typed)
     if (!factor)
         return TypedFactor::Ignored;
     const TypedFactor outcome = replaceFactors(Factor1(), *factor, true);
-    if (outcome == TypedFactor::Accepted)
+    if (outcome == TypedFactor::Accepted) {
         m_CifrasFactor2 = static_cast<int>(core::wholeText(*factor).size());
+        m_verdict.clear(); // after factor 1 it stays: meant
+    }
     return outcome;
 }
 
@@ -160,33 +164,35 @@ TypedFactor LongMultiplication::replaceFactors(double factor1, double factor2, b
                                                                        : TypedFactor::TooLarge;
 }
 
-MultiplicationCheck LongMultiplication::check(QStringView result, const QStringList& rows)
+shell::Verdict LongMultiplication::judge(const Answer& answer)
 {
-    MultiplicationCheck found;
-    found.right = core::readNumber(result) == Producto();
-    if (!found.right) {
-        const qsizetype compared = std::min(rows.size(), expectedRows().size());
-        for (qsizetype row = 0; row < compared; ++row)
-            if (withoutLeadingBlanks(rows[row]) != expectedRows()[row])
-                found.wrongRows.push_back(static_cast<int>(row));
-    }
-    count(found.right);
-    return found;
-}
-
-void LongMultiplication::count(bool right)
-{
-    if (!m_Pendiente)
-        return;
+    const bool right = core::readNumber(answer.result) == Producto();
+    countWhilePending(right ? Verdict::Right : Verdict::Wrong);
     if (right)
-        m_counters.countRight();
+        m_verdict.tell(Verdict::Right, u"Resultado correcto "_s);
     else
-        m_counters.countWrong();
-    m_Pendiente = !right;
+        m_verdict.tell(Verdict::Wrong, u"resultado incorrecto"_s);
+    m_wrongRows = right ? std::vector<int>() : compareRows(answer.rows);
+    return *m_verdict.verdict();
 }
 
-std::optional<QString> LongMultiplication::IndicaProducto(
-    int posicion, int fila, int length) const
+std::vector<int> LongMultiplication::compareRows(const QStringList& rows) const
+{
+    std::vector<int> wrong;
+    const qsizetype compared = std::min(rows.size(), expectedRows().size());
+    for (qsizetype row = 0; row < compared; ++row)
+        if (withoutLeadingBlanks(rows[row]) != expectedRows()[row])
+            wrong.push_back(static_cast<int>(row));
+    return wrong;
+}
+
+void LongMultiplication::IndicaProducto(int posicion, int fila, int length)
+{
+    if (const auto hint = productHint(posicion, fila, length))
+        m_verdict.show(*hint);
+}
+
+std::optional<QString> LongMultiplication::productHint(int posicion, int fila, int length) const
 {
     int shift = posicion - length;
     if (shift < 0)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/int16.h"
 #include "shell/exercise.h"
 
 #include <QStringList>
@@ -21,24 +20,24 @@ enum class TypedFactor {
     Accepted,
 };
 
-/// What a check of the whole board found.
-struct MultiplicationCheck {
-    bool right = false;
-    std::vector<int> wrongRows; ///< indexes; empty when right: the rows are not looked at then
-};
-
 /// The rules of written multiplication: two factors, one partial product for each digit of
 /// the second one, and the result. Partial products are texts: each ends in as many blanks
 /// as its digit stands away from the units.
-class LongMultiplication {
+class LongMultiplication : public shell::Exercise {
 public:
+    /// What is typed on the board, row 0 at the top.
+    struct Answer {
+        QString result;
+        QStringList rows;
+    };
+
     /// Draws nothing yet. random must outlive the model.
     explicit LongMultiplication(core::RandomSource& random);
 
-    /// Draws both factors as the settings ask and prepares the rows. Leaves Pendiente and the
-    /// counters alone. Throws core::OverflowError, and keeps the exercise, when factors of so
-    /// many digits have no product.
-    void NuevaMultiplicacion();
+    /// Draws both factors as the settings ask and prepares the rows. Leaves whether the
+    /// exercise counts, and the counters, alone: meant. Throws core::OverflowError, and keeps the
+    /// exercise, when factors of so many digits have no product.
+    void newExercise();
 
     double Factor1() const { return m_exercise.factor1; }
     double Factor2() const { return m_exercise.factor2; }
@@ -73,22 +72,29 @@ public:
     void toggleOcultarCeros() { m_OcultarCeros = !m_OcultarCeros; }
     QString zerosCaption() const;
 
-    /// Put a typed factor in place of the drawn one. Pendiente and the counters stay.
+    /// Put a typed factor in place of the drawn one. Whether it counts, and the counters, stay.
     TypedFactor typeFactor1(QStringView typed);
     TypedFactor typeFactor2(QStringView typed);
 
-    const shell::ExerciseCounters& counters() const { return m_counters; }
-    bool Pendiente() const { return m_Pendiente; }
     /// The exercise counts from its first check on, as a new one does.
-    void setPending() { m_Pendiente = true; }
+    void setPending() { Pendiente = true; }
 
-    /// Judges the board and counts. Throws core::OverflowError, with nothing counted, when a
+    /// Judges the board and counts. Throws core::OverflowError, with nothing changed, when a
     /// counter is full.
-    MultiplicationCheck check(QStringView result, const QStringList& rows);
+    shell::Verdict judge(const Answer& answer);
+
+    /// Indexes of the rows that are wrong; none after a right result: the rows are not looked
+    /// at then.
+    const std::vector<int>& wrongRows() const { return m_wrongRows; }
+
+    /// The product; resultText() and expectedRows() are to be written on the board.
+    QString showSolution() const { return resultText(); }
 
     /// The product of digits that belongs to a caret place in a row whose text has length
     /// characters, such as "7 × 3"; nothing right of the units of factor 1.
-    std::optional<QString> IndicaProducto(int posicion, int fila, int length) const;
+    std::optional<QString> productHint(int posicion, int fila, int length) const;
+    /// Writes that hint, where there is one, into the verdict line.
+    void IndicaProducto(int posicion, int fila, int length);
 
 private:
     struct Exercise {
@@ -104,7 +110,7 @@ private:
     TypedFactor replaceFactors(double factor1, double factor2, bool hasSign);
     bool prepare(Exercise exercise);
     QStringList partialProducts(double factor1, double factor2) const;
-    void count(bool right);
+    std::vector<int> compareRows(const QStringList& rows) const;
 
     core::RandomSource& m_random;
     Exercise m_exercise;
@@ -113,8 +119,7 @@ private:
     bool m_CualquierCifra = true;
     QString m_CifrasElegidas;
     bool m_OcultarCeros = false;
-    shell::ExerciseCounters m_counters;
-    bool m_Pendiente = true;
+    std::vector<int> m_wrongRows;
 };
 
 } // namespace written

@@ -78,9 +78,8 @@ QString Form3::screenName()
 }
 
 Form3::Form3(ui::Screens& screens)
-    : ExerciseScreen(
+    : DrillScreen(
         screens, screenName(), u"Multiplicaciones"_s, Width, sheetBottom(FewestRows) + Margin)
-    , m_model(screens.random())
 {
     makeMenu();
     makeSheet();
@@ -194,7 +193,7 @@ void Form3::placeRows()
     place(TBResultado, rowPlace(rows));
     moveTo(Line2, SignLeft, resultTop);
     moveTo(labIgual, SignLeft, resultTop);
-    Borra();
+    emptyRows();
     const double bottom = sheetBottom(std::max(rows, FewestRows));
     place(m_paper, {PaperLeft, PaperTop, PaperWidth, bottom - PaperTop});
     const double height = sheetBottom(std::clamp(rows, FewestRows, MostRows)) + Margin;

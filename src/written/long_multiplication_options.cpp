@@ -92,7 +92,7 @@ void Form3::MnuOpcIn2_Click()
     const QString typed = ui::InputBox::ask(
         *this, u"Introduzca el segundo factor de la multiplicación:"_s, u"Multiplicaciones"_s);
     if (acceptFactor(m_model.typeFactor2(typed)))
-        showMessage({});
+        showVerdict(*Text1, m_model.verdict());
 }
 
 bool Form3::acceptFactor(TypedFactor outcome)

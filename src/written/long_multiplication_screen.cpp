@@ -7,7 +7,6 @@
 
 using namespace Qt::StringLiterals;
 using ui::SquaredBox;
-using Mark = ui::VerdictBox::Mark;
 
 namespace written {
 
@@ -51,10 +50,10 @@ void Form3::Form_Load()
 
 void Form3::NuevaMultiplicacion()
 {
-    m_model.NuevaMultiplicacion();
+    m_model.newExercise();
     PreparaFilas();
     showFactors();
-    showMessage({});
+    showVerdict(*Text1, m_model.verdict());
 }
 
 void Form3::PreparaFilas()
@@ -75,11 +74,6 @@ void Form3::showFactors()
         *TbFactor[1], (m_model.factor1Text() + u' ' + m_model.factor2Text()).simplified());
 }
 
-void Form3::showMessage(const QString& text)
-{
-    Text1->setVerdict(text, Mark::None);
-}
-
 std::vector<SquaredBox*> Form3::answerBoxes() const
 {
     std::vector<SquaredBox*> boxes = TbParcial;
@@ -87,57 +81,51 @@ std::vector<SquaredBox*> Form3::answerBoxes() const
     return boxes;
 }
 
-void Form3::Command1_Click()
+void Form3::check()
 {
-    QStringList rows;
+    LongMultiplication::Answer answer{TBResultado->text(), {}};
     for (const SquaredBox* row : TbParcial)
-        rows << row->text();
-    const MultiplicationCheck found = m_model.check(TBResultado->text(), rows);
-    if (found.right) {
-        Text1->setVerdict(u"Resultado correcto "_s, Mark::Right);
+        answer.rows << row->text();
+    const auto verdict = m_model.judge(answer);
+    showVerdict(*Text1, m_model.verdict());
+    if (verdict == shell::Verdict::Right) {
         Command2[0]->setEnabled(true);
         Command2[0]->setFocus();
     } else {
-        Text1->setVerdict(u"resultado incorrecto"_s, Mark::Wrong);
         Command2[2]->setEnabled(true);
         paint(*TBResultado, ui::look::Red);
-        for (const int row : found.wrongRows)
+        for (const int row : m_model.wrongRows())
             paint(*TbParcial.at(static_cast<std::size_t>(row)), ui::look::Red);
     }
     Text2->setText(m_model.counters().FormatoAlineado());
 }
 
-void Form3::Command2_Click(int Index)
+void Form3::nextExercise()
 {
-    switch (Index) {
-    case 0:
-        NuevaMultiplicacion();
-        m_model.setPending();
-        TbParcial[0]->setFocus();
-        break;
-    case 1:
-        Borra();
-        TbParcial[0]->setFocus();
-        break;
-    default:
-        showSolution();
-        Command2[0]->setEnabled(true);
-        Command2[0]->setFocus();
-        break;
-    }
+    newExercise();
+    m_model.setPending();
+    TbParcial[0]->setFocus();
 }
 
-void Form3::Borra()
+void Form3::emptyRows()
 {
     for (SquaredBox* box : answerBoxes())
         empty(*box);
 }
 
+void Form3::clearAnswer()
+{
+    emptyRows();
+    TbParcial[0]->setFocus();
+}
+
 void Form3::showSolution()
 {
-    TBResultado->write(m_model.resultText());
+    TBResultado->write(m_model.showSolution());
     for (qsizetype row = 0; row < m_model.expectedRows().size(); ++row)
         TbParcial.at(static_cast<std::size_t>(row))->write(m_model.expectedRows().at(row));
+    Command2[0]->setEnabled(true);
+    Command2[0]->setFocus();
 }
 
 ui::KeyResult Form3::TbFactor_KeyPress()
@@ -161,9 +149,8 @@ void Form3::TbParcial_KeyDown(int Index, int KeyCode)
 void Form3::IndicaProducto(int posicion, int fila)
 {
     const qsizetype length = TbParcial.at(static_cast<std::size_t>(fila))->text().size();
-    const auto hint = m_model.IndicaProducto(posicion, fila, static_cast<int>(length));
-    if (hint)
-        showMessage(*hint);
+    m_model.IndicaProducto(posicion, fila, static_cast<int>(length));
+    showVerdict(*Text1, m_model.verdict());
 }
 
 void Form3::TbParcial_Change(int Index)

@@ -14,7 +14,7 @@ class SquaredPaper;
 namespace written {
 
 /// Written multiplication on squared paper, typed from the units leftwards.
-class Form3 : public shell::ExerciseScreen {
+class Form3 : public shell::DrillScreen<LongMultiplication> {
 public:
     static QString screenName();
 
@@ -22,8 +22,11 @@ public:
 
 protected:
     void Form_Load() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override { NuevaMultiplicacion(); }
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeMenu();
@@ -57,28 +60,25 @@ private:
     qsizetype columnsNeeded() const;
     void chainTabs();
     void showFactors();
-    void showMessage(const QString& text);
+    void emptyRows();
     void takeChosenDigits();
     void showChoiceOfDigits();
     bool acceptFactor(TypedFactor outcome);
-    void Borra();
-    void showSolution();
     std::vector<ui::SquaredBox*> answerBoxes() const;
 
-    LongMultiplication m_model;
-    ui::MenuList MnuOpcCi1Lis;
-    ui::MenuList MnuOpcCi2Lis;
-    ui::MenuList MnuOpcSelLis;
-    QAction* MnuOpcOcu = nullptr;
+    ui::MenuList MnuOpcCi1Lis; ///< digits of factor 1
+    ui::MenuList MnuOpcCi2Lis; ///< digits of factor 2
+    ui::MenuList MnuOpcSelLis; ///< any digit, or chosen ones
+    QAction* MnuOpcOcu = nullptr; ///< leaves out the rows of zeros
     ui::SquaredPaper* m_paper = nullptr;
-    std::array<ui::SquaredBox*, 2> TbFactor{};
-    QLabel* LabX = nullptr;
-    std::vector<ui::SquaredBox*> TbParcial;
-    ui::Rule* Line2 = nullptr;
-    ui::SquaredBox* TBResultado = nullptr;
-    QLabel* labIgual = nullptr;
-    ui::VerdictBox* Text1 = nullptr;
-    ui::TextBox* Text2 = nullptr;
+    std::array<ui::SquaredBox*, 2> TbFactor{}; ///< the factors
+    QLabel* LabX = nullptr; ///< the times sign beside factor 2
+    std::vector<ui::SquaredBox*> TbParcial; ///< the partial products, row 0 at the top
+    ui::Rule* Line2 = nullptr; ///< the rule under the last row
+    ui::SquaredBox* TBResultado = nullptr; ///< the result
+    QLabel* labIgual = nullptr; ///< the equals sign beside the result
+    ui::VerdictBox* Text1 = nullptr; ///< the verdict, or the hint of a product of digits
+    ui::TextBox* Text2 = nullptr; ///< the counters
 };
 
 } // namespace written

@@ -6,6 +6,7 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace written {
 
@@ -43,16 +44,26 @@ QString MultiplesDivisors::instruction() const
           "No puede usar el 1 ni el número que se proporciona"_s;
 }
 
-MultiplesDivisors::Check MultiplesDivisors::check(
-    const std::array<double, Answers>& answers) const
+shell::Verdict MultiplesDivisors::judge(const Answer& answers)
 {
     if (std::any_of(answers.begin(), answers.end(), [](double answer) { return answer < 1; }))
-        return {Verdict::Invalid};
+        return Verdict::NotJudged;
+    const auto wrong = firstWrong(answers);
+    m_wrongAnswer = wrong.value_or(0);
+    if (wrong)
+        m_verdict.tell(Verdict::Wrong, u"Resultado incorrecto"_s, shell::Repeat::BlankBehind);
+    else
+        m_verdict.tell(Verdict::Right, u"Resultado correcto"_s, shell::Repeat::BlankBehind);
+    return *m_verdict.verdict();
+}
+
+std::optional<int> MultiplesDivisors::firstWrong(const Answer& answers) const
+{
     for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
         if (!isRight(*answer) || std::find(answers.begin(), answer, *answer) != answer)
-            return {Verdict::Wrong, static_cast<int>(answer - answers.begin())};
+            return static_cast<int>(answer - answers.begin());
     }
-    return {Verdict::Right};
+    return std::nullopt;
 }
 
 bool MultiplesDivisors::isRight(double answer) const
@@ -64,14 +75,7 @@ bool MultiplesDivisors::isRight(double answer) const
     return whole && answer != 1 && answer != given && std::fmod(given, answer) == 0;
 }
 
-QString MultiplesDivisors::verdictText(Verdict verdict, QStringView standing)
-{
-    const QString text =
-        verdict == Verdict::Right ? u"Resultado correcto"_s : u"Resultado incorrecto"_s;
-    return standing == text ? text + u' ' : text;
-}
-
-std::array<int, MultiplesDivisors::Answers> MultiplesDivisors::solution() const
+std::array<int, MultiplesDivisors::Answers> MultiplesDivisors::showSolution() const
 {
     if (Modo == Mode::Multiples)
         return {3 * number(), 4 * number(), 5 * number()};

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "core/int16.h"
+#include "shell/verdict.h"
 
 #include <QString>
 
 #include <array>
+#include <optional>
 
 namespace core {
 class RandomSource;
@@ -17,18 +19,9 @@ namespace written {
 class MultiplesDivisors {
 public:
     enum class Mode { Multiples = 1, Divisors = 2 };
-    enum class Verdict {
-        Invalid, ///< an answer is missing or below 1: nothing was judged
-        Right,
-        Wrong
-    };
-    /// wrongAnswer is the index of the first answer that is wrong by itself or repeats an
-    /// earlier one; it says nothing unless the verdict is Wrong.
-    struct Check {
-        Verdict verdict = Verdict::Invalid;
-        int wrongAnswer = 0;
-    };
     static constexpr int Answers = 3;
+    /// The three answers, read as numbers; an empty box reads 0.
+    using Answer = std::array<double, Answers>;
 
     /// Draws nothing yet. random must outlive the model and be seeded before the first
     /// exercise.
@@ -43,25 +36,31 @@ public:
     } ///< 2 to 10; where divisors are asked for, 6 to 720
     QString instruction() const; ///< two lines when divisors are asked for
 
-    /// Judges three answers, read as numbers; an empty box reads 0.
-    Check check(const std::array<double, Answers>& answers) const;
+    /// Judges three answers; nothing is judged while one is missing or below 1.
+    shell::Verdict judge(const Answer& answers);
 
-    /// The text of a verdict that was reached, as it is written over the standing one: it
-    /// gets a blank at its end when the same text stands there, so that something changes.
-    static QString verdictText(Verdict verdict, QStringView standing);
+    /// Index of the first answer that is wrong by itself or repeats an earlier one, after a
+    /// verdict of Wrong.
+    int wrongAnswer() const { return m_wrongAnswer; }
+
+    /// Stands beside the next exercise too, until that is judged.
+    const shell::VerdictLine& verdict() const { return m_verdict; }
 
     /// Three answers. Divisors are the factors that the number was made of: one of them may
-    /// be 1, which a check rejects.
-    std::array<int, Answers> solution() const;
+    /// be 1, which judging rejects: meant.
+    std::array<int, Answers> showSolution() const;
 
 private:
     bool isRight(double answer) const;
+    std::optional<int> firstWrong(const Answer& answers) const;
     void drawFactors();
 
     core::RandomSource& m_random;
     Mode Modo = Mode::Multiples;
     core::Int16 Numero;
     std::array<core::Int16, Answers> Factores;
+    int m_wrongAnswer = 0;
+    shell::VerdictLine m_verdict;
 };
 
 } // namespace written

@@ -30,8 +30,7 @@ QString FrmMultidivi::screenName()
 }
 
 FrmMultidivi::FrmMultidivi(ui::Screens& screens)
-    : ExerciseScreen(screens, screenName(), u"Múltiplos y divisores"_s, Width, Height)
-    , m_model(screens.random())
+    : DrillScreen(screens, screenName(), u"Múltiplos y divisores"_s, Width, Height)
 {
     makeBoxes();
     const auto column = [](int index, double top) {
@@ -75,7 +74,7 @@ void FrmMultidivi::Form_Load()
 
 void FrmMultidivi::newExercise()
 {
-    clearAnswers();
+    clearAnswer();
     m_model.newExercise();
     TBMensajes->retire();
     Text1->setPlainText(m_model.instruction());
@@ -83,55 +82,41 @@ void FrmMultidivi::newExercise()
     ui::announce(*Text2, m_model.instruction() + u' ' + Text2->text());
 }
 
-void FrmMultidivi::clearAnswers()
+void FrmMultidivi::check()
+{
+    MultiplesDivisors::Answer answers{};
+    std::transform(Text3.begin(), Text3.end(), answers.begin(),
+        [](const ui::TextBox* box) { return core::readNumber(box->text()); });
+    const auto verdict = m_model.judge(answers);
+    if (verdict == shell::Verdict::NotJudged) {
+        ui::MessageBox::show(*this, u"Los datos introducidos no son válidos"_s, u"error"_s);
+        return;
+    }
+    showVerdict(*TBMensajes, m_model.verdict());
+    if (verdict == shell::Verdict::Right) {
+        Command2[0]->setFocus();
+    } else {
+        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(m_model.wrongAnswer()));
+        wrong->setFocus();
+        wrong->selectAll();
+    }
+}
+
+void FrmMultidivi::nextExercise()
+{
+    newExercise();
+}
+
+void FrmMultidivi::clearAnswer()
 {
     for (ui::TextBox* box : Text3)
         box->clear();
     Text3[0]->setFocus();
 }
 
-void FrmMultidivi::Command1_Click()
-{
-    using Verdict = MultiplesDivisors::Verdict;
-    using Mark = ui::VerdictBox::Mark;
-    std::array<double, MultiplesDivisors::Answers> answers{};
-    std::transform(Text3.begin(), Text3.end(), answers.begin(),
-        [](const ui::TextBox* box) { return core::readNumber(box->text()); });
-    const auto [verdict, wrongAnswer] = m_model.check(answers);
-    if (verdict == Verdict::Invalid) {
-        ui::MessageBox::show(*this, u"Los datos introducidos no son válidos"_s, u"error"_s);
-        return;
-    }
-    const bool right = verdict == Verdict::Right;
-    TBMensajes->setVerdict(MultiplesDivisors::verdictText(verdict, TBMensajes->text()),
-        right ? Mark::Right : Mark::Wrong);
-    if (right) {
-        Command2[0]->setFocus();
-    } else {
-        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(wrongAnswer));
-        wrong->setFocus();
-        wrong->selectAll();
-    }
-}
-
-void FrmMultidivi::Command2_Click(int Index)
-{
-    switch (Index) {
-    case 0:
-        newExercise();
-        break;
-    case 1:
-        clearAnswers();
-        break;
-    default:
-        showSolution();
-        break;
-    }
-}
-
 void FrmMultidivi::showSolution()
 {
-    const auto solution = m_model.solution();
+    const auto solution = m_model.showSolution();
     for (std::size_t i = 0; i < solution.size(); ++i)
         Text3.at(i)->setText(QString::number(solution.at(i)));
 }

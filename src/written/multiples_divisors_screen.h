@@ -6,7 +6,7 @@
 namespace written {
 
 /// Multiples and divisors: three of either, of a given number.
-class FrmMultidivi : public shell::ExerciseScreen {
+class FrmMultidivi : public shell::DrillScreen<MultiplesDivisors> {
 public:
     static QString screenName();
 
@@ -14,20 +14,19 @@ public:
 
 protected:
     void Form_Load() override;
-    void Command1_Click() override;
-    void Command2_Click(int Index) override;
+    void newExercise() override;
+    void check() override;
+    void nextExercise() override;
+    void clearAnswer() override;
+    void showSolution() override;
 
 private:
     void makeBoxes();
-    void newExercise();
-    void clearAnswers();
-    void showSolution();
 
-    MultiplesDivisors m_model;
-    ui::Memo* Text1 = nullptr;
-    ui::TextBox* Text2 = nullptr;
-    std::array<ui::TextBox*, MultiplesDivisors::Answers> Text3{};
-    ui::VerdictBox* TBMensajes = nullptr;
+    ui::Memo* Text1 = nullptr; ///< the instruction
+    ui::TextBox* Text2 = nullptr; ///< the given number
+    std::array<ui::TextBox*, MultiplesDivisors::Answers> Text3{}; ///< the answers
+    ui::VerdictBox* TBMensajes = nullptr; ///< the verdict
 };
 
 } // namespace written

@@ -120,8 +120,8 @@ void WorkArea::setFirstCell(const ui::TwipRect& cell)
 
 void WorkArea::setFactor(double factor)
 {
-    m_factor = factor;
-    const double pixels = m_factor / ui::TwipsPerPixel;
+    Scalable::setFactor(factor);
+    const double pixels = factor / ui::TwipsPerPixel;
     QFont type = font();
     type.setPixelSize(ui::SquaredBox::fittingSize(
         type, m_firstCell.width * pixels, m_firstCell.height * pixels));
@@ -132,13 +132,13 @@ void WorkArea::setFactor(double factor)
 int WorkArea::columnEdge(int column) const
 {
     const double left = m_firstCell.left + column * m_firstCell.width;
-    return ui::toPixels({left, 0, 0, 0}, m_factor).left() - x();
+    return ui::toPixels({left, 0, 0, 0}, factor()).left() - x();
 }
 
 int WorkArea::rowEdge(int visibleRow) const
 {
     const double top = m_firstCell.top + visibleRow * m_firstCell.height;
-    return ui::toPixels({0, top, 0, 0}, m_factor).top() - y();
+    return ui::toPixels({0, top, 0, 0}, factor()).top() - y();
 }
 
 QRect WorkArea::cellRect(int position) const
@@ -151,7 +151,7 @@ QRect WorkArea::cellRect(int position) const
 
 int WorkArea::positionAt(const QPoint& point) const
 {
-    const double twips = ui::TwipsPerPixel / m_factor;
+    const double twips = ui::TwipsPerPixel / factor();
     const auto cell = [twips](int pixels, double length) {
         return static_cast<int>(std::floor((pixels + 0.5) * twips / length));
     };
@@ -176,7 +176,7 @@ int WorkArea::rowCount() const
 
 int WorkArea::visibleRows() const
 {
-    const double rowPixels = m_firstCell.height * m_factor / ui::TwipsPerPixel;
+    const double rowPixels = m_firstCell.height * factor() / ui::TwipsPerPixel;
     return std::max(1, static_cast<int>(std::lround(height() / rowPixels)));
 }
 
@@ -204,7 +204,7 @@ void WorkArea::paintEvent(QPaintEvent*)
     if (!hasFocus())
         return;
     QRect bar = cellRect(m_caret);
-    bar.setWidth(std::max(2, qRound(2 * m_factor)));
+    bar.setWidth(std::max(2, qRound(2 * factor())));
     painter.fillRect(bar, QColor(ui::look::Focus));
 }
 

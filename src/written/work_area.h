@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/placement.h"
+#include "ui/scaling.h"
 #include "written/grid_text.h"
 
 #include <QKeySequence>
@@ -97,7 +97,6 @@ private:
 
     GridText m_grid;
     ui::TwipRect m_firstCell{0, 0, 165, 240};
-    double m_factor = 1;
     int m_firstRow = 0; ///< the topmost line in sight
     int m_anchor = 0;
     int m_caret = 0;

@@ -10,7 +10,7 @@
 using namespace Qt::StringLiterals;
 using problems::Bank;
 using problems::ProblemSession;
-using Verdict = ProblemSession::Verdict;
+using shell::Verdict;
 
 namespace {
 
@@ -73,7 +73,7 @@ private slots:
     {
         session->setBank({{u"x|0||*"_s, u"Hay [2_9] y [3_8].|{&1*&2}|manzanas|*"_s}, {}});
         random->append({0.0f, 0.0f, 0.999f});
-        session->NuevoProblema([] {});
+        session->newExercise([] {});
         QCOMPARE(session->problem().statement, u"Hay 2 y 8."_s);
         QCOMPARE(session->problem().answer, 16);
         QCOMPARE(session->problem().unit, u"manzanas"_s);
@@ -87,7 +87,7 @@ private slots:
         script({1, 1, 1, 2}, 5);
         QCOMPARE(next(), u"P1"_s);
         std::vector<std::size_t> drawsLeft;
-        session->NuevoProblema([&] { drawsLeft.push_back(random->left()); });
+        session->newExercise([&] { drawsLeft.push_back(random->left()); });
         QCOMPARE(session->problem().statement, u"P2"_s);
         QCOMPARE(drawsLeft, (std::vector<std::size_t>{3, 2, 1}));
     }
@@ -98,10 +98,10 @@ private slots:
         script({3, 3}, 5);
         QCOMPARE(next(), u"P3"_s);
         session->showSolution();
-        QVERIFY_EXCEPTION_THROWN(session->NuevoProblema([] { throw 1; }), int);
+        QVERIFY_EXCEPTION_THROWN(session->newExercise([] { throw 1; }), int);
         QCOMPARE(session->problem().statement, u"P3"_s);
         QCOMPARE(random->left(), 1u);
-        QCOMPARE(session->check(13), Verdict::Right);
+        QCOMPARE(session->judge(13), Verdict::Right);
         QCOMPARE(session->counters().Ejercicios, core::Int16(0));
     }
 
@@ -239,7 +239,7 @@ private slots:
         QCOMPARE(failure(), u"No hay ningún problema que cumpla la selección."_s);
         QCOMPARE(calls, 1); // no draw but that of P2
         QCOMPARE(session->problem().statement, u"P2"_s);
-        QCOMPARE(session->check(12), Verdict::Right);
+        QCOMPARE(session->judge(12), Verdict::Right);
         QCOMPARE(session->counters().Ejercicios, core::Int16(1));
     }
 
@@ -258,7 +258,7 @@ private slots:
         session->setBank(bankOfSize(1));
         QVERIFY2(failure().contains(u"línea 1,"_s), qPrintable(failure()));
         QCOMPARE(session->problem().statement, QString());
-        QCOMPARE(session->check(0), Verdict::Right);
+        QCOMPARE(session->judge(0), Verdict::Right);
     }
 
     void aLineThatCannotBePreparedIsReportedWithItsNumber()
@@ -274,7 +274,7 @@ private slots:
             qPrintable(text));
         QVERIFY2(text.contains(u"{&0}"_s), qPrintable(text));
         QCOMPARE(session->problem().statement, u"P1"_s);
-        QCOMPARE(session->check(11), Verdict::Right);
+        QCOMPARE(session->judge(11), Verdict::Right);
         QCOMPARE(session->counters().Ejercicios, core::Int16(0)); // its solution was shown
     }
 
@@ -351,8 +351,8 @@ private slots:
     void wrongThenRightCountsTwoAndOneError()
     {
         show(1);
-        QCOMPARE(session->check(99), Verdict::Wrong);
-        QCOMPARE(session->check(11), Verdict::Right);
+        QCOMPARE(session->judge(99), Verdict::Wrong);
+        QCOMPARE(session->judge(11), Verdict::Right);
         verifyCounters(2, 1);
     }
 
@@ -360,24 +360,24 @@ private slots:
     {
         show(1);
         for (int i = 0; i < 3; ++i)
-            QCOMPARE(session->check(0), Verdict::Wrong);
+            QCOMPARE(session->judge(0), Verdict::Wrong);
         verifyCounters(3, 3);
     }
 
     void aRightAnswerCountsOnce()
     {
         show(1);
-        QCOMPARE(session->check(11), Verdict::Right);
-        QCOMPARE(session->check(11), Verdict::Right);
+        QCOMPARE(session->judge(11), Verdict::Right);
+        QCOMPARE(session->judge(11), Verdict::Right);
         verifyCounters(1, 0);
     }
 
     void wrongAfterRightStillCounts()
     {
         show(1);
-        session->check(11);
-        session->check(5);
-        session->check(11);
+        session->judge(11);
+        session->judge(5);
+        session->judge(11);
         verifyCounters(2, 1);
     }
 
@@ -385,9 +385,9 @@ private slots:
     {
         show(1);
         QCOMPARE(session->showSolution(), 11);
-        QCOMPARE(session->check(11), Verdict::Right);
+        QCOMPARE(session->judge(11), Verdict::Right);
         verifyCounters(0, 0);
-        session->check(12);
+        session->judge(12);
         verifyCounters(1, 1);
     }
 
@@ -396,16 +396,16 @@ private slots:
         show(1);
         session->showSolution();
         show(2);
-        QCOMPARE(session->check(12), Verdict::Right);
+        QCOMPARE(session->judge(12), Verdict::Right);
         verifyCounters(1, 0);
     }
 
     void answersAreComparedAsNumbers()
     {
         show(1);
-        QCOMPARE(session->check(11.5), Verdict::Wrong);
-        QCOMPARE(session->check(10.9999), Verdict::Wrong);
-        QCOMPARE(session->check(11.0), Verdict::Right);
+        QCOMPARE(session->judge(11.5), Verdict::Wrong);
+        QCOMPARE(session->judge(10.9999), Verdict::Wrong);
+        QCOMPARE(session->judge(11.0), Verdict::Right);
     }
 
     void withoutAProblemTheAnswerIs0()
@@ -413,18 +413,18 @@ private slots:
         QCOMPARE(session->problem().statement, QString());
         QCOMPARE(session->problem().unit, QString());
         QCOMPARE(session->showSolution(), 0);
-        QCOMPARE(session->check(0), Verdict::Right);
-        QCOMPARE(session->check(1), Verdict::Wrong);
+        QCOMPARE(session->judge(0), Verdict::Right);
+        QCOMPARE(session->judge(1), Verdict::Wrong);
     }
 
     void countingPast32767IsAnError()
     {
         show(1);
         for (int i = 0; i < 32767; ++i)
-            session->check(0);
-        QVERIFY_EXCEPTION_THROWN(session->check(0), core::OverflowError);
+            session->judge(0);
+        QVERIFY_EXCEPTION_THROWN(session->judge(0), core::OverflowError);
         verifyCounters(32767, 32767);
-        QVERIFY_EXCEPTION_THROWN(session->check(11), core::OverflowError);
+        QVERIFY_EXCEPTION_THROWN(session->judge(11), core::OverflowError);
         verifyCounters(32767, 32767);
     }
 
@@ -439,7 +439,7 @@ private slots:
         std::map<QString, int> shown;
         constexpr int Problems = 19 * 500;
         for (int i = 0; i < Problems; ++i) {
-            lasting.NuevoProblema([] {});
+            lasting.newExercise([] {});
             ++shown[lasting.problem().statement];
         }
         QCOMPARE(shown.size(), 19u);
@@ -458,11 +458,11 @@ private:
 
     QString next()
     {
-        session->NuevoProblema([this] { ++calls; });
+        session->newExercise([this] { ++calls; });
         return session->problem().statement;
     }
 
-    /// What NuevoProblema fails with; empty when it does not.
+    /// What newExercise fails with; empty when it does not.
     QString failure()
     {
         try {

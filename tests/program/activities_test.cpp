@@ -32,6 +32,42 @@ private slots:
         QCOMPARE(menu->findChild<QPushButton*>(u"Command1(12)"_s), nullptr);
     }
 
+    void everyRowIsWhole_data()
+    {
+        QTest::addColumn<int>("index");
+        const auto rows = activities();
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            QTest::newRow(qPrintable(rows[i].screen)) << static_cast<int>(i);
+    }
+    void everyRowIsWhole()
+    {
+        QFETCH(int, index);
+        const auto row = activities().at(static_cast<std::size_t>(index));
+        const auto has = [](const QString& file) {
+            return QFileInfo::exists(QStringLiteral(PIZARRIN_SOURCE) + u'/' + file);
+        };
+        for (const QString& file : {u"src/%1.h"_s, u"src/%1_screen.h"_s, u"tests/%1_test.cpp"_s,
+                 u"tests/%1_screen_test.cpp"_s})
+            QVERIFY2(
+                has(file.arg(row.source)), qPrintable(u"missing: "_s + file.arg(row.source)));
+        QVERIFY2(row.pictogram != shell::Pictogram::Exit, "the pictogram is the exit's");
+        const QString chapter = u"### "_s + QString(row.caption).remove(u'&');
+        QVERIFY2(manual().contains(u'\n' + chapter + u'\n'),
+            qPrintable(u"no chapter in docs/manual.md: "_s + chapter));
+    }
+
+    void noTwoRowsShareAScreenOrAPictogram()
+    {
+        QSet<QString> screenNames;
+        QSet<int> pictograms;
+        for (const shell::Activity& row : activities()) {
+            screenNames << row.screen;
+            pictograms << static_cast<int>(row.pictogram);
+        }
+        QCOMPARE(screenNames.size(), 11);
+        QCOMPARE(pictograms.size(), 11);
+    }
+
     void everyButtonOpensItsScreen_data()
     {
         QTest::addColumn<int>("index");
@@ -118,6 +154,12 @@ private slots:
     }
 
 private:
+    static QString manual()
+    {
+        QFile file(QStringLiteral(PIZARRIN_SOURCE "/docs/manual.md"));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
     QPushButton& button(int index) const
     {
         return ScreenBench::find<QPushButton>(*menu, u"Command1(%1)"_s.arg(index));

@@ -17,38 +17,33 @@ enum class Hand { Mouse, Keyboard };
 
 /// Answers every box with its button of this index, or its last, and keeps what was wrong
 /// with the boxes.
-class Answerer : public QObject {
+class Answerer {
 public:
     explicit Answerer(int choice)
         : m_choice(choice)
     {
-        connect(&m_poll, &QTimer::timeout, this, &Answerer::look);
-        m_poll.start(1);
     }
 
     QStringList faults;
     int mostButtons = 0; ///< of all boxes that came up
 
 private:
-    void look()
+    void answer(QDialog& box)
     {
-        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible() || !box->windowHandle()->isExposed())
-            return;
-        const auto buttons = box->findChildren<QPushButton*>();
+        const auto buttons = box.findChildren<QPushButton*>();
         for (const QPushButton* button : buttons)
             if (!QStringList{u"Aceptar"_s, u"Cancelar"_s, u"Sí"_s, u"No"_s}.contains(
                     button->text()))
                 faults << u"a button reads "_s + button->text();
-        if (!QGuiApplication::primaryScreen()->geometry().contains(box->frameGeometry()))
+        if (!QGuiApplication::primaryScreen()->geometry().contains(box.frameGeometry()))
             faults << u"a box leaves the display"_s;
         mostButtons = std::max(mostButtons, static_cast<int>(buttons.size()));
         QTest::mouseClick(
             buttons.at(std::min<qsizetype>(m_choice, buttons.size() - 1)), Qt::LeftButton);
     }
 
-    QTimer m_poll;
     int m_choice;
+    BoxWatcher m_watcher{[this](QDialog& box) { answer(box); }};
 };
 
 /// The leaves of a screen's menus.
@@ -204,14 +199,23 @@ private:
     {
         auto* bar = screen->findChild<QMenuBar*>();
         QAction* onBar = path.isEmpty() ? &item : path.first()->menuAction();
-        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(onBar).center());
+        clickOn(*bar, bar->actionGeometry(onBar).center());
         for (qsizetype i = 0; i < path.size(); ++i) {
             QTRY_VERIFY(path.at(i)->isVisible());
             verifyMenu(*path.at(i));
             QAction* next = i + 1 < path.size() ? path.at(i + 1)->menuAction() : &item;
-            QTest::mouseClick(
-                path.at(i), Qt::LeftButton, {}, path.at(i)->actionGeometry(next).center());
+            clickOn(*path.at(i), path.at(i)->actionGeometry(next).center());
         }
+    }
+
+    /// Clicks by way of the window, which tells the toolkit where the pointer is: from 6.8 on,
+    /// a menu closes when it is pressed without the pointer having moved since it came up.
+    static void clickOn(QWidget& widget, QPoint place)
+    {
+        QWindow* window = widget.window()->windowHandle();
+        place = widget.mapTo(widget.window(), place);
+        QTest::mouseMove(window, place);
+        QTest::mouseClick(window, Qt::LeftButton, {}, place);
     }
 
     void pickByKeys(QAction& item, const QList<QMenu*>& path)

@@ -21,12 +21,15 @@ public:
         enterChecks(answer);
     }
 
-    void Command1_Click() override { calls << -1; }
-    void Command2_Click(int Index) override { calls << Index; }
+    void newExercise() override { calls << u"new"_s; }
+    void check() override { calls << u"check"_s; }
+    void nextExercise() override { calls << u"next"_s; }
+    void clearAnswer() override { calls << u"clear"_s; }
+    void showSolution() override { calls << u"solution"_s; }
     using ExerciseScreen::askToRepeat;
 
     ui::TextBox* answer;
-    QList<int> calls;
+    QStringList calls;
 };
 
 } // namespace
@@ -42,7 +45,7 @@ private slots:
         for (const QString& name :
             {u"Command1"_s, u"Command2(0)"_s, u"Command2(1)"_s, u"Command2(2)"_s})
             bench.click(name);
-        QCOMPARE(drill.calls, (QList<int>{-1, 0, 1, 2}));
+        QCOMPARE(drill.calls, (QStringList{u"check"_s, u"next"_s, u"clear"_s, u"solution"_s}));
     }
 
     void enterChecksAndTypesNothing()
@@ -52,7 +55,7 @@ private slots:
         QTest::keyClicks(drill.answer, u"12x"_s);
         QTest::keyClick(drill.answer, Qt::Key_Return);
         QTest::keyClick(drill.answer, Qt::Key_Enter, Qt::KeypadModifier);
-        QCOMPARE(drill.calls, (QList<int>{-1, -1}));
+        QCOMPARE(drill.calls, (QStringList{u"check"_s, u"check"_s}));
         QCOMPARE(drill.answer->text(), u"12x"_s);
     }
 

@@ -24,10 +24,16 @@ private:
     QStringList& m_log;
 };
 
-const QList<Activity> Entries{
-    {u"&Suma repetida"_s, u"Form4"_s},
-    {u"&Tablas de multiplicar"_s, u"Form2"_s},
-    {u"&Problemas"_s, u"FormProblemas"_s, Activity::Shown::Modeless},
+/// An entry of the menu; the bench knows its screen already.
+Activity entry(const QString& caption, const QString& screen, Activity::Shown shown)
+{
+    return {caption, screen, shown, shell::Pictogram::Gap, {}, nullptr};
+}
+
+const std::vector<Activity> Entries{
+    entry(u"&Suma repetida"_s, u"Form4"_s, Activity::Shown::Modal),
+    entry(u"&Tablas de multiplicar"_s, u"Form2"_s, Activity::Shown::Modal),
+    entry(u"&Problemas"_s, u"FormProblemas"_s, Activity::Shown::Modeless),
 };
 
 const QStringList SpiedScreens{u"Form2"_s, u"Form3"_s, u"Form4"_s, u"Form5"_s, u"Form6"_s,

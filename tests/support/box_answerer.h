@@ -1,16 +1,14 @@
 #pragma once
 
+#include "support/box_watcher.h"
 #include "support/typing.h"
 
-#include <QApplication>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QTimer>
 #include <QtTest>
-#include <QWindow>
 
 #include <deque>
 #include <functional>
@@ -18,7 +16,7 @@
 
 /// Answers the message and input boxes that come up, in order, by the caption of a button,
 /// and keeps what they said. A box that no answer is left for fails the test.
-class BoxAnswerer : public QObject {
+class BoxAnswerer {
 public:
     struct Answer {
         Answer(const QString& caption)
@@ -37,14 +35,12 @@ public:
     BoxAnswerer(std::initializer_list<Answer> answers = {})
         : m_answers(answers)
     {
-        connect(&m_poll, &QTimer::timeout, this, &BoxAnswerer::look);
-        m_poll.start(5);
     }
     explicit BoxAnswerer(const QString& button)
         : BoxAnswerer({Answer(button)})
     {
     }
-    ~BoxAnswerer() override
+    ~BoxAnswerer()
     {
         if (!m_answers.empty())
             QTest::qFail("a box that the test waits for did not come up", __FILE__, __LINE__);
@@ -59,18 +55,13 @@ public:
     std::function<void(QDialog&)> whileOpen;
 
 private:
-    void look()
+    void answer(QDialog& box)
     {
-        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible() || box == m_answered)
-            return;
-        if (!box->windowHandle()->isExposed()) // in a real window a click would come too early
-            return;
-        m_answered = box;
-        keep(*box);
+        const QPointer<QDialog> open(&box);
+        keep(box);
         if (whileOpen)
-            whileOpen(*box);
-        if (!m_answered || !box->isVisible()) {
+            whileOpen(box);
+        if (!open || !box.isVisible()) {
             if (!m_answers.empty())
                 m_answers.pop_front(); // whileOpen answered it
             return;
@@ -78,14 +69,14 @@ private:
         if (m_answers.empty()) {
             QTest::qFail(qPrintable(QStringLiteral("an unasked box: ") + texts.constLast()),
                 __FILE__, __LINE__);
-            box->done(QDialog::Rejected);
+            box.done(QDialog::Rejected);
             return;
         }
         const Answer answer = m_answers.front();
         m_answers.pop_front();
-        if (auto* edit = box->findChild<QLineEdit*>())
+        if (auto* edit = box.findChild<QLineEdit*>())
             typeInto(edit, answer.typed);
-        press(*box, answer.button);
+        press(box, answer.button);
     }
 
     void keep(QDialog& box)
@@ -116,7 +107,6 @@ private:
         box.done(QDialog::Rejected);
     }
 
-    QTimer m_poll;
     std::deque<Answer> m_answers;
-    QPointer<QDialog> m_answered;
+    BoxWatcher m_watcher{[this](QDialog& box) { answer(box); }};
 };

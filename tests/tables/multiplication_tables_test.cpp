@@ -5,8 +5,8 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 using tables::MultiplicationTables;
-using Verdict = MultiplicationTables::Verdict;
 
 class MultiplicationTablesTest : public QObject {
     Q_OBJECT
@@ -93,12 +93,13 @@ private slots:
     {
         model->chooseActivity(1);
         model->chooseTable(7);
-        model->EmpiezaRepaso();
+        model->newExercise();
         for (int k = 1; k <= 10; ++k) {
             QCOMPARE(model->question(), k);
             QCOMPARE(model->multiplier(), k);
             QCOMPARE(model->product(), 7 * k);
-            QCOMPARE(model->check(7 * k), k < 10 ? Verdict::Right : Verdict::SeriesOver);
+            QCOMPARE(model->judge(7 * k), Verdict::Right);
+            QCOMPARE(model->isSeriesOver(), k == 10);
         }
         QCOMPARE(model->question(), 11);
     }
@@ -109,7 +110,7 @@ private slots:
         for (int i = 0; i < 100; ++i)
             random.appendInteger(1, 9, 1);
         model->chooseActivity(2);
-        model->EmpiezaRepaso();
+        model->newExercise();
         QCOMPARE(random.left(), 0u);
         QCOMPARE(model->multiplier(), 1);
 
@@ -117,11 +118,11 @@ private slots:
         random.appendInteger(9, 9, 1);
         for (int i = 0; i < 99; ++i)
             random.appendInteger(1, 9, 1);
-        model->EmpiezaRepaso();
+        model->newExercise();
         QList<int> order;
         for (int i = 0; i < 10; ++i) {
             order << model->multiplier();
-            model->check(model->product());
+            model->judge(model->product());
         }
         QCOMPARE(order, (QList<int>{2, 1, 3, 4, 5, 6, 7, 8, 10, 9}));
     }
@@ -133,11 +134,11 @@ private slots:
             seeded.seed(seed);
             MultiplicationTables shuffled(seeded);
             shuffled.chooseActivity(2);
-            shuffled.EmpiezaRepaso();
+            shuffled.newExercise();
             QSet<int> asked;
             while (shuffled.question() <= 10) {
                 asked << shuffled.multiplier();
-                shuffled.check(shuffled.product());
+                shuffled.judge(shuffled.product());
             }
             QCOMPARE(asked.size(), 10);
         }
@@ -148,22 +149,26 @@ private slots:
         for (int i = 0; i < 100; ++i)
             random.appendInteger(1 + i % 9, 9, 1);
         model->chooseActivity(2);
-        model->EmpiezaRepaso();
+        model->newExercise();
         QVERIFY(model->multiplier() != 1);
         model->chooseActivity(1);
-        model->EmpiezaRepaso();
+        model->newExercise();
         QCOMPARE(model->multiplier(), 1);
     }
 
     void wrongAnswerCountsAnErrorAndKeepsTheQuestion()
     {
         model->chooseActivity(1);
-        model->EmpiezaRepaso();
-        QCOMPARE(model->check(2), Verdict::Wrong);
-        QCOMPARE(model->check(0), Verdict::Wrong);
+        model->newExercise();
+        QCOMPARE(model->judge(2), Verdict::Wrong);
+        QCOMPARE(model->verdict().text(), u"resultado incorrecto "_s);
+        QCOMPARE(model->judge(0), Verdict::Wrong);
         QCOMPARE(model->question(), 1);
         QCOMPARE(model->seriesErrors(), 2);
-        QCOMPARE(model->check(1), Verdict::Right);
+        QCOMPARE(model->judge(1), Verdict::Right);
+        QCOMPARE(model->verdict().text(), u"Resultado correcto"_s);
+        model->clearVerdict();
+        QCOMPARE(model->verdict().text(), QString());
         QCOMPARE(model->seriesErrors(), 2);
         QCOMPARE(model->question(), 2);
     }
@@ -171,26 +176,26 @@ private slots:
     void answersAreComparedUnrounded()
     {
         model->chooseActivity(1);
-        model->EmpiezaRepaso();
-        QCOMPARE(model->check(1.4), Verdict::Wrong);
+        model->newExercise();
+        QCOMPARE(model->judge(1.4), Verdict::Wrong);
     }
 
     void restartClearsTheErrorsOfTheSeries()
     {
         model->chooseActivity(1);
-        model->EmpiezaRepaso();
-        model->check(9);
-        model->EmpiezaRepaso();
+        model->newExercise();
+        model->judge(9);
+        model->newExercise();
         QCOMPARE(model->seriesErrors(), 0);
     }
 
     void finishedSeriesChecksNothingMore()
     {
         model->chooseActivity(1);
-        model->EmpiezaRepaso();
+        model->newExercise();
         while (model->question() <= 10)
-            model->check(model->product());
-        QCOMPARE(model->check(0), Verdict::AlreadyOver);
+            model->judge(model->product());
+        QCOMPARE(model->judge(0), Verdict::NotJudged);
         QCOMPARE(model->seriesErrors(), 0);
         QCOMPARE(model->question(), 11);
         QCOMPARE(model->multiplier(), 0);

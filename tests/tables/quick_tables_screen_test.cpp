@@ -599,7 +599,10 @@ private slots:
     {
         BoxAnswerer boxes(u"Aceptar"_s);
         startWith(2, u"99999"_s);
-        QCOMPARE(boxes.texts, {u"«99999» no es un número entero de -32768 a 32767."_s});
+        QCOMPARE(boxes.texts,
+            {u"«99999» es demasiado grande. Escribe un número del 1 al 500 y vuelve a empezar."_s});
+        QCOMPARE(boxes.titles, {u"Pizarrin"_s});
+        QCOMPARE(boxes.icons, {QMessageBox::Warning});
         verifyRunning(false);
         QCOMPARE(bench->control<QPushButton>(u"Command1"_s).text(), u"&Empezar"_s);
         QCOMPARE(bench->text(u"Text1"_s), u"99999"_s);

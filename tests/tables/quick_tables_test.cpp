@@ -14,7 +14,7 @@ using tables::QuickTables;
 using End = QuickTables::End;
 using Events = QuickTables::Events;
 using LimitVerdict = QuickTables::LimitVerdict;
-using Verdict = QuickTables::Verdict;
+using shell::Verdict;
 
 class QuickTablesTest : public QObject {
     Q_OBJECT
@@ -50,7 +50,7 @@ private:
         return drill->setLimit(limit);
     }
 
-    Events answerRight() { return drill->answer(drill->state().Producto.value()); }
+    Events answerRight() { return drill->judge(drill->state().Producto.value()); }
 
     Events timeOut()
     {
@@ -82,7 +82,7 @@ private slots:
 
     void ignoresAnswersAndTicksBeforeTheStart()
     {
-        drill->answer(0);
+        drill->judge(0);
         drill->tickOperation();
         drill->tickMinute();
         drill->end();
@@ -167,7 +167,7 @@ private slots:
             for (int i = 0; i < 19'750; ++i) {
                 const Factors drawn(many.state().FactorA.value(), many.state().FactorB.value());
                 ++counts[drawn];
-                many.answer(many.state().Producto.value());
+                many.judge(many.state().Producto.value());
                 QVERIFY(
                     drawn != Factors(many.state().FactorA.value(), many.state().FactorB.value()));
             }
@@ -186,7 +186,7 @@ private slots:
         appendOperation(6, 9);
         drill->start(0);
         drill->tickOperation();
-        const Events events = drill->answer(56);
+        const Events events = drill->judge(56);
         QCOMPARE(events.verdict, std::optional(Verdict::Right));
         QVERIFY(events.newOperation && !events.ended);
         QCOMPARE(factors(), Factors(6, 9));
@@ -204,7 +204,7 @@ private slots:
         appendOperation(7, 8);
         appendOperation(6, 9);
         drill->start(0);
-        const Events events = drill->answer(55);
+        const Events events = drill->judge(55);
         QCOMPARE(events.verdict, std::optional(Verdict::Wrong));
         QVERIFY(events.newOperation && !events.ended);
         QCOMPARE(factors(), Factors(6, 9));
@@ -222,7 +222,7 @@ private slots:
         appendOperation(8, 8);
         appendOperation(6, 9);
         drill->start(0);
-        drill->answer(0);
+        drill->judge(0);
         answerRight();
         QCOMPARE(drill->state().Usos[6][1].value(), 2);
         QCOMPARE(drill->state().Usos[7][0].value(), 2);
@@ -233,7 +233,7 @@ private slots:
         appendOperation(7, 8);
         appendOperations(1);
         drill->start(0);
-        QCOMPARE(drill->answer(56.4).verdict, std::optional(Verdict::Wrong));
+        QCOMPARE(drill->judge(56.4).verdict, std::optional(Verdict::Wrong));
     }
 
     void aTickTakesASecond()
@@ -338,7 +338,7 @@ private slots:
         appendOperations(601);
         startWith(end, limit);
         for (int i = 0; i < 600; ++i)
-            QVERIFY(!drill->answer(0).ended);
+            QVERIFY(!drill->judge(0).ended);
         QCOMPARE(drill->state().Operaciones.value(), 600);
     }
 
@@ -422,9 +422,9 @@ private slots:
     {
         appendOperations(3);
         startWith(End::Errors, 2);
-        QVERIFY(!drill->answer(0).ended);
+        QVERIFY(!drill->judge(0).ended);
         QVERIFY(!answerRight().ended); // right ones do not count
-        const Events events = drill->answer(0);
+        const Events events = drill->judge(0);
         QCOMPARE(events.verdict, std::optional(Verdict::Wrong));
         QVERIFY(events.ended && !events.newOperation);
         QCOMPARE(drill->state().Operaciones.value(), 3);
@@ -474,11 +474,11 @@ private slots:
     {
         appendOperations(2);
         startWith(End::Button, 0);
-        drill->answer(0);
+        drill->judge(0);
         drill->end();
         const QString report = drill->report(QLocale::c());
         const Factors last = factors();
-        QVERIFY(!drill->answer(0).verdict);
+        QVERIFY(!drill->judge(0).verdict);
         QVERIFY(!timeOut().verdict);
         QVERIFY(!drill->tickMinute().ended); // it does not end a second time
         QVERIFY(!drill->start(5).newOperation);
@@ -499,7 +499,7 @@ private slots:
         appendOperation(3, 8);
         drill->start(0);
         answerRight(); // 7 x 7
-        drill->answer(0); // 7 x 9
+        drill->judge(0); // 7 x 9
         answerRight(); // 10 x 9
         timeOut(); // 5 x 4, and 5 x 3 is never shown
         drill->end();
@@ -527,7 +527,7 @@ private slots:
         appendOperations(1);
         drill->start(0);
         answerRight();
-        drill->answer(0);
+        drill->judge(0);
         QVERIFY(drill->report(QLocale(QLocale::English, QLocale::UnitedStates))
                     .contains(u"número 7: 1 errores. (33.3333333333333 %)\r\n"_s));
     }
@@ -553,9 +553,9 @@ private slots:
             appendOperation(10, i % 2 == 0 ? 10 : 9);
         startWith(End::Button, 0);
         for (int i = 0; i < Answers; ++i)
-            drill->answer(0);
+            drill->judge(0);
         QCOMPARE(drill->state().Usos[9][1].value(), 32766);
-        QVERIFY_THROWS_EXCEPTION(core::OverflowError, drill->answer(0));
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, drill->judge(0));
         QCOMPARE(drill->state().Usos[9][1].value(), 32766); // not one of the two either
         QCOMPARE(drill->state().Operaciones.value(), Answers);
         QCOMPARE(drill->state().ErroresTotales.value(), Answers);
@@ -585,6 +585,34 @@ private slots:
         const tables::TimeColour colour = tables::timeColour(seconds);
         QTEST(colour.red, "red");
         QTEST(colour.green, "green");
+    }
+
+    void tellsOfALimitThatNoCounterHolds_data()
+    {
+        QTest::addColumn<End>("end");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("told");
+
+        QTest::newRow("nothing typed") << End::Button << QString() << QString();
+        QTest::newRow("out of range only") << End::Errors << u"32767"_s << QString();
+        QTest::newRow("rounded down to the largest") << End::Errors << u"32767,4"_s << QString();
+        QTest::newRow("rounded up beyond it")
+            << End::Errors << u"32767,5"_s
+            << u"«32767,5» es demasiado grande. Escribe un número del 1 al 100 y vuelve a empezar."_s;
+        QTest::newRow("too large")
+            << End::Operations << u" 40000 "_s
+            << u"«40000» es demasiado grande. Escribe un número del 1 al 500 y vuelve a empezar."_s;
+        QTest::newRow("smallest") << End::Minutes << u"-32768"_s << QString();
+        QTest::newRow("too small")
+            << End::Minutes << u"-32769"_s
+            << u"«-32769» es demasiado pequeño. Escribe un número del 1 al 60 y vuelve a empezar."_s;
+    }
+    void tellsOfALimitThatNoCounterHolds()
+    {
+        QFETCH(End, end);
+        QFETCH(QString, typed);
+        drill->endBy(end);
+        QTEST(drill->limitFault(typed).value_or(QString()), "told");
     }
 };
 

@@ -9,8 +9,8 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 using tables::RepeatedSum;
-using Verdict = RepeatedSum::Verdict;
 
 namespace {
 
@@ -29,12 +29,7 @@ private:
     ScriptedRandom random;
     std::unique_ptr<RepeatedSum> sum;
 
-    Verdict check(double a, double b)
-    {
-        const Verdict verdict = sum->judge(a, b);
-        sum->count(verdict);
-        return verdict;
-    }
+    Verdict check(double a, double b) { return sum->judge({a, b}); }
 
 private slots:
     void init()
@@ -42,7 +37,7 @@ private slots:
         random = {};
         appendSum(random, 3, 5);
         sum = std::make_unique<RepeatedSum>(random);
-        sum->NuevaSuma();
+        sum->newExercise();
     }
 
     void startsWithNothingCounted()
@@ -73,7 +68,7 @@ private slots:
         QFETCH(float, first);
         QFETCH(float, second);
         random.append({first, second});
-        sum->NuevaSuma();
+        sum->newExercise();
         QTEST(sum->addend(), "addend");
         QTEST(sum->times(), "times");
         QCOMPARE(random.left(), 0u);
@@ -82,7 +77,7 @@ private slots:
     void theSameExerciseMayComeTwice()
     {
         appendSum(random, 3, 5);
-        sum->NuevaSuma();
+        sum->newExercise();
         QCOMPARE(sum->addend(), 3);
         QCOMPARE(sum->times(), 5);
     }
@@ -94,7 +89,7 @@ private slots:
         RepeatedSum many(seeded);
         std::array<std::array<int, 11>, 11> counts{};
         for (int i = 0; i < 90'000; ++i) {
-            many.NuevaSuma();
+            many.newExercise();
             ++counts.at(static_cast<std::size_t>(many.addend()))
                   .at(static_cast<std::size_t>(many.times()));
         }
@@ -124,7 +119,7 @@ private slots:
         QFETCH(int, addend);
         QFETCH(int, times);
         appendSum(random, addend, times);
-        sum->NuevaSuma();
+        sum->newExercise();
         QTEST(sum->sumText(), "text");
     }
 
@@ -150,8 +145,12 @@ private slots:
         QFETCH(double, a);
         QFETCH(double, b);
         QFETCH(bool, right);
-        QCOMPARE(sum->judge(a, b), right ? Verdict::Right : Verdict::Wrong);
-        QCOMPARE(sum->counters().Ejercicios.value(), 0); // judging counts nothing
+        QCOMPARE(check(a, b), right ? Verdict::Right : Verdict::Wrong);
+        QCOMPARE(sum->verdict().verdict(), right ? Verdict::Right : Verdict::Wrong);
+        QCOMPARE(
+            sum->verdict().text(), right ? u"Respuesta correcta"_s : u"Respuesta incorrecta"_s);
+        QCOMPARE(sum->counters().Ejercicios.value(), 1);
+        QCOMPARE(sum->counters().Errores.value(), right ? 0 : 1);
     }
 
     void countsARightAnswerOnce()
@@ -206,7 +205,9 @@ private slots:
         QCOMPARE(check(3, 4), Verdict::Wrong);
         QCOMPARE(sum->counters().Ejercicios.value(), 0);
         QCOMPARE(sum->counters().Errores.value(), 0);
-        QCOMPARE(sum->solutionText(), u"3 por 5"_s);
+        sum->showSolution();
+        QCOMPARE(sum->verdict().text(), u"3 por 5"_s);
+        QVERIFY(!sum->verdict().verdict());
     }
 
     void theNextExerciseIsPendingAgain()
@@ -214,7 +215,7 @@ private slots:
         check(3, 4);
         sum->showSolution();
         appendSum(random, 2, 10);
-        sum->NuevaSuma();
+        sum->newExercise();
         QVERIFY(sum->isPending());
         QVERIFY(sum->canContinue());
         QCOMPARE(sum->counters().Ejercicios.value(), 1); // of the session
@@ -223,15 +224,24 @@ private slots:
         QCOMPARE(sum->counters().Errores.value(), 1);
     }
 
+    void aNewExerciseEmptiesTheVerdictLine()
+    {
+        check(3, 4);
+        appendSum(random, 2, 10);
+        sum->newExercise();
+        QCOMPARE(sum->verdict().text(), QString());
+    }
+
     void countsUpTo32767AndNoFurther()
     {
-        sum->count(Verdict::Right);
+        check(3, 5);
         appendSum(random, 3, 5);
-        sum->NuevaSuma();
+        sum->newExercise();
         for (int i = 1; i < 32767; ++i)
-            sum->count(Verdict::Wrong);
-        QVERIFY_THROWS_EXCEPTION(core::OverflowError, sum->count(Verdict::Wrong));
-        QVERIFY_THROWS_EXCEPTION(core::OverflowError, sum->count(Verdict::Right));
+            check(0, 0);
+        QCOMPARE(check(0, 0), Verdict::Wrong); // full counters stay, without a word
+        QCOMPARE(check(3, 5), Verdict::Right);
+        QCOMPARE(sum->verdict().text(), u"Respuesta correcta"_s);
         QCOMPARE(sum->counters().Ejercicios.value(), 32767);
         QCOMPARE(sum->counters().Errores.value(), 32766);
         QVERIFY(sum->isPending());

@@ -91,7 +91,7 @@ CombinedOperations made(const std::array<Group, 3>& groups)
     static ScriptedRandom random;
     script(random, groups);
     CombinedOperations model(random);
-    model.newExpression();
+    model.newExercise();
     return model;
 }
 
@@ -136,7 +136,7 @@ void CombinedOperationsTest::drawsNumbersFirstThenOperators()
         random.appendInteger(oper, 4, 1);
     CombinedOperations model(random);
     QCOMPARE(random.left(), 9u); // nothing is drawn before the generator is seeded
-    model.newExpression();
+    model.newExercise();
     QCOMPARE(random.left(), 0u);
     QCOMPARE(model.text(), u"2 x 3 + (4 + 5) + 6 x 7"_s);
     QVERIFY(random.seeds.empty());
@@ -161,7 +161,7 @@ void CombinedOperationsTest::drawRanges()
     for (int i = 0; i < 9; ++i)
         random.append({draw});
     CombinedOperations model(random);
-    model.newExpression();
+    model.newExercise();
     QTEST(model.text(), "text");
 }
 
@@ -271,7 +271,7 @@ void CombinedOperationsTest::seededExpressionsKeepTheirPromises()
     CombinedOperations model(random);
     std::set<QString> texts;
     for (int i = 0; i < 20000; ++i) {
-        model.newExpression();
+        model.newExercise();
         const Parsed parsed = parse(model.text());
         const auto text = model.text().toUtf8();
         QVERIFY2(parsed.valid && parsed.wholeAndNotNegative, text);
@@ -285,22 +285,26 @@ void CombinedOperationsTest::seededExpressionsKeepTheirPromises()
 
 void CombinedOperationsTest::answersAreComparedAsNumbers()
 {
-    using Verdict = CombinedOperations::Verdict;
-    const auto model = made({{{5, 3, Plus}, {4, 2, Times}, {6, 3, DividedBy}}});
-    QCOMPARE(model.check(10), Verdict::Right);
-    QCOMPARE(model.check(10.25), Verdict::Wrong);
-    QCOMPARE(model.check(-10), Verdict::Wrong);
-    QCOMPARE(model.check(0), Verdict::Wrong);
-    QCOMPARE(model.check(1e300), Verdict::Wrong);
-    QCOMPARE(model.check(10), Verdict::Right); // a check changes nothing
-    QCOMPARE(made({NoGroup, NoGroup, NoGroup}).check(0), Verdict::Right);
+    using shell::Verdict;
+    auto model = made({{{5, 3, Plus}, {4, 2, Times}, {6, 3, DividedBy}}});
+    QCOMPARE(model.judge(10), Verdict::Right);
+    QCOMPARE(model.judge(10.25), Verdict::Wrong);
+    QCOMPARE(model.judge(-10), Verdict::Wrong);
+    QCOMPARE(model.judge(0), Verdict::Wrong);
+    QCOMPARE(model.judge(1e300), Verdict::Wrong);
+    QCOMPARE(model.judge(10), Verdict::Right); // judging changes nothing
+    QCOMPARE(made({NoGroup, NoGroup, NoGroup}).judge(0), Verdict::Right);
 }
 
 void CombinedOperationsTest::verdictTexts()
 {
-    using Verdict = CombinedOperations::Verdict;
-    QCOMPARE(CombinedOperations::verdictText(Verdict::Right), u"Resultado correcto"_s);
-    QCOMPARE(CombinedOperations::verdictText(Verdict::Wrong), u"Resultado incorrecto"_s);
+    auto model = made({{{5, 3, Plus}, {4, 2, Times}, {6, 3, DividedBy}}});
+    QCOMPARE(model.verdict().text(), QString());
+    model.judge(10);
+    QCOMPARE(model.verdict().text(), u"Resultado correcto"_s);
+    model.judge(11);
+    QCOMPARE(model.verdict().text(), u"Resultado incorrecto"_s);
+    QCOMPARE(model.showSolution(), 10);
 }
 
 QTEST_GUILESS_MAIN(CombinedOperationsTest)

@@ -8,7 +8,7 @@
 #include <map>
 
 using namespace Qt::StringLiterals;
-using written::DivisionVerdict;
+using shell::Verdict;
 using written::GridText;
 using written::LongDivision;
 
@@ -67,12 +67,12 @@ struct Drill {
         division.chooseDecimals(decimals);
     }
 
-    DivisionVerdict check(const QString& quotient, const QStringList& lines)
+    Verdict check(const QString& quotient, const QStringList& lines)
     {
         GridText work = division.emptyWork();
         for (int row = 0; row < lines.size(); ++row)
             work.EscribeLinea(lines[row], row + 1, 0);
-        return division.check(quotient, work);
+        return division.judge({quotient, work});
     }
 
     ScriptedRandom random;
@@ -89,7 +89,7 @@ struct Counts {
 Counts counts(const LongDivision& division)
 {
     return {division.counters().Ejercicios.value(), division.counters().Errores.value(),
-        division.Pendiente()};
+        division.isPending()};
 }
 
 } // namespace
@@ -99,7 +99,7 @@ void LongDivisionTest::startsWithItsSettings()
     ScriptedRandom random{drawFor(84, 2), drawFor(7, 1)};
     LongDivision division(random);
     QCOMPARE(random.left(), 2u);
-    division.draw();
+    division.newExercise();
     QCOMPARE(random.left(), 0u);
     QCOMPARE(division.Dividendo(), 84);
     QCOMPARE(division.Divisor(), 7);
@@ -139,7 +139,7 @@ void LongDivisionTest::drawsOperands()
     LongDivision division(random);
     division.chooseDividendDigits(dividendDigits);
     division.chooseDivisorDigits(divisorDigits);
-    division.draw();
+    division.newExercise();
     QTEST(division.Dividendo(), "dividend");
     QTEST(division.Divisor(), "divisor");
     QCOMPARE(random.left(), 0u);
@@ -149,7 +149,7 @@ void LongDivisionTest::redrawsWhatIsNotAboveTheRoundNumber()
 {
     ScriptedRandom random{0.0f, 0.0999f, 0.115f, 0.0f, 0.0999f, 0.31f};
     LongDivision division(random);
-    division.draw();
+    division.newExercise();
     QCOMPARE(division.Dividendo(), 12); // not 1, not 10
     QCOMPARE(division.Divisor(), 4); // not 1, twice
     QCOMPARE(random.left(), 0u);
@@ -175,7 +175,7 @@ void LongDivisionTest::largestNumberIsTwiceAsLikely()
     std::map<int, int> dividends;
     std::map<int, int> divisors;
     for (int i = 0; i < Draws; ++i) {
-        division.draw();
+        division.newExercise();
         ++dividends[division.Dividendo()];
         ++divisors[division.Divisor()];
     }
@@ -254,7 +254,7 @@ void LongDivisionTest::digitsWaitForTheNextExercise()
     QCOMPARE(drill.division.operationText(), u"84 ÷ 7"_s);
     QCOMPARE(drill.division.AnchoLinea().value(), 6);
     drill.random.append({drawFor(1234, 4), drawFor(56, 2)});
-    drill.division.next();
+    drill.division.nextExercise();
     QCOMPARE(drill.division.operationText(), u"1234 ÷ 56"_s);
     QCOMPARE(drill.division.AnchoLinea().value(), 8);
 }
@@ -310,11 +310,11 @@ void LongDivisionTest::check_data()
     QTest::addColumn<int>("decimals");
     QTest::addColumn<QString>("quotient");
     QTest::addColumn<QStringList>("lines");
-    QTest::addColumn<DivisionVerdict>("verdict");
+    QTest::addColumn<Verdict>("verdict");
 
-    const auto right = DivisionVerdict::Right;
-    const auto wrong = DivisionVerdict::Wrong;
-    const auto tooFew = DivisionVerdict::TooFewDecimals;
+    const auto right = Verdict::Right;
+    const auto wrong = Verdict::Wrong;
+    const auto tooFew = Verdict::NotJudged;
     using Lines = QStringList;
 
     QTest::newRow("17 / 5") << 17 << 5 << 0 << u"3"_s << Lines{u"  2   "_s} << right;
@@ -383,30 +383,34 @@ void LongDivisionTest::check()
 void LongDivisionTest::tooFewDecimalsCountNothing()
 {
     Drill drill(25, 2, 3);
-    QCOMPARE(drill.check(u"12,5"_s, {u"  1"_s}), DivisionVerdict::TooFewDecimals);
+    QCOMPARE(drill.check(u"12,5"_s, {u"  1"_s}), Verdict::NotJudged);
+    QCOMPARE(drill.division.tooFewDecimals(), u"Debe sacar al menos 3 decimales."_s);
+    QVERIFY(!drill.division.verdict().verdict());
     QVERIFY(counts(drill.division) == (Counts{0, 0, true}));
 }
 
 void LongDivisionTest::countsEveryWrongCheckAndTheFirstRightOne()
 {
     Drill drill(17, 5);
-    QCOMPARE(drill.check(u"4"_s, {}), DivisionVerdict::Wrong);
+    QCOMPARE(drill.check(u"4"_s, {}), Verdict::Wrong);
     QVERIFY(counts(drill.division) == (Counts{1, 1, true}));
-    QCOMPARE(drill.check(u"5"_s, {}), DivisionVerdict::Wrong);
+    QCOMPARE(drill.division.verdict().text(), u"Resultado incorrecto"_s);
+    QCOMPARE(drill.check(u"5"_s, {}), Verdict::Wrong);
     QVERIFY(counts(drill.division) == (Counts{2, 2, true}));
-    QCOMPARE(drill.check(u"3"_s, {u"  2"_s}), DivisionVerdict::Right);
+    QCOMPARE(drill.check(u"3"_s, {u"  2"_s}), Verdict::Right);
     QVERIFY(counts(drill.division) == (Counts{3, 2, false}));
-    QCOMPARE(drill.check(u"3"_s, {u"  2"_s}), DivisionVerdict::Right);
-    QCOMPARE(drill.check(u"4"_s, {u"  2"_s}), DivisionVerdict::Wrong);
+    QCOMPARE(drill.division.verdict().text(), u"resultado correcto"_s);
+    QCOMPARE(drill.check(u"3"_s, {u"  2"_s}), Verdict::Right);
+    QCOMPARE(drill.check(u"4"_s, {u"  2"_s}), Verdict::Wrong);
     QVERIFY(counts(drill.division) == (Counts{3, 2, false}));
 }
 
 void LongDivisionTest::solvingEndsTheExerciseUncounted()
 {
     Drill drill(17, 5);
-    QCOMPARE(drill.division.solve().quotient, u"3"_s);
+    QCOMPARE(drill.division.showSolution().quotient, u"3"_s);
     QVERIFY(counts(drill.division) == (Counts{0, 0, false}));
-    QCOMPARE(drill.check(u"3"_s, {u"  2"_s}), DivisionVerdict::Right);
+    QCOMPARE(drill.check(u"3"_s, {u"  2"_s}), Verdict::Right);
     QVERIFY(counts(drill.division) == (Counts{0, 0, false}));
 }
 
@@ -414,17 +418,17 @@ void LongDivisionTest::onlyNextMakesTheExercisePending()
 {
     Drill drill(17, 5);
     LongDivision& division = drill.division;
-    division.solve();
+    division.showSolution();
     for (int i = 0; i < 4; ++i)
         drill.random.append({drawFor(60, 2), drawFor(3, 1)});
     division.chooseDecimals(1);
-    QVERIFY(!division.Pendiente());
+    QVERIFY(!division.isPending());
     division.toggleProducts();
-    QVERIFY(!division.Pendiente());
+    QVERIFY(!division.isPending());
     division.toggleForcedZeros();
-    QVERIFY(!division.Pendiente());
-    division.next();
-    QVERIFY(division.Pendiente());
+    QVERIFY(!division.isPending());
+    division.nextExercise();
+    QVERIFY(division.isPending());
     QCOMPARE(drill.random.left(), 0u);
 }
 
@@ -532,10 +536,11 @@ void LongDivisionTest::typedOperandsKeepTheExercisesState()
     drill.division.typeDividend(u"18"_s);
     drill.division.typeDivisor(u"6"_s);
     QVERIFY(counts(drill.division) == (Counts{1, 1, true}));
-    drill.division.solve();
+    QCOMPARE(drill.division.verdict().text(), u"Resultado incorrecto"_s);
+    drill.division.showSolution();
     drill.division.typeDividend(u"18"_s);
     drill.division.typeDivisor(u"6"_s);
-    QVERIFY(!drill.division.Pendiente());
+    QVERIFY(!drill.division.isPending());
 }
 
 void LongDivisionTest::smallestNumberByMinusOne()
@@ -544,8 +549,8 @@ void LongDivisionTest::smallestNumberByMinusOne()
         Drill drill(84, 7, decimals);
         drill.division.typeDividend(u"-2147483648"_s);
         drill.division.typeDivisor(u"-1"_s);
-        QCOMPARE(drill.check(u"1"_s, {u" 0"_s}), DivisionVerdict::Wrong);
-        QCOMPARE(drill.check(u"2147483648"_s, {u" 0"_s}), DivisionVerdict::Right);
+        QCOMPARE(drill.check(u"1"_s, {u" 0"_s}), Verdict::Wrong);
+        QCOMPARE(drill.check(u"2147483648"_s, {u" 0"_s}), Verdict::Right);
     }
 }
 
@@ -562,8 +567,8 @@ void LongDivisionTest::itsOwnSolutionsAreRight()
             division.toggleProducts();
         if (i % 4 == 3)
             division.typeDividend(QString::number(-division.Dividendo()));
-        const written::WorkedDivision worked = division.solve();
-        QVERIFY2(division.check(worked.quotient, worked.work) == DivisionVerdict::Right,
+        const written::WorkedDivision worked = division.showSolution();
+        QVERIFY2(division.judge({worked.quotient, worked.work}) == Verdict::Right,
             qPrintable(division.operationText() + u" = "_s + worked.quotient));
     }
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 using written::LongMultiplication;
 using written::TypedFactor;
 
@@ -35,7 +36,7 @@ private:
         appendFactor(random, 1234, 4);
         appendFactor(random, 56, 2);
         LongMultiplication model(random);
-        model.NuevaMultiplicacion();
+        model.newExercise();
         if (model.typeFactor1(factor1) != TypedFactor::Accepted
             || model.typeFactor2(factor2) != TypedFactor::Accepted)
             qFatal("the factors of the test are refused");
@@ -49,7 +50,7 @@ private slots:
         appendFactor(random, 4321, 4);
         appendFactor(random, 76, 2);
         LongMultiplication model(random);
-        model.NuevaMultiplicacion();
+        model.newExercise();
         QCOMPARE(random.left(), 0u);
         QCOMPARE(model.Factor1(), 4321.0);
         QCOMPARE(model.Factor2(), 76.0);
@@ -64,7 +65,7 @@ private slots:
         QVERIFY(!model.OcultarCeros());
         QCOMPARE(model.counters().Ejercicios.value(), 0);
         QCOMPARE(model.counters().Errores.value(), 0);
-        QVERIFY(model.Pendiente());
+        QVERIFY(model.isPending());
     }
 
     void redrawsFactorsOutOfRange_data()
@@ -97,7 +98,7 @@ private slots:
         appendFactor(random, 76, 2);
         LongMultiplication model(random);
         model.setCifrasFactor1(digits);
-        model.NuevaMultiplicacion();
+        model.newExercise();
         QTEST(model.Factor1(), "factor");
         QCOMPARE(model.Factor2(), 76.0);
         QCOMPARE(random.left(), 0u);
@@ -114,7 +115,7 @@ private slots:
             const double smallest = std::pow(10.0, digits - 1) + 1;
             const double largest = std::pow(10.0, digits) - 1;
             for (int draw = 0; draw < 10'000; ++draw) {
-                model.NuevaMultiplicacion();
+                model.newExercise();
                 for (const double factor : {model.Factor1(), model.Factor2()}) {
                     QVERIFY(factor >= smallest && factor <= largest);
                     QCOMPARE(factor, std::floor(factor));
@@ -133,7 +134,7 @@ private slots:
         std::vector<int> seen1(100);
         std::vector<int> seen2(100);
         for (int draw = 0; draw < 100'000; ++draw) {
-            model.NuevaMultiplicacion();
+            model.newExercise();
             ++seen1.at(static_cast<std::size_t>(model.Factor1()));
             ++seen2.at(static_cast<std::size_t>(model.Factor2()));
         }
@@ -156,7 +157,7 @@ private slots:
         LongMultiplication model(random);
         model.setCifrasFactor2(4);
         model.chooseDigits(u"2357"_s);
-        model.NuevaMultiplicacion();
+        model.newExercise();
         QCOMPARE(model.Factor2(), 7025.0);
         QCOMPARE(random.left(), 0u);
         QVERIFY(!model.CualquierCifra());
@@ -171,7 +172,7 @@ private slots:
         model.chooseDigits(u"39"_s);
         std::map<double, int> seen;
         for (int draw = 0; draw < 100'000; ++draw) {
-            model.NuevaMultiplicacion();
+            model.newExercise();
             ++seen[model.Factor2()];
         }
         QCOMPARE(seen.size(), 6u);
@@ -248,11 +249,11 @@ private slots:
         QVERIFY(!model.firstRowIsResult());
         QCOMPARE(model.typeFactor1(u"100"_s), TypedFactor::Accepted);
         QCOMPARE(model.expectedRows(), (QStringList{u"600"_s, u"500 "_s}));
-        QVERIFY(!model.check(u"0", {u"600"_s, u"7"_s}).right);
+        QVERIFY(model.judge({u"0"_s, {u"600"_s, u"7"_s}}) == Verdict::Wrong);
 
         appendFactor(random, 45, 2);
         appendFactor(random, 6, 1);
-        model.NuevaMultiplicacion();
+        model.newExercise();
         QCOMPARE(model.expectedRows(), QStringList{u"270"_s});
         QVERIFY(model.firstRowIsResult());
     }
@@ -261,36 +262,36 @@ private slots:
     {
         LongMultiplication model = board(u"1234"_s, u"205"_s);
         const QStringList right = model.expectedRows();
-        QVERIFY(!model.check(u"1", right).right);
-        QVERIFY(!model.check(u"2", right).right);
-        QVERIFY(model.Pendiente());
+        QVERIFY(model.judge({u"1"_s, right}) == Verdict::Wrong);
+        QVERIFY(model.judge({u"2"_s, right}) == Verdict::Wrong);
+        QVERIFY(model.isPending());
         QCOMPARE(model.counters().Ejercicios.value(), 2);
         QCOMPARE(model.counters().Errores.value(), 2);
-        QVERIFY(model.check(u"252970", right).right);
-        QVERIFY(!model.Pendiente());
-        QVERIFY(!model.check(u"3", right).right);
-        QVERIFY(model.check(u"252970", right).right);
+        QVERIFY(model.judge({u"252970"_s, right}) == Verdict::Right);
+        QVERIFY(!model.isPending());
+        QVERIFY(model.judge({u"3"_s, right}) == Verdict::Wrong);
+        QVERIFY(model.judge({u"252970"_s, right}) == Verdict::Right);
         QCOMPARE(model.counters().Ejercicios.value(), 3);
         QCOMPARE(model.counters().Errores.value(), 2);
-        QVERIFY(!model.Pendiente());
+        QVERIFY(!model.isPending());
     }
 
     void onlySetPendingCountsAnotherExercise()
     {
         LongMultiplication model = board(u"12"_s, u"3"_s);
-        QVERIFY(model.check(u"36", {u"36"_s}).right);
+        QVERIFY(model.judge({u"36"_s, {u"36"_s}}) == Verdict::Right);
         appendFactor(random, 1234, 4);
         appendFactor(random, 7, 1);
-        model.NuevaMultiplicacion(); // as the menu does: the new exercise is not counted
-        QVERIFY(!model.Pendiente());
-        model.check(u"1", {u"1"_s});
+        model.newExercise(); // as the menu does: the new exercise is not counted
+        QVERIFY(!model.isPending());
+        model.judge({u"1"_s, {u"1"_s}});
         QCOMPARE(model.typeFactor1(u"5"_s), TypedFactor::Accepted);
         QCOMPARE(model.typeFactor2(u"5"_s), TypedFactor::Accepted);
-        model.check(u"1", {u"1"_s});
+        model.judge({u"1"_s, {u"1"_s}});
         QCOMPARE(model.counters().Ejercicios.value(), 1);
         QCOMPARE(model.counters().Errores.value(), 0);
         model.setPending();
-        model.check(u"1", {u"1"_s});
+        model.judge({u"1"_s, {u"1"_s}});
         QCOMPARE(model.counters().Ejercicios.value(), 2);
         QCOMPARE(model.counters().Errores.value(), 1);
     }
@@ -320,17 +321,15 @@ private slots:
         QFETCH(QStringList, typed);
         QFETCH(QList<int>, wrong);
         LongMultiplication model = board(u"1234"_s, u"205"_s);
-        const auto found = model.check(u"1", typed);
-        QVERIFY(!found.right);
-        QCOMPARE(QList<int>(found.wrongRows.begin(), found.wrongRows.end()), wrong);
+        QCOMPARE(model.judge({u"1"_s, typed}), Verdict::Wrong);
+        QCOMPARE(QList<int>(model.wrongRows().begin(), model.wrongRows().end()), wrong);
     }
 
     void aRightResultLeavesTheRowsAlone()
     {
         LongMultiplication model = board(u"1234"_s, u"205"_s);
-        const auto found = model.check(u"252970", {u"1"_s, QString(), u"x"_s});
-        QVERIFY(found.right);
-        QVERIFY(found.wrongRows.empty());
+        QCOMPARE(model.judge({u"252970"_s, {u"1"_s, QString(), u"x"_s}}), Verdict::Right);
+        QVERIFY(model.wrongRows().empty());
     }
 
     void comparesTheResultAsANumber_data()
@@ -358,26 +357,26 @@ private slots:
         QFETCH(QString, factor2);
         QFETCH(QString, typed);
         LongMultiplication model = board(factor1, factor2);
-        QTEST(model.check(typed, {}).right, "right");
+        QTEST(model.judge({typed, {}}) == Verdict::Right, "right");
     }
 
     void printsLargeProductsExactlyAndReadsThemBack()
     {
         LongMultiplication model = board(u"9999999999"_s, u"9999999999"_s);
         QCOMPARE(model.resultText(), u"99999999980000002048"_s);
-        QVERIFY(model.check(model.resultText(), model.expectedRows()).right);
+        QCOMPARE(model.judge({model.resultText(), model.expectedRows()}), Verdict::Right);
     }
 
     void fullCountersAreReportedWithNothingCounted()
     {
         LongMultiplication model = board(u"12"_s, u"3"_s);
         for (int i = 0; i < core::Int16::Max; ++i)
-            model.check(u"1", {});
-        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.check(u"1", {}));
-        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.check(u"36", {}));
+            model.judge({u"1"_s, {}});
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.judge({u"1"_s, {}}));
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.judge({u"36"_s, {}}));
         QCOMPARE(model.counters().Ejercicios.value(), core::Int16::Max);
         QCOMPARE(model.counters().Errores.value(), core::Int16::Max);
-        QVERIFY(model.Pendiente());
+        QVERIFY(model.isPending());
     }
 
     void hintsAtTheDigitsThatMeet_data()
@@ -411,13 +410,13 @@ private slots:
         QFETCH(int, length);
         QFETCH(QString, hint);
         LongMultiplication model = board(u"1234"_s, u"567"_s);
-        const auto shown = model.IndicaProducto(caret, row, length);
+        const auto shown = model.productHint(caret, row, length);
         QCOMPARE(shown.has_value(), !hint.isEmpty());
         QCOMPARE(shown.value_or(QString()), hint);
         // The sign in front of factor 2 makes no difference.
         QCOMPARE(model.typeFactor1(u"1234"_s), TypedFactor::Accepted);
         QCOMPARE(model.factor2Text(), u"567"_s);
-        QCOMPARE(model.IndicaProducto(caret, row, length).value_or(QString()), hint);
+        QCOMPARE(model.productHint(caret, row, length).value_or(QString()), hint);
     }
 
     void hintsCountHiddenZeros()
@@ -426,7 +425,7 @@ private slots:
         model.toggleOcultarCeros();
         QCOMPARE(model.typeFactor2(u"205"_s), TypedFactor::Accepted);
         QCOMPARE(model.expectedRows().size(), 2);
-        QCOMPARE(model.IndicaProducto(0, 1, 2).value_or(QString()), u"4 × 0"_s);
+        QCOMPARE(model.productHint(0, 1, 2).value_or(QString()), u"4 × 0"_s);
     }
 
     void hintsSurviveAnyCaret()
@@ -435,7 +434,7 @@ private slots:
         for (int row = 0; row < 5; ++row)
             for (int length = 0; length < 40; ++length)
                 for (int caret = 0; caret <= length; ++caret)
-                    model.IndicaProducto(caret, row, length);
+                    model.productHint(caret, row, length);
     }
 
     void readsTypedFactors_data()
@@ -493,7 +492,7 @@ private slots:
         QVERIFY(!model.firstRowIsResult());
         appendFactor(random, 1234, 4);
         appendFactor(random, 567, 3);
-        model.NuevaMultiplicacion();
+        model.newExercise();
         QCOMPARE(model.Factor2(), 567.0);
     }
 
@@ -511,7 +510,7 @@ private slots:
         QCOMPARE(model.typeFactor2(longest), TypedFactor::Accepted);
         QCOMPARE(model.CifrasFactor2().value(), 309);
         appendFactor(random, 1234, 4);
-        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.NuevaMultiplicacion());
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.newExercise());
         QCOMPARE(model.factor1Text(), u"0"_s);
         QCOMPARE(model.expectedRows().size(), 309);
 
@@ -520,7 +519,7 @@ private slots:
         appendFactor(random, 1234, 4);
         for (int place = 0; place < 309; ++place)
             random.append({0.0f});
-        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.NuevaMultiplicacion());
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, model.newExercise());
         QCOMPARE(model.factor1Text(), u"0"_s);
     }
 

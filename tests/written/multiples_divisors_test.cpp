@@ -14,7 +14,7 @@
 using namespace Qt::StringLiterals;
 using written::MultiplesDivisors;
 using Mode = MultiplesDivisors::Mode;
-using Verdict = MultiplesDivisors::Verdict;
+using shell::Verdict;
 using Answers = std::array<double, 3>;
 
 namespace {
@@ -132,13 +132,13 @@ void MultiplesDivisorsTest::redrawsFactorsUntilTheyDiffer()
         0.9f, 0.0f, 0.0f, 0.0999f, std::nextafter(1.0f, 0.0f), 0.0f, 0.95f, 0.35f};
     MultiplesDivisors model(random);
     model.newExercise();
-    QCOMPARE(model.solution(), (std::array{1, 10, 4}));
+    QCOMPARE(model.showSolution(), (std::array{1, 10, 4}));
     QCOMPARE(model.number(), 40);
     QCOMPARE(random.left(), 0u);
     // Factors of the exercise before do not count.
     random.append({0.9f, 0.0f, 0.95f, 0.35f});
     model.newExercise();
-    QCOMPARE(model.solution(), (std::array{1, 10, 4}));
+    QCOMPARE(model.showSolution(), (std::array{1, 10, 4}));
     QCOMPARE(random.left(), 0u);
 }
 
@@ -150,9 +150,9 @@ void MultiplesDivisorsTest::everyTripleOfFactorsMakesItsNumber()
             for (int c = 1; c <= 10; ++c) {
                 if (a == b || a == c || b == c)
                     continue;
-                const auto model = divisorsOf({a, b, c});
+                auto model = divisorsOf({a, b, c});
                 QCOMPARE(model.number(), a * b * c);
-                QCOMPARE(model.solution(), (std::array{a, b, c}));
+                QCOMPARE(model.showSolution(), (std::array{a, b, c}));
                 highest = std::max(highest, model.number());
             }
         }
@@ -163,7 +163,7 @@ void MultiplesDivisorsTest::everyTripleOfFactorsMakesItsNumber()
 void MultiplesDivisorsTest::everyMultipleIsAccepted()
 {
     for (int number = 2; number <= 10; ++number) {
-        const auto model = multiplesOf(number);
+        auto model = multiplesOf(number);
         QCOMPARE(model.number(), number);
         std::set<int> multiples;
         for (int multiple = 2 * number; multiple <= 400; multiple += number)
@@ -175,11 +175,10 @@ void MultiplesDivisorsTest::everyMultipleIsAccepted()
                 Answers typed = others;
                 std::swap(typed[0], typed.at(place));
                 typed.at(place) = answer;
-                const auto check = model.check(typed);
-                QCOMPARE(
-                    check.verdict, multiples.contains(answer) ? Verdict::Right : Verdict::Wrong);
-                if (check.verdict == Verdict::Wrong)
-                    QCOMPARE(check.wrongAnswer, static_cast<int>(place));
+                const auto verdict = model.judge(typed);
+                QCOMPARE(verdict, multiples.contains(answer) ? Verdict::Right : Verdict::Wrong);
+                if (verdict == Verdict::Wrong)
+                    QCOMPARE(model.wrongAnswer(), static_cast<int>(place));
             }
         }
     }
@@ -189,13 +188,12 @@ void MultiplesDivisorsTest::everyDivisorIsAccepted()
 {
     int withTooFew = 0;
     for (const auto& [number, factors] : divisorNumbers()) {
-        const auto model = divisorsOf(factors);
+        auto model = divisorsOf(factors);
         const std::set<int> divisors = properDivisors(number);
         if (divisors.size() < 3) {
             ++withTooFew;
             for (int answer = 1; answer <= number + 1; ++answer)
-                QCOMPARE(
-                    model.check({2, 3, static_cast<double>(answer)}).verdict, Verdict::Wrong);
+                QCOMPARE(model.judge({2, 3, static_cast<double>(answer)}), Verdict::Wrong);
             continue;
         }
         for (int answer = 1; answer <= number + 1; ++answer) {
@@ -204,11 +202,11 @@ void MultiplesDivisorsTest::everyDivisorIsAccepted()
                 if (divisor != answer && others.size() < 2)
                     others.push_back(divisor);
             }
-            const auto check = model.check({static_cast<double>(others[0]),
+            const auto verdict = model.judge({static_cast<double>(others[0]),
                 static_cast<double>(others[1]), static_cast<double>(answer)});
-            QCOMPARE(check.verdict, divisors.contains(answer) ? Verdict::Right : Verdict::Wrong);
-            if (check.verdict == Verdict::Wrong)
-                QCOMPARE(check.wrongAnswer, 2);
+            QCOMPARE(verdict, divisors.contains(answer) ? Verdict::Right : Verdict::Wrong);
+            if (verdict == Verdict::Wrong)
+                QCOMPARE(model.wrongAnswer(), 2);
         }
     }
     QVERIFY(withTooFew > 0); // 6, 8, 10, 14 …
@@ -238,10 +236,10 @@ void MultiplesDivisorsTest::answers_data()
     four("4: beyond 16 and 32 bits", {40000, 4294967296.0, 1e18}, Verdict::Right);
     four("4: the largest number there is", {std::numeric_limits<double>::max(), 8, 9},
         Verdict::Wrong, 2);
-    four("4: nothing typed", {0, 8, 12}, Verdict::Invalid);
-    four("4: below 1", {8, 0.5, 12}, Verdict::Invalid);
-    four("4: negative", {8, 12, -16}, Verdict::Invalid);
-    four("4: invalid and wrong", {4, 4, 0}, Verdict::Invalid);
+    four("4: nothing typed", {0, 8, 12}, Verdict::NotJudged);
+    four("4: below 1", {8, 0.5, 12}, Verdict::NotJudged);
+    four("4: negative", {8, 12, -16}, Verdict::NotJudged);
+    four("4: invalid and wrong", {4, 4, 0}, Verdict::NotJudged);
 
     const auto sixty = [](const char* name, const Answers& answers, Verdict verdict,
                            int wrong = 0) {
@@ -256,53 +254,60 @@ void MultiplesDivisorsTest::answers_data()
     sixty("60: a multiple", {2, 120, 3}, Verdict::Wrong, 1);
     sixty("60: a fraction that goes into it", {2, 3, 2.5}, Verdict::Wrong, 2);
     sixty("60: beyond 16 bits", {2, 3, 6000000}, Verdict::Wrong, 2);
-    sixty("60: nothing typed", {2, 3, 0}, Verdict::Invalid);
+    sixty("60: nothing typed", {2, 3, 0}, Verdict::NotJudged);
 }
 
 void MultiplesDivisorsTest::answers()
 {
     QFETCH(bool, divisors);
     QFETCH(Answers, answers);
-    const auto model = divisors ? divisorsOf({3, 4, 5}) : multiplesOf(4);
-    const auto check = model.check(answers);
-    QTEST(check.verdict, "verdict");
-    if (check.verdict == Verdict::Wrong)
-        QTEST(check.wrongAnswer, "wrongAnswer");
+    auto model = divisors ? divisorsOf({3, 4, 5}) : multiplesOf(4);
+    const auto verdict = model.judge(answers);
+    QTEST(verdict, "verdict");
+    if (verdict == Verdict::Wrong)
+        QTEST(model.wrongAnswer(), "wrongAnswer");
 }
 
 void MultiplesDivisorsTest::shownMultiplesAreRight()
 {
     for (int number = 2; number <= 10; ++number) {
-        const auto model = multiplesOf(number);
-        const auto [a, b, c] = model.solution();
+        auto model = multiplesOf(number);
+        const auto [a, b, c] = model.showSolution();
         QCOMPARE((std::array{a, b, c}), (std::array{3 * number, 4 * number, 5 * number}));
-        QCOMPARE(model.check({double(a), double(b), double(c)}).verdict, Verdict::Right);
+        QCOMPARE(model.judge({double(a), double(b), double(c)}), Verdict::Right);
     }
 }
 
 void MultiplesDivisorsTest::shownDivisorsAreWrongWhenOneOfThemIs1()
 {
-    const auto check = [](const MultiplesDivisors& model) {
-        const auto [a, b, c] = model.solution();
-        return model.check({double(a), double(b), double(c)});
+    const auto judge = [](MultiplesDivisors model) {
+        const auto [a, b, c] = model.showSolution();
+        const auto verdict = model.judge({double(a), double(b), double(c)});
+        return std::pair(verdict, model.wrongAnswer());
     };
     QCOMPARE(divisorsOf({1, 2, 3}).number(), 6);
-    QCOMPARE(check(divisorsOf({1, 2, 3})).verdict, Verdict::Wrong);
-    QCOMPARE(check(divisorsOf({2, 3, 1})).wrongAnswer, 2);
-    QCOMPARE(check(divisorsOf({2, 3, 5})).verdict, Verdict::Right);
+    QCOMPARE(judge(divisorsOf({1, 2, 3})).first, Verdict::Wrong);
+    QCOMPARE(judge(divisorsOf({2, 3, 1})).second, 2);
+    QCOMPARE(judge(divisorsOf({2, 3, 5})).first, Verdict::Right);
 }
 
 void MultiplesDivisorsTest::aRepeatedVerdictChanges()
 {
-    const auto text = MultiplesDivisors::verdictText;
-    QCOMPARE(text(Verdict::Right, u""), u"Resultado correcto"_s);
-    QCOMPARE(text(Verdict::Right, u"Resultado correcto"), u"Resultado correcto "_s);
-    QCOMPARE(text(Verdict::Right, u"Resultado correcto "), u"Resultado correcto"_s);
-    QCOMPARE(text(Verdict::Right, u"Resultado incorrecto"), u"Resultado correcto"_s);
-    QCOMPARE(text(Verdict::Wrong, u""), u"Resultado incorrecto"_s);
-    QCOMPARE(text(Verdict::Wrong, u"Resultado incorrecto"), u"Resultado incorrecto "_s);
-    QCOMPARE(text(Verdict::Wrong, u"Resultado incorrecto "), u"Resultado incorrecto"_s);
-    QCOMPARE(text(Verdict::Wrong, u"Resultado correcto"), u"Resultado incorrecto"_s);
+    auto model = multiplesOf(4);
+    const auto textOf = [&model](const Answers& answers) {
+        model.judge(answers);
+        return model.verdict().text();
+    };
+    const Answers right{8, 12, 16};
+    const Answers wrong{8, 12, 4};
+    QCOMPARE(textOf(right), u"Resultado correcto"_s);
+    QCOMPARE(textOf(right), u"Resultado correcto "_s);
+    QCOMPARE(textOf(right), u"Resultado correcto"_s);
+    QCOMPARE(textOf(wrong), u"Resultado incorrecto"_s);
+    QCOMPARE(textOf(wrong), u"Resultado incorrecto "_s);
+    QCOMPARE(textOf({0, 0, 0}), u"Resultado incorrecto "_s); // not judged: it stays
+    QCOMPARE(textOf(wrong), u"Resultado incorrecto"_s);
+    QCOMPARE(textOf(right), u"Resultado correcto"_s);
 }
 
 QTEST_GUILESS_MAIN(MultiplesDivisorsTest)

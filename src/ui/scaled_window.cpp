@@ -1,5 +1,7 @@
-#include "ui/screen.h"
+#include "ui/scaled_window.h"
 
+#include "ui/focus_ring.h"
+#include "ui/ground.h"
 #include "ui/screens.h"
 
 #include <QMenuBar>
@@ -9,8 +11,6 @@
 #include <algorithm>
 #include <cmath>
 
-// The size of a screen's window and the factor that follows from it.
-
 namespace ui {
 
 namespace {
@@ -19,12 +19,17 @@ constexpr double SmallestFactor = 0.5;
 
 } // namespace
 
-double Screen::menuBarPixels() const
+ScaledWindow::ScaledWindow(double width, double height)
+    : ControlFactory(new QWidget(this))
+    , MenuFactory(this)
+    , m_ring(new FocusRing(canvas()))
+    , m_designWidth(width)
+    , m_designHeight(height)
 {
-    return m_menuBar != nullptr ? look::MenuBarHeight : 0;
+    new Ground(*canvas());
 }
 
-void Screen::setDesignSize(double width, double height)
+void ScaledWindow::setDesignSize(double width, double height)
 {
     m_designWidth = width;
     m_designHeight = height;
@@ -36,7 +41,7 @@ void Screen::setDesignSize(double width, double height)
     keepOnDisplay();
 }
 
-void Screen::keepOnDisplay()
+void ScaledWindow::keepOnDisplay()
 {
     const QRect available = screen()->availableGeometry();
     const int below = std::max(0, frameGeometry().bottom() - available.bottom());
@@ -45,7 +50,7 @@ void Screen::keepOnDisplay()
         move(std::max(available.left(), x() - beside), std::max(available.top(), y() - below));
 }
 
-void Screen::comeUp()
+void ScaledWindow::comeUp()
 {
     const QRect available = screen()->availableGeometry();
     resizeToDesign(
@@ -56,10 +61,10 @@ void Screen::comeUp()
         available.y() + std::max(0, (available.height() - height() - frame) / 2));
 }
 
-void Screen::resizeToDesign(double factor)
+void ScaledWindow::resizeToDesign(double factor)
 {
     const double width = m_designWidth / TwipsPerPixel;
-    const double height = m_designHeight / TwipsPerPixel + menuBarPixels();
+    const double height = m_designHeight / TwipsPerPixel + menuBarHeight();
     const QSize available = screen()->availableGeometry().size();
     const double fitting = std::min({factor, available.width() / width,
         (available.height() - Screens::FrameHeight) / height});
@@ -72,7 +77,7 @@ void Screen::resizeToDesign(double factor)
     m_factorGivenWay = fitting < factor ? factor : 0; // resizing has forgotten it
 }
 
-void Screen::resizeEvent(QResizeEvent* event)
+void ScaledWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     if (event->size() != m_ownSize)
@@ -80,47 +85,35 @@ void Screen::resizeEvent(QResizeEvent* event)
     layOut();
 }
 
-void Screen::layOut()
+void ScaledWindow::layOut()
 {
     const double designWidth = m_designWidth / TwipsPerPixel;
-    const double designHeight = m_designHeight / TwipsPerPixel + menuBarPixels();
+    const double designHeight = m_designHeight / TwipsPerPixel + menuBarHeight();
     double factor = std::min(width() / designWidth, height() / designHeight);
     // Whole pixels hardly ever give a round factor: within a pixel of one, it is meant.
     const double quarter = std::round(factor * 4) / 4;
     if (std::abs(factor - quarter) * std::max(designWidth, designHeight) < 1.5)
         factor = quarter;
-    scaleTo(factor);
+    setFactor(factor);
 
-    const int barHeight = static_cast<int>(std::lround(menuBarPixels() * factor));
-    if (m_menuBar != nullptr)
-        m_menuBar->setGeometry(0, 0, width(), barHeight);
+    const int barHeight = static_cast<int>(std::lround(menuBarHeight() * factor));
+    if (QMenuBar* bar = menuBar())
+        bar->setGeometry(0, 0, width(), barHeight);
     QRect area = toPixels({0, 0, m_designWidth, m_designHeight}, factor);
     area.moveTo(std::max(0, (width() - area.width()) / 2),
         barHeight + std::max(0, (height() - barHeight - area.height()) / 2));
-    m_canvas->setGeometry(area);
+    canvas()->setGeometry(area);
 }
 
-void Screen::scaleTo(double factor)
+void ScaledWindow::setFactor(double factor)
 {
     if (factor == m_factor)
         return;
     m_factor = factor;
-    for (const auto& [control, entry] : m_controls)
-        applyPlace(const_cast<QWidget*>(control), entry);
-    if (m_menuBar == nullptr)
-        return;
-    const QFont font = look::scaled(look::Instruction, factor);
-    m_menuBar->setFont(font);
-    for (QMenu* menu : m_menuBar->findChildren<QMenu*>())
-        menu->setFont(font);
-}
-
-void Screen::applyPlace(QWidget* control, const Control& entry) const
-{
-    control->setFont(look::scaled(entry.font, m_factor));
-    if (auto* scalable = dynamic_cast<Scalable*>(control))
-        scalable->setFactor(m_factor);
-    control->setGeometry(toPixels(entry.place, m_factor));
+    setWindowFactor(*this, factor);
+    m_ring->setFactor(factor);
+    scaling().setFactor(factor);
+    setMenuFactor(factor);
 }
 
 } // namespace ui

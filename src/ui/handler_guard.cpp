@@ -1,0 +1,120 @@
+#include "ui/handler_guard.h"
+
+#include "core/errors.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+/// One handler that waits, for a box where there is one.
+class HandlerGuard::Waiting {
+public:
+    Waiting(HandlerGuard& guard, QDialog* box)
+        : m_guard(guard)
+        , m_outer(std::exchange(guard.m_box, box))
+    {
+        ++m_guard.m_waiting;
+        ++m_guard.m_running; // the window must outlive the box whoever opened it
+        QEvent waiting(waitingEvent());
+        if (box != nullptr)
+            QCoreApplication::sendEvent(box, &waiting);
+    }
+    ~Waiting()
+    {
+        m_guard.m_box = m_outer;
+        --m_guard.m_waiting;
+        m_guard.endHandler();
+    }
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+
+private:
+    HandlerGuard& m_guard;
+    QPointer<QDialog> m_outer; ///< the box that another handler waits for
+};
+
+HandlerGuard::HandlerGuard(QWidget& window)
+    : m_window(window)
+{
+}
+
+QEvent::Type HandlerGuard::waitingEvent()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
+
+void HandlerGuard::guarded(const std::function<void()>& body)
+{
+    if (!m_shut && m_waiting == 0)
+        run(body);
+}
+
+void HandlerGuard::run(const std::function<void()>& body)
+{
+    QString text;
+    ++m_running;
+    try {
+        body();
+    } catch (const ScreenUnloaded&) {
+        // The window went while its handler waited: there is nothing left to tell.
+    } catch (const core::Error& error) {
+        text = error.text();
+    } catch (const std::exception& error) {
+        text = u"Error interno: %1"_s.arg(QString::fromUtf8(error.what()));
+    } catch (...) {
+        text = u"Error interno"_s;
+    }
+    if (!text.isEmpty()) // behind the catch blocks: the box runs an event loop of its own
+        tell(text);
+    endHandler();
+}
+
+void HandlerGuard::endHandler()
+{
+    while (m_running == 1 && finishHandlers())
+        ;
+    if (--m_running == 0 && m_shut)
+        handlersEnded();
+}
+
+void HandlerGuard::tell(const QString& text)
+{
+    if (m_shut || std::exchange(m_reporting, true))
+        return;
+    try {
+        report(text);
+    } catch (const ScreenUnloaded&) {
+        return;
+    }
+    m_reporting = false;
+}
+
+void HandlerGuard::wait(QDialog* box, const std::function<void()>& waitFor)
+{
+    {
+        const Waiting waiting(*this, box);
+        waitFor();
+    }
+    if (m_shut)
+        throw ScreenUnloaded();
+}
+
+void HandlerGuard::letEventsRun()
+{
+    wait(nullptr, [] { QCoreApplication::processEvents(); });
+}
+
+void HandlerGuard::shut()
+{
+    m_shut = true;
+    if (m_box)
+        m_box->done(0);
+}
+
+} // namespace ui

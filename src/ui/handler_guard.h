@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QEvent>
+#include <QPointer>
+
+#include <functional>
+
+class QDialog;
+class QWidget;
+
+namespace ui {
+
+/// Thrown through a handler whose window was closed for good while it waited; never shown.
+class ScreenUnloaded { };
+
+/// Runs the handlers of a window. An exception that leaves one is reported, the handler is
+/// abandoned, and the program goes on. While one of them waits (for a box, or for events), no
+/// other one starts; once the guard is shut, none does.
+class HandlerGuard {
+public:
+    /// The boxes that handlers wait for stand over this window.
+    explicit HandlerGuard(QWidget& window);
+    virtual ~HandlerGuard() = default;
+    HandlerGuard(const HandlerGuard&) = delete;
+    HandlerGuard& operator=(const HandlerGuard&) = delete;
+
+    QWidget& guardedWindow() const { return m_window; }
+
+    /// The type of the event that a box is sent when a handler begins to wait for it, before it
+    /// comes up. The program itself has no use for it: whoever drives the program has.
+    static QEvent::Type waitingEvent();
+
+    /// Runs a handler; does nothing when the guard is shut or while another handler waits.
+    void guarded(const std::function<void()>& body);
+
+    /// Lets the handler that calls wait until waitFor returns. box, where it waits for one, is
+    /// closed when the guard is shut meanwhile; then ScreenUnloaded is thrown.
+    void wait(QDialog* box, const std::function<void()>& waitFor);
+
+    /// Lets pending events run in the middle of a handler: a wait without a box.
+    void letEventsRun();
+
+protected:
+    /// Runs a handler even while another one waits.
+    void run(const std::function<void()>& body);
+    /// Lets no further handler start and closes the box that one waits for.
+    void shut();
+    bool isShut() const { return m_shut; }
+    bool isRunning() const { return m_running > 0; }
+
+    /// Shows why a handler was abandoned, in a box. Not called again while it shows one.
+    virtual void report(const QString& text) = 0;
+    /// The last running handler is about to end, and still counts as running: it may wait. Called
+    /// again as long as it returns true.
+    virtual bool finishHandlers() { return false; }
+    /// The last running handler has ended and the guard is shut.
+    virtual void handlersEnded() { }
+
+private:
+    class Waiting;
+
+    void endHandler();
+    void tell(const QString& text);
+
+    QWidget& m_window;
+    QPointer<QDialog> m_box; ///< the box that a handler waits for
+    int m_running = 0;
+    int m_waiting = 0;
+    bool m_reporting = false;
+    bool m_shut = false;
+};
+
+} // namespace ui

@@ -1,0 +1,104 @@
+#include "ui/menu_factory.h"
+
+#include "ui/look.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+using namespace Qt::StringLiterals;
+
+namespace ui {
+
+MenuFactory::MenuFactory(QWidget* window)
+    : m_window(window)
+{
+}
+
+double MenuFactory::menuBarHeight() const
+{
+    return m_bar != nullptr ? look::MenuBarHeight : 0;
+}
+
+void MenuFactory::setMenuFactor(double factor)
+{
+    m_factor = factor;
+    if (m_bar == nullptr)
+        return;
+    const QFont font = look::scaled(look::Instruction, m_factor);
+    m_bar->setFont(font);
+    for (QMenu* menu : m_bar->findChildren<QMenu*>())
+        menu->setFont(font);
+}
+
+QMenuBar* MenuFactory::bar()
+{
+    if (m_bar == nullptr) {
+        m_bar = new QMenuBar(m_window);
+        m_bar->setNativeMenuBar(false);
+        m_bar->setFont(look::scaled(look::Instruction, m_factor));
+    }
+    return m_bar;
+}
+
+QMenu* MenuFactory::named(QMenu* menu, const QString& name) const
+{
+    menu->setObjectName(name);
+    menu->menuAction()->setObjectName(name);
+    menu->setFont(look::scaled(look::Instruction, m_factor));
+    return menu;
+}
+
+QAction* MenuFactory::named(QAction* action, const QString& name)
+{
+    action->setObjectName(name);
+    return action;
+}
+
+QMenu* MenuFactory::menu(const QString& name, const QString& caption)
+{
+    return named(bar()->addMenu(caption), name);
+}
+
+QMenu* MenuFactory::submenu(QMenu* parent, const QString& name, const QString& caption)
+{
+    return named(parent->addMenu(caption), name);
+}
+
+QAction* MenuFactory::item(QMenu* parent, const QString& name, const QString& caption)
+{
+    return named(parent->addAction(caption), name);
+}
+
+QAction* MenuFactory::barItem(const QString& name, const QString& caption)
+{
+    return named(bar()->addAction(caption), name);
+}
+
+QAction* MenuFactory::checkItem(QMenu* parent, const QString& name, const QString& caption)
+{
+    QAction* action = item(parent, name, caption);
+    action->setCheckable(true);
+    QObject::connect(action, &QAction::triggered, action,
+        [action](bool checked) { action->setChecked(!checked); });
+    return action;
+}
+
+MenuList MenuFactory::menuList(QMenu* parent, const QString& name, const QStringList& captions)
+{
+    std::vector<QAction*> items;
+    for (qsizetype i = 0; i < captions.size(); ++i)
+        items.push_back(checkItem(parent, u"%1(%2)"_s.arg(name).arg(i), captions.at(i)));
+    MenuList list(std::move(items));
+    list.check(0);
+    return list;
+}
+
+QStringList MenuFactory::numberedCaptions(int first, int last)
+{
+    QStringList captions;
+    for (int number = first; number <= last; ++number)
+        captions << u"&%1"_s.arg(number);
+    return captions;
+}
+
+} // namespace ui

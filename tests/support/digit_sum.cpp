@@ -1,0 +1,33 @@
+#include "support/digit_sum.h"
+
+#include "core/random.h"
+
+using namespace Qt::StringLiterals;
+using shell::Verdict;
+
+DigitSum::DigitSum(core::RandomSource& random)
+    : m_random(random)
+{
+}
+
+void DigitSum::newExercise()
+{
+    m_first = core::drawInteger(m_random, 9, 1);
+    m_second = core::drawInteger(m_random, 9, 1);
+    Pendiente = true;
+    m_verdict.clear();
+}
+
+Verdict DigitSum::judge(double answer)
+{
+    const Verdict verdict = answer == sum() ? Verdict::Right : Verdict::Wrong;
+    countWhilePending(verdict);
+    m_verdict.tell(verdict, verdict == Verdict::Right ? u"Bien"_s : u"Mal"_s);
+    return verdict;
+}
+
+int DigitSum::showSolution()
+{
+    Pendiente = false;
+    return sum();
+}
