@@ -33,6 +33,14 @@ void drawRounded(QPainter& painter, const QRect& rect, const QBrush& fill, const
     painter.restore();
 }
 
+/// Darker, or lighter where the caption would no longer be readable.
+QColor pressed(const QColor& fill, const QColor& caption)
+{
+    const QColor darker = fill.darker(PressedShade);
+    const bool readable = look::contrast(caption, darker) >= look::ReadableContrast;
+    return readable ? darker : fill.lighter(PressedShade);
+}
+
 bool hasIcon(const QStyleOption& option)
 {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
@@ -99,7 +107,7 @@ void drawButton(QPainter& painter, const QStyleOption& option, double factor, bo
     QColor fill = option.palette.color(QPalette::Button);
     const QColor edge = look::edgeOf(fill);
     if (down)
-        fill = fill.darker(PressedShade);
+        fill = pressed(fill, option.palette.color(QPalette::ButtonText));
     QRect rect = buttonFace(option.rect, hasIcon(option), factor);
     if (down)
         rect.translate(0, 1);

@@ -9,8 +9,6 @@ namespace ui::look {
 
 namespace {
 
-constexpr double ReadableContrast = 4.5;
-
 double luminance(const QColor& colour)
 {
     const auto linear = [](double channel) {

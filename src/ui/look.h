@@ -81,6 +81,9 @@ QPalette filled(const QColor& fill);
 /// The edge of a filled control: its colour, 40 % darker.
 QColor edgeOf(const QColor& fill);
 
+inline constexpr double ReadableContrast = 4.5; ///< of a text, with its ground
+inline constexpr double FindableContrast = 3; ///< of an edge or a mark
+
 /// WCAG contrast ratio of two colours, 1 to 21.
 double contrast(const QColor& a, const QColor& b);
 

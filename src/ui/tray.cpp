@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -13,6 +14,14 @@ namespace ui {
 namespace {
 
 constexpr double Radius = 12; // pixels at factor 1
+
+/// Whether two buttons are neighbours of one row or one column.
+bool areNeighbours(const QRect& a, const QRect& b, int reach)
+{
+    const bool row = a.top() == b.top() && a.bottom() == b.bottom();
+    const bool column = a.left() == b.left() && a.right() == b.right();
+    return (row || column) && a.adjusted(-reach, -reach, reach, reach).intersects(b);
+}
 
 } // namespace
 
@@ -41,13 +50,12 @@ bool Tray::holds(const QWidget& control)
 void Tray::follow()
 {
     QRect covered;
-    for (const QPointer<QWidget>& button : m_buttons) {
-        if (button && button->isVisibleTo(parentWidget()))
-            covered |= button->geometry();
-    }
+    for (const QRect& place : buttonPlaces())
+        covered |= place;
     const int margin = qRound(Margin * factorOf(this));
     setGeometry(covered.adjusted(-margin, -margin, margin, margin));
     setVisible(!covered.isNull());
+    update();
 }
 
 bool Tray::eventFilter(QObject* watched, QEvent* event)
@@ -69,12 +77,43 @@ bool Tray::eventFilter(QObject* watched, QEvent* event)
 
 void Tray::paintEvent(QPaintEvent*)
 {
-    const double radius = Radius * factorOf(this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(look::Slate));
-    painter.drawRoundedRect(rect(), radius, radius);
+    painter.fillPath(outline(), QColor(look::Slate));
+}
+
+/// Round every button, and across the gap between neighbours: what stands between buttons far
+/// from each other is no part of the tray.
+QPainterPath Tray::outline() const
+{
+    const double factor = factorOf(this);
+    const double radius = Radius * factor;
+    const int margin = qRound(Margin * factor);
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    const auto add = [&](const QRect& covered) {
+        path.addRoundedRect(covered.adjusted(-margin, -margin, margin, margin).translated(-pos()),
+            radius, radius);
+    };
+    const std::vector<QRect> places = buttonPlaces();
+    for (const QRect& place : places) {
+        add(place);
+        for (const QRect& other : places) {
+            if (areNeighbours(place, other, 2 * margin))
+                add(place | other);
+        }
+    }
+    return path;
+}
+
+std::vector<QRect> Tray::buttonPlaces() const
+{
+    std::vector<QRect> places;
+    for (const QPointer<QWidget>& button : m_buttons) {
+        if (button && button->isVisibleTo(parentWidget()))
+            places.push_back(button->geometry());
+    }
+    return places;
 }
 
 } // namespace ui

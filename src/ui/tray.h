@@ -5,6 +5,8 @@
 
 #include <vector>
 
+class QPainterPath;
+
 namespace ui {
 
 /// A slate tray behind action buttons, so that their colours neither shout on paper nor glow.
@@ -29,6 +31,8 @@ protected:
 
 private:
     void follow();
+    QPainterPath outline() const;
+    std::vector<QRect> buttonPlaces() const;
 
     std::vector<QPointer<QWidget>> m_buttons;
 };

@@ -18,8 +18,8 @@ namespace look = ui::look;
 
 namespace {
 
-constexpr double Readable = 4.5;
-constexpr double Findable = 3;
+constexpr double Readable = look::ReadableContrast;
+constexpr double Findable = look::FindableContrast;
 
 QRgb commonest(const QImage& image)
 {

@@ -41,6 +41,19 @@ private slots:
         QVERIFY(tray->isVisible());
     }
 
+    void leavesFreeWhatStandsBetweenButtonsFarApart()
+    {
+        screen->command->setGeometry(20, 20, 60, 30);
+        screen->lines->setGeometry(20, 150, 60, 30);
+        const QImage apart = screen->canvas()->grab().toImage();
+        QCOMPARE(apart.pixel(50, 100), ui::look::Paper);
+        QCOMPARE(apart.pixel(50, 54), ui::look::Slate);
+        screen->lines->setGeometry(20, 70, 60, 30);
+        const QImage near = screen->canvas()->grab().toImage();
+        QCOMPARE(near.pixel(50, 60), ui::look::Slate);
+        QCOMPARE(near.pixel(12, 60), ui::look::Slate); // no notch between them
+    }
+
     void knowsWhatItHolds()
     {
         QVERIFY(ui::Tray::holds(*screen->command));
