@@ -59,7 +59,7 @@ build_portable() {
     install -D -m 644 "$plugins/$plugin" "$folder/plugins/$plugin"
     patchelf --set-rpath '$ORIGIN/../../lib' "$folder/plugins/$plugin"
   done
-  copy_libraries "$folder/lib" "$folder/pizarrin" "$folder"/plugins/*/*.so
+  copy_libraries "$folder/lib" "$folder/pizarrin" "$folder/pizarrin-banco" "$folder"/plugins/*/*.so
   printf '[Paths]\nPlugins = plugins\n' >"$folder/qt.conf"
   copy_fonts "$folder/fonts"
   mkdir -p dist

@@ -50,8 +50,8 @@ void FrmCarrera::Form_QueryUnload()
 
 void FrmCarrera::chooseOptions()
 {
-    screens().showModal(DlgCarrera::screenName(), *this, [this] {
-        if (screens().loaded(DlgCarrera::screenName()) != nullptr) // else all are being closed
+    screens().showModal<DlgCarrera>(*this, [this](const DlgCarrera& options) {
+        if (!options.isUnloaded()) // else all are being closed
             PreparaCarrera();
     });
 }
@@ -179,7 +179,7 @@ void FrmCarrera::endRace(const QString& text)
     for (ui::Button* command : Command1)
         command->setEnabled(true);
     Text4->setVerdict({}, ui::VerdictBox::Mark::None);
-    Command1[1]->setFocus(); // else the toolkit would hand the focus to the keypad
+    Picture1->setFocus(); // no button: the next Enter must not press it
     TBResultado->setEnabled(false);
 }
 

@@ -4,6 +4,7 @@
 #include "ui/box_strip.h"
 #include "ui/handler_guard.h"
 #include "ui/look.h"
+#include "ui/reading_pause.h"
 #include "ui/scaling.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -117,6 +119,9 @@ QWidget* parentOf(HandlerGuard& owner)
 void run(HandlerGuard& owner, const QPointer<QDialog>& box)
 {
     BoxStrip::layUnderButtons(*box);
+    std::optional<ReadingPause> pause;
+    if (owner.isInTick())
+        pause.emplace(*box, owner.clock());
     owner.wait(box, [&box] {
         box->exec();
         if (box)
@@ -169,9 +174,11 @@ QString MessageBox::programTitle()
     return u"Pizarrin"_s;
 }
 
-void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon)
+void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon,
+    const QString& notes)
 {
     const QPointer<Box> box = makeBox(owner, text, title, false);
+    box->setInformativeText(notes);
     box->setIcon(toQtIcon(icon));
     box->setDefaultButton(addButton(*box, u"Aceptar"_s, QMessageBox::AcceptRole));
     run(owner, box.data());

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 
+#include <iostream>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -38,8 +39,9 @@ private:
     QPointer<QDialog> m_outer; ///< the box that another handler waits for
 };
 
-HandlerGuard::HandlerGuard(QWidget& window)
+HandlerGuard::HandlerGuard(QWidget& window, const core::Clock& clock)
     : m_window(window)
+    , m_clock(clock)
 {
 }
 
@@ -49,13 +51,26 @@ QEvent::Type HandlerGuard::waitingEvent()
     return static_cast<QEvent::Type>(type);
 }
 
-void HandlerGuard::guarded(const std::function<void()>& body)
+QString HandlerGuard::mistakeText()
 {
-    if (!m_shut && m_waiting == 0)
-        run(body);
+    return u"El programa se ha equivocado y no ha podido terminar lo que estaba haciendo. La "
+           "ventana sigue como estaba."_s;
 }
 
-void HandlerGuard::run(const std::function<void()>& body)
+void HandlerGuard::guarded(const std::function<void()>& body, core::SourceLine where)
+{
+    if (!m_shut && m_waiting == 0)
+        run(body, where);
+}
+
+void HandlerGuard::guardedTick(const std::function<void()>& body, core::SourceLine where)
+{
+    const bool outer = std::exchange(m_inTick, true);
+    guarded(body, where);
+    m_inTick = outer;
+}
+
+void HandlerGuard::run(const std::function<void()>& body, core::SourceLine where)
 {
     QString text;
     ++m_running;
@@ -65,14 +80,22 @@ void HandlerGuard::run(const std::function<void()>& body)
         // The window went while its handler waited: there is nothing left to tell.
     } catch (const core::Error& error) {
         text = error.text();
+    } catch (const core::Defect& defect) {
+        text = logged(defect.what(), defect.where());
     } catch (const std::exception& error) {
-        text = u"Error interno: %1"_s.arg(QString::fromUtf8(error.what()));
+        text = logged(error.what(), where);
     } catch (...) {
-        text = u"Error interno"_s;
+        text = logged("unknown exception", where);
     }
     if (!text.isEmpty()) // behind the catch blocks: the box runs an event loop of its own
         tell(text);
     endHandler();
+}
+
+QString HandlerGuard::logged(const char* what, core::SourceLine where)
+{
+    std::cerr << where.text() << ": " << what << std::endl;
+    return mistakeText();
 }
 
 void HandlerGuard::endHandler()

@@ -11,7 +11,7 @@ namespace ui {
 Screen::Screen(
     Screens& screens, const QString& name, const QString& caption, double width, double height)
     : ScaledWindow(width, height)
-    , HandlerGuard(static_cast<QWidget&>(*this))
+    , HandlerGuard(static_cast<QWidget&>(*this), screens.clock())
     , KeyHandlers(static_cast<HandlerGuard&>(*this))
     , m_screens(screens)
 {
