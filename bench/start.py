@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Start and memory of the program against the floor program, in turn, on one display.
 
-Usage: bench/start.py [build folder] [rounds]
+Usage: bench/start.py [build folder] [rounds, 25 or more]
 
 Each round starts one of the two programs, waits until its window is painted (its middle is
 no longer the root window's black), and reads the time and, half a second later, the memory
@@ -60,7 +60,7 @@ def measure(program, directory, environment):
 
 def main():
     build = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else "build/release")
-    rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
+    rounds = max(25, int(sys.argv[2]) if len(sys.argv) > 2 else 25)  # fewer tell nothing
     programs = {"floor": build / "bin/start_floor", "pizarrin": build / "bin/pizarrin"}
     directory = pathlib.Path(f"/tmp/pizarrin-bench-{os.getpid()}")
     directory.mkdir()

@@ -6,8 +6,9 @@
 
 namespace core {
 
-/// A failure that a person is told about. text() is Spanish and says what is wrong, where,
-/// and, when there is something to do about it, what.
+/// A failure of the user's world (a file, a template, a number too large), which a person is
+/// told about; a mistake of the program itself is a Defect. text() is Spanish and says what is
+/// wrong, where, and, when there is something to do about it, what.
 class Error : public std::exception {
 public:
     explicit Error(QString text);

@@ -50,8 +50,8 @@ void FrmCarrera::Form_QueryUnload()
 
 void FrmCarrera::chooseOptions()
 {
-    screens().showModal(DlgCarrera::screenName(), *this, [this] {
-        if (screens().loaded(DlgCarrera::screenName()) != nullptr) // else all are being closed
+    screens().showModal<DlgCarrera>(*this, [this](const DlgCarrera& options) {
+        if (!options.isUnloaded()) // else all are being closed
             PreparaCarrera();
     });
 }

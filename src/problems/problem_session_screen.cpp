@@ -174,12 +174,9 @@ void FormProblemas::MnuOpcGes_Click()
 
 void FormProblemas::MnuOpcSel_Click()
 {
-    auto& dialog = screens().load<DLGSelProb>();
-    dialog.CargaDatos = [form = QPointer(this)](core::Int16 Seleccion, OperationMask MaskOpera) {
-        if (form)
-            form->CargaDatos(Seleccion, MaskOpera);
-    };
-    screens().showModal(DLGSelProb::screenName(), *this, [this] {
+    screens().showModal<DLGSelProb>(*this, [this](const DLGSelProb& dialog) {
+        if (const auto& choice = dialog.choice())
+            CargaDatos(choice->Seleccion, choice->MaskOpera);
         screens().show(screenName());
         nextExercise();
     });

@@ -128,8 +128,7 @@ OperationMask DLGSelProb::checkedOperations() const
 void DLGSelProb::OKButton_Click()
 {
     const auto chosen = option();
-    if (CargaDatos)
-        CargaDatos(chosen == ProblemSelection::NoOption ? 0 : chosen, checkedOperations());
+    m_choice = {chosen == ProblemSelection::NoOption ? 0 : chosen, checkedOperations()};
     unload();
 }
 

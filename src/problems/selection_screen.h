@@ -5,6 +5,7 @@
 #include "ui/screen.h"
 
 #include <array>
+#include <optional>
 
 class QAbstractButton;
 class QCheckBox;
@@ -20,8 +21,13 @@ public:
 
     explicit DLGSelProb(ui::Screens& screens);
 
-    /// Receives the choice when "Aceptar" takes it; the dialog's opener sets it.
-    std::function<void(core::Int16 Seleccion, OperationMask MaskOpera)> CargaDatos;
+    /// What FormProblemas::CargaDatos takes.
+    struct Choice {
+        core::Int16 Seleccion;
+        OperationMask MaskOpera;
+    };
+    /// Empty unless "Aceptar" has closed the dialog.
+    const std::optional<Choice>& choice() const { return m_choice; }
 
 protected:
     void Form_Load() override;
@@ -42,6 +48,7 @@ private:
     OperationMask checkedOperations() const;
 
     ProblemSelection m_model;
+    std::optional<Choice> m_choice;
     std::array<QRadioButton*, 3> Option1{};
     std::array<QCheckBox*, 4> Check1{};
     ui::TextBox* Text1 = nullptr;

@@ -1,6 +1,7 @@
 #include "ui/boxes.h"
 
 #include "ui/application.h"
+#include "ui/box_strip.h"
 #include "ui/handler_guard.h"
 #include "ui/look.h"
 #include "ui/reading_pause.h"
@@ -28,6 +29,7 @@ namespace {
 constexpr double InputWidth = 420; // pixels at factor 1
 constexpr double LongestLine = 500;
 constexpr double ShortestLine = 220; // so that the title can be read
+constexpr double LargestShare = 0.7; // of the width of the display
 constexpr int BoxFrame = 160; // what a box needs beside its text
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
@@ -116,6 +118,7 @@ QWidget* parentOf(HandlerGuard& owner)
 /// that is unloaded behind it.
 void run(HandlerGuard& owner, const QPointer<QDialog>& box)
 {
+    BoxStrip::layUnderButtons(*box);
     std::optional<ReadingPause> pause;
     if (owner.isInTick())
         pause.emplace(*box, owner.clock());
@@ -139,7 +142,8 @@ void widen(const Box& box, const QWidget& owner)
     int longest = qRound(ShortestLine * factor);
     for (const QString& line : box.text().split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
-    const int room = owner.screen()->availableGeometry().width() - BoxFrame;
+    const int display = owner.screen()->availableGeometry().width();
+    const int room = static_cast<int>(LargestShare * display) - BoxFrame;
     label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), room}));
 }
 
@@ -148,7 +152,7 @@ QPointer<Box> makeBox(
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
-    box->setFont(look::scaled(look::Instruction, factorOf(&owner.guardedWindow())));
+    box->setFont(look::scaled(look::BoxText, factorOf(&owner.guardedWindow())));
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
@@ -196,7 +200,7 @@ QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString&
 {
     const double factor = factorOf(&owner.guardedWindow());
     const QPointer<QInputDialog> box(new QInputDialog(parentOf(owner)));
-    box->setFont(look::scaled(look::Instruction, factor));
+    box->setFont(look::scaled(look::BoxText, factor));
     box->setWindowTitle(title);
     box->setOkButtonText(u"Aceptar"_s);
     box->setCancelButtonText(u"Cancelar"_s);

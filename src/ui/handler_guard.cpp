@@ -5,18 +5,12 @@
 #include <QCoreApplication>
 #include <QDialog>
 
+#include <iostream>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace ui {
-
-namespace {
-
-const QString InternalError =
-    u"Error interno: algo ha fallado en el programa. La ventana sigue como estaba."_s;
-
-} // namespace
 
 /// One handler that waits, for a box where there is one.
 class HandlerGuard::Waiting {
@@ -57,20 +51,26 @@ QEvent::Type HandlerGuard::waitingEvent()
     return static_cast<QEvent::Type>(type);
 }
 
-void HandlerGuard::guarded(const std::function<void()>& body)
+QString HandlerGuard::mistakeText()
 {
-    if (!m_shut && m_waiting == 0)
-        run(body);
+    return u"El programa se ha equivocado y no ha podido terminar lo que estaba haciendo. La "
+           "ventana sigue como estaba."_s;
 }
 
-void HandlerGuard::guardedTick(const std::function<void()>& body)
+void HandlerGuard::guarded(const std::function<void()>& body, core::SourceLine where)
+{
+    if (!m_shut && m_waiting == 0)
+        run(body, where);
+}
+
+void HandlerGuard::guardedTick(const std::function<void()>& body, core::SourceLine where)
 {
     const bool outer = std::exchange(m_inTick, true);
-    guarded(body);
+    guarded(body, where);
     m_inTick = outer;
 }
 
-void HandlerGuard::run(const std::function<void()>& body)
+void HandlerGuard::run(const std::function<void()>& body, core::SourceLine where)
 {
     QString text;
     ++m_running;
@@ -80,15 +80,22 @@ void HandlerGuard::run(const std::function<void()>& body)
         // The window went while its handler waited: there is nothing left to tell.
     } catch (const core::Error& error) {
         text = error.text();
+    } catch (const core::Defect& defect) {
+        text = logged(defect.what(), defect.where());
     } catch (const std::exception& error) {
-        qWarning("%s", error.what()); // in no language that a child reads
-        text = InternalError;
+        text = logged(error.what(), where);
     } catch (...) {
-        text = InternalError;
+        text = logged("unknown exception", where);
     }
     if (!text.isEmpty()) // behind the catch blocks: the box runs an event loop of its own
         tell(text);
     endHandler();
+}
+
+QString HandlerGuard::logged(const char* what, core::SourceLine where)
+{
+    std::cerr << where.text() << ": " << what << std::endl;
+    return mistakeText();
 }
 
 void HandlerGuard::endHandler()

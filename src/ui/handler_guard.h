@@ -1,7 +1,10 @@
 #pragma once
 
+#include "core/defect.h"
+
 #include <QEvent>
 #include <QPointer>
+#include <QString>
 
 #include <functional>
 
@@ -18,8 +21,10 @@ namespace ui {
 class ScreenUnloaded { };
 
 /// Runs the handlers of a window. An exception that leaves one is reported, the handler is
-/// abandoned, and the program goes on. While one of them waits (for a box, or for events), no
-/// other one starts; once the guard is shut, none does.
+/// abandoned, and the program goes on. A core::Error is told as it is; any other exception is a
+/// mistake of the program: that is what is told, and where and what it was is written to standard
+/// error. While one of them waits (for a box, or for events), no other one starts; once the guard
+/// is shut, none does.
 class HandlerGuard {
 public:
     /// The boxes that handlers wait for stand over this window. clock must outlive the guard.
@@ -35,10 +40,16 @@ public:
     /// comes up. The program itself has no use for it: whoever drives the program has.
     static QEvent::Type waitingEvent();
 
+    /// What is told of a mistake of the program.
+    static QString mistakeText();
+
     /// Runs a handler; does nothing when the guard is shut or while another handler waits.
-    void guarded(const std::function<void()>& body);
+    /// where: what to name as the place of an exception that does not tell its own.
+    void guarded(
+        const std::function<void()>& body, core::SourceLine where = core::SourceLine::here());
     /// The same for a handler that a timer starts and not the pupil.
-    void guardedTick(const std::function<void()>& body);
+    void guardedTick(
+        const std::function<void()>& body, core::SourceLine where = core::SourceLine::here());
     /// Whether the handler that runs was started by a timer.
     bool isInTick() const { return m_inTick; }
 
@@ -51,7 +62,8 @@ public:
 
 protected:
     /// Runs a handler even while another one waits.
-    void run(const std::function<void()>& body);
+    void run(
+        const std::function<void()>& body, core::SourceLine where = core::SourceLine::here());
     /// Lets no further handler start and closes the box that one waits for.
     void shut();
     bool isShut() const { return m_shut; }
@@ -70,6 +82,7 @@ private:
 
     void endHandler();
     void tell(const QString& text);
+    static QString logged(const char* what, core::SourceLine where);
 
     QWidget& m_window;
     const core::Clock& m_clock;

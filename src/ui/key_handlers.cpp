@@ -60,49 +60,56 @@ KeyHandlers::KeyHandlers(HandlerGuard& guard)
 {
 }
 
-KeyResult KeyHandlers::guardedKey(const std::function<KeyResult()>& body)
+KeyResult KeyHandlers::guardedKey(const std::function<KeyResult()>& body, core::SourceLine where)
 {
     KeyResult result = KeyResult::Swallow; // what a failed handler leaves behind
-    m_guard.guarded([&] { result = body(); });
+    m_guard.guarded([&] { result = body(); }, where);
     return result;
 }
 
-void KeyHandlers::onKeyDown(QWidget* control, KeyFilter::DownHandler handler)
+void KeyHandlers::onKeyDown(
+    QWidget* control, KeyFilter::DownHandler handler, core::SourceLine where)
 {
-    keyFilter(control).down = [this, handler = std::move(handler)](
+    keyFilter(control).down = [this, where, handler = std::move(handler)](
                                   int code, Qt::KeyboardModifiers modifiers) {
-        return guardedKey([&] { return handler(code, modifiers); });
+        return guardedKey([&] { return handler(code, modifiers); }, where);
     };
 }
 
-void KeyHandlers::onKeyPress(QWidget* control, KeyFilter::PressHandler handler)
+void KeyHandlers::onKeyPress(
+    QWidget* control, KeyFilter::PressHandler handler, core::SourceLine where)
 {
-    keyFilter(control).press = [this, handler = std::move(handler)](QChar character) {
-        return guardedKey([&] { return handler(character); });
+    keyFilter(control).press = [this, where, handler = std::move(handler)](QChar character) {
+        return guardedKey([&] { return handler(character); }, where);
     };
 }
 
-void KeyHandlers::onKeyUp(QWidget* control, KeyFilter::UpHandler handler)
+void KeyHandlers::onKeyUp(QWidget* control, KeyFilter::UpHandler handler, core::SourceLine where)
 {
-    keyFilter(control).up = [this, handler = std::move(handler)](
+    keyFilter(control).up = [this, where, handler = std::move(handler)](
                                 int code, Qt::KeyboardModifiers modifiers) {
-        m_guard.guarded([&] { handler(code, modifiers); });
+        m_guard.guarded([&] { handler(code, modifiers); }, where);
     };
 }
 
-void KeyHandlers::onEnter(QWidget* control, std::function<void()> handler)
+void KeyHandlers::onEnter(QWidget* control, std::function<void()> handler, core::SourceLine where)
 {
-    onKeyPress(control, [handler = std::move(handler)](QChar character) {
-        if (character != QChar(key::Enter))
-            return KeyResult::Pass;
-        handler();
-        return KeyResult::Swallow;
-    });
+    onKeyPress(
+        control,
+        [handler = std::move(handler)](QChar character) {
+            if (character != QChar(key::Enter))
+                return KeyResult::Pass;
+            handler();
+            return KeyResult::Swallow;
+        },
+        where);
 }
 
-void KeyHandlers::onGotFocus(QWidget* control, std::function<void()> handler)
+void KeyHandlers::onGotFocus(
+    QWidget* control, std::function<void()> handler, core::SourceLine where)
 {
-    new FocusFilter(control, [this, handler = std::move(handler)] { m_guard.guarded(handler); });
+    new FocusFilter(control,
+        [this, where, handler = std::move(handler)] { m_guard.guarded(handler, where); });
 }
 
 } // namespace ui

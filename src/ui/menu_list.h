@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/defect.h"
+
 #include <QAction>
 
 #include <vector>
@@ -16,7 +18,7 @@ public:
     }
 
     int size() const { return static_cast<int>(m_items.size()); }
-    QAction* at(int index) const { return m_items.at(static_cast<std::size_t>(index)); }
+    QAction* at(int index) const { return core::at(m_items, index); }
 
     /// Unchecks every item and checks this one; an index outside the list checks none.
     void check(int index) const

@@ -1,5 +1,7 @@
 #include "ui/scaling.h"
 
+#include "core/defect.h"
+
 #include <QVariant>
 #include <QWidget>
 
@@ -8,6 +10,14 @@ namespace ui {
 namespace {
 
 constexpr const char* FactorProperty = "pizarrinFactor";
+
+template <typename Entries> auto& entryOf(Entries& entries, const QWidget* control)
+{
+    const auto found = entries.find(control);
+    if (found == entries.end())
+        throw core::Defect("a control that was not added");
+    return found->second;
+}
 
 } // namespace
 
@@ -45,12 +55,12 @@ void Scaling::add(QWidget* control, const TwipRect& place, const look::Font& fon
 
 TwipRect Scaling::placeOf(const QWidget* control) const
 {
-    return m_entries.at(control).place;
+    return entryOf(m_entries, control).place;
 }
 
 void Scaling::place(QWidget* control, const TwipRect& place)
 {
-    m_entries.at(control).place = place;
+    entryOf(m_entries, control).place = place;
     control->setGeometry(toPixels(place, m_factor));
 }
 
@@ -64,7 +74,7 @@ void Scaling::moveTo(QWidget* control, double left, double top)
 
 void Scaling::setFont(QWidget* control, const look::Font& font)
 {
-    Entry& entry = m_entries.at(control);
+    Entry& entry = entryOf(m_entries, control);
     entry.font = font;
     apply(entry);
 }

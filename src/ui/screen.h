@@ -59,35 +59,42 @@ protected:
 
     QTimer* timer(const QString& name, int milliseconds);
 
-    // Handlers, all guarded.
+    // Handlers, all guarded; where is the line that connects one.
 
     template <typename Sender, typename Signal, typename Derived, typename... Args>
-    void on(Sender* sender, Signal signal, void (Derived::*handler)(Args...))
+    void on(Sender* sender, Signal signal, void (Derived::*handler)(Args...),
+        core::SourceLine where = core::SourceLine::here())
     {
         auto* self = static_cast<Derived*>(this);
-        connect(sender, signal, this, [self, handler](Args... args) {
-            self->template handle<Sender>([&] { (self->*handler)(args...); });
+        connect(sender, signal, this, [self, handler, where](Args... args) {
+            self->template handle<Sender>([&] { (self->*handler)(args...); }, where);
         });
     }
     template <typename Sender, typename Signal, std::invocable Handler>
-    void on(Sender* sender, Signal signal, Handler handler)
+    void on(Sender* sender, Signal signal, Handler handler,
+        core::SourceLine where = core::SourceLine::here())
     {
-        connect(sender, signal, this,
-            [this, handler = std::move(handler)] { handle<Sender>([&] { handler(); }); });
+        connect(sender, signal, this, [this, where, handler = std::move(handler)] {
+            handle<Sender>([&] { handler(); }, where);
+        });
     }
     /// For an element of a control array: the handler receives the index.
     template <typename Sender, typename Signal, typename Derived>
-    void on(Sender* sender, Signal signal, void (Derived::*handler)(int), int index)
+    void on(Sender* sender, Signal signal, void (Derived::*handler)(int), int index,
+        core::SourceLine where = core::SourceLine::here())
     {
         auto* self = static_cast<Derived*>(this);
-        connect(sender, signal, this,
-            [self, handler, index] { self->guarded([&] { (self->*handler)(index); }); });
+        connect(sender, signal, this, [self, handler, index, where] {
+            self->guarded([&] { (self->*handler)(index); }, where);
+        });
     }
     /// For every item of a menu list.
-    template <typename Derived> void onList(const MenuList& list, void (Derived::*handler)(int))
+    template <typename Derived>
+    void onList(const MenuList& list, void (Derived::*handler)(int),
+        core::SourceLine where = core::SourceLine::here())
     {
         for (int i = 0; i < list.size(); ++i)
-            on(list.at(i), &QAction::triggered, handler, i);
+            on(list.at(i), &QAction::triggered, handler, i, where);
     }
 
     void closeEvent(QCloseEvent* event) override;
@@ -99,12 +106,13 @@ private:
     bool finishHandlers() override;
     void handlersEnded() override;
 
-    template <typename Sender> void handle(const std::function<void()>& body)
+    template <typename Sender>
+    void handle(const std::function<void()>& body, core::SourceLine where)
     {
         if constexpr (std::derived_from<Sender, QTimer>)
-            guardedTick(body);
+            guardedTick(body, where);
         else
-            guarded(body);
+            guarded(body, where);
     }
     void leave();
     bool tellClosed();

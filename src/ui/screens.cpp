@@ -1,5 +1,6 @@
 #include "ui/screens.h"
 
+#include "core/defect.h"
 #include "ui/application.h"
 #include "ui/screen.h"
 
@@ -45,13 +46,21 @@ Screen* Screens::loaded(const QString& name) const
     return nullptr;
 }
 
+const Screens::Factory& Screens::factoryOf(const QString& name) const
+{
+    const auto found = m_factories.find(name);
+    if (found == m_factories.end())
+        throw core::Defect("no screen " + name.toStdString());
+    return found->second;
+}
+
 Screen& Screens::load(const QString& name)
 {
     if (Screen* screen = loaded(name))
         return *screen;
     if (name != m_mainScreen)
         installToolkitTexts();
-    const QPointer<Screen> screen(m_factories.at(name)(*this));
+    const QPointer<Screen> screen(factoryOf(name)(*this));
     m_loaded.emplace_back(screen); // at once: what Form_Load lets run must not make a second
     QObject::connect(
         screen, &Screen::unloaded, screen, [this, made = screen.data()] { forget(*made); });

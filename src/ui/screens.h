@@ -60,6 +60,14 @@ public:
     /// as a handler of owner, unless owner is gone.
     void showModal(const QString& name, Screen& owner, std::function<void()> then = {});
 
+    /// The same with a dialog: `then` is handed the dialog when it has closed, to read from it
+    /// what was chosen. The one way in which a dialog hands back a choice.
+    template <typename S> void showModal(Screen& owner, std::function<void(const S&)> then)
+    {
+        showModal(S::screenName(), owner,
+            [dialog = &load<S>(), then = std::move(then)] { then(*dialog); });
+    }
+
     /// Closes a screen and drops its state; nothing when it is not loaded.
     void unload(const QString& name);
 
@@ -79,6 +87,7 @@ public:
     static double initialFactor(double windowHeight, double freeHeight);
 
 private:
+    const Factory& factoryOf(const QString& name) const;
     void forget(Screen& screen);
     void unloadRest();
 

@@ -53,16 +53,17 @@ void Form3::MnuOpcCi2Lis_Click(int Index)
 void Form3::MnuOpcSelLis_Click(int Index)
 {
     if (Index == 1) {
-        screens().showModal(Dialog::screenName(), *this, [this] { takeChosenDigits(); });
+        screens().showModal<Dialog>(
+            *this, [this](const Dialog& dialog) { takeChosenDigits(dialog); });
         return;
     }
     m_model.allowAnyDigit();
     showChoiceOfDigits();
 }
 
-void Form3::takeChosenDigits()
+void Form3::takeChosenDigits(const Dialog& dialog)
 {
-    m_model.chooseDigits(screens().load<Dialog>().TablasSeleccionadas());
+    m_model.chooseDigits(dialog.TablasSeleccionadas());
     showChoiceOfDigits();
 }
 

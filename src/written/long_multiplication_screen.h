@@ -13,6 +13,8 @@ class SquaredPaper;
 
 namespace written {
 
+class Dialog;
+
 /// Written multiplication on squared paper, typed from the units leftwards.
 class Form3 : public shell::DrillScreen<LongMultiplication> {
 public:
@@ -61,7 +63,7 @@ private:
     void chainTabs();
     void showFactors();
     void emptyRows();
-    void takeChosenDigits();
+    void takeChosenDigits(const Dialog& dialog);
     void showChoiceOfDigits();
     bool acceptFactor(TypedFactor outcome);
     std::vector<ui::SquaredBox*> answerBoxes() const;

@@ -230,9 +230,10 @@ private:
     {
         dialog = &bench->open<DLGSelProb>();
         handed.clear();
-        dialog->CargaDatos = [this](core::Int16 selection, problems::OperationMask mask) {
-            handed.emplace_back(selection.value(), int(mask));
-        };
+        connect(dialog, &ui::Screen::unloaded, this, [this] {
+            if (const auto& choice = dialog->choice())
+                handed.emplace_back(choice->Seleccion.value(), int(choice->MaskOpera));
+        });
     }
 
     /// Leaves the folder without a bank that can be read, or no folder.

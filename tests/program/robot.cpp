@@ -96,7 +96,7 @@ void Robot::act()
 void Robot::actOnBox(QDialog& box)
 {
     if (const auto* message = qobject_cast<QMessageBox*>(&box)) {
-        if (message->text().startsWith(u"Error interno"_s))
+        if (message->text() == ui::HandlerGuard::mistakeText())
             complaints << message->text();
     }
     switch (draw(4)) {

@@ -1,5 +1,6 @@
 #include "core/errors.h"
 #include "support/bare_guard.h"
+#include "support/standard_error.h"
 
 #include <QDialog>
 #include <QtTest>
@@ -16,6 +17,36 @@ private slots:
         guard.guarded([] { throw core::Error(u"No hay banco."_s); });
         QCOMPARE(guard.reports, {u"No hay banco."_s});
         QVERIFY(!guard.isRunning());
+    }
+
+    void aMistakeOfTheProgramIsToldInOneSentenceAndWrittenDownWithItsLine()
+    {
+        BareGuard guard;
+        const StandardError log;
+        const int line = __LINE__ + 1;
+        guard.guarded([] { throw core::Defect("impossible"); });
+        QCOMPARE(guard.reports, {ui::HandlerGuard::mistakeText()});
+        QVERIFY2(log.text().endsWith(u"handler_guard_test.cpp:%1: impossible\n"_s.arg(line)),
+            qPrintable(log.text()));
+    }
+
+    void aForeignExceptionIsWrittenDownWithTheLineOfItsHandler()
+    {
+        BareGuard guard;
+        const core::SourceLine handler{"src/a.cpp", 7};
+        const StandardError log;
+        guard.guarded([] { throw std::runtime_error("no memory"); }, handler);
+        guard.guarded([] { throw 7; }, handler);
+        QCOMPARE(guard.reports, QStringList(2, ui::HandlerGuard::mistakeText()));
+        QCOMPARE(log.text(), u"src/a.cpp:7: no memory\nsrc/a.cpp:7: unknown exception\n"_s);
+    }
+
+    void nothingIsWrittenDownOfAFailureOfTheUsersWorld()
+    {
+        BareGuard guard;
+        const StandardError log;
+        guard.guarded([] { throw core::Error(u"No hay banco."_s); });
+        QCOMPARE(log.text(), QString());
     }
 
     void nothingIsReportedOfAHandlerThatEndsWell()

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "ui/scaling.h"
 
 #include <QDialog>
@@ -73,7 +74,7 @@ private slots:
         scaling.add(control, {0, 0, 1500, 600}, Large);
         delete control;
         scaling.setFactor(2); // touches it no more
-        QVERIFY_THROWS_EXCEPTION(std::exception, scaling.placeOf(control));
+        QVERIFY_THROWS_EXCEPTION(core::Defect, scaling.placeOf(control));
     }
 
     void aWidgetHasTheFactorOfItsWindow()

@@ -1,5 +1,6 @@
 #include "support/sample_screen.h"
 #include "support/screen_bench.h"
+#include "support/standard_error.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -115,10 +116,8 @@ private slots:
         QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("text");
         QTest::newRow("own") << 0 << u"El banco no se puede leer."_s;
-        const QString internal =
-            u"Error interno: algo ha fallado en el programa. La ventana sigue como estaba."_s;
-        QTest::newRow("standard") << 1 << internal;
-        QTest::newRow("unknown") << 2 << internal;
+        QTest::newRow("standard") << 1 << ui::HandlerGuard::mistakeText();
+        QTest::newRow("unknown") << 2 << ui::HandlerGuard::mistakeText();
     }
     void exceptionInAHandlerShowsOneBoxAndTheScreenGoesOn()
     {
@@ -131,10 +130,13 @@ private slots:
                 throw std::runtime_error("bad_alloc");
             throw kind;
         };
+        const StandardError log;
         BoxAnswerer boxes(u"Aceptar"_s);
         bench->click(u"Command1"_s);
         QCOMPARE(boxes.texts, {text});
         QCOMPARE(boxes.titles, {u"Pizarrin"_s});
+        // Where the handler was connected, whatever the toolkit did in between.
+        QCOMPARE(log.text().contains(u"sample_screen.h:"_s), kind > 0);
         QVERIFY(screen->isVisible());
         bool again = false;
         screen->whenClicked = [&] { again = true; };

@@ -74,6 +74,31 @@ private slots:
         QVERIFY(closed);
     }
 
+    void whatWasChosenIsReadFromTheDialogThatHasClosed_data()
+    {
+        QTest::addColumn<bool>("closed");
+        QTest::newRow("hidden") << false;
+        QTest::newRow("closed, and so unloaded") << true;
+    }
+    void whatWasChosenIsReadFromTheDialogThatHasClosed()
+    {
+        QFETCH(bool, closed);
+        addSample({});
+        bench->screens.show(u"A"_s);
+        QList<QList<int>> choices;
+        bench->screens.showModal<SampleScreen>(*bench->screens.loaded(u"A"_s),
+            [&](const SampleScreen& dialog) { choices << dialog.picked; });
+        auto& dialog = bench->screens.load<SampleScreen>();
+        QVERIFY(dialog.isModal());
+        dialog.list.at(2)->trigger();
+        QCOMPARE(choices, QList<QList<int>>());
+        if (closed)
+            dialog.close();
+        else
+            dialog.hide();
+        QCOMPARE(choices, QList<QList<int>>{{2}});
+    }
+
     void hiddenDialogTellsItsOwnerAndStaysLoaded()
     {
         bench->screens.show(u"A"_s);
@@ -315,7 +340,8 @@ private:
         bench->screens.add(u"Sample"_s, [this, whenLoading](ui::Screens& screens) -> ui::Screen* {
             ++samples;
             auto* screen = new SampleScreen(screens);
-            screen->whenLoading = [screen, whenLoading] { whenLoading(*screen); };
+            if (whenLoading)
+                screen->whenLoading = [screen, whenLoading] { whenLoading(*screen); };
             return screen;
         });
     }
