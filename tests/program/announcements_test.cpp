@@ -153,7 +153,7 @@ private slots:
         const ui::Screen& screen = *program->screens.loaded(u"FrmCarrera"_s);
         QTRY_VERIFY(program->screens.loaded(u"DlgCarrera"_s));
         ui::Screen& dialog = *program->screens.loaded(u"DlgCarrera"_s);
-        ScreenBench::activate(dialog);
+        makeActive(dialog);
         click(dialog, u"OKButton"_s);
         const auto& operation = ScreenBench::find<QLineEdit>(screen, u"TBOperación"_s);
         QTRY_COMPARE(announced, QStringList{u"TBOperación: "_s + operation.text()});
@@ -185,7 +185,7 @@ private:
     {
         program->screens.show(name);
         ui::Screen& screen = *program->screens.loaded(name);
-        ScreenBench::activate(screen);
+        makeActive(screen);
         return screen;
     }
     static void click(const ui::Screen& screen, const QString& button)

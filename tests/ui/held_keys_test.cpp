@@ -103,7 +103,7 @@ private slots:
         QWidget other;
         auto* box = new QLineEdit(u"123"_s, &other);
         other.show();
-        ScreenBench::activate(other);
+        makeActive(other);
         box->setFocus();
         repeat(Qt::Key_Backspace, u"\b"_s);
         QCOMPARE(box->text(), u"123"_s);
@@ -122,9 +122,9 @@ private slots:
         {
             QWidget other;
             other.show();
-            ScreenBench::activate(other);
+            makeActive(other);
         }
-        ScreenBench::activate(*screen);
+        makeActive(*screen);
         screen->entry->setCursorPosition(0);
         repeat(Qt::Key_Right, {});
         QCOMPARE(screen->entry->cursorPosition(), 0);

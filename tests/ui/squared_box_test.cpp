@@ -1,3 +1,4 @@
+#include "support/window_manager.h"
 #include "ui/application.h"
 #include "ui/look.h"
 #include "ui/squared_box.h"
@@ -52,7 +53,7 @@ private:
         window->resize(box->geometry().bottomRight().x() + 10, box->geometry().bottom() + 10);
         window->show();
         box->setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        makeActive(*window);
     }
     double square() const { return Place.width / Columns * factor / ui::TwipsPerPixel; }
 
