@@ -3,6 +3,7 @@
 #include "ui/announcement.h"
 #include "ui/look.h"
 #include "ui/screen.h"
+#include "ui/text_box_accessible.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
@@ -41,6 +42,7 @@ TextBox::TextBox(Kind kind, QWidget* parent)
     , m_kind(kind)
 {
     if (m_kind == Kind::Display) {
+        installTextBoxAccessible();
         setReadOnly(true);
         setFrame(false);
         setFocusPolicy(Qt::NoFocus);

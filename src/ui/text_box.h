@@ -19,6 +19,8 @@ public:
 
     TextBox(Kind kind, QWidget* parent);
 
+    Kind kind() const { return m_kind; }
+
     void setFactor(double factor) override;
 
     /// Highlights the whole text, for as long as it is not changed or deselected.
