@@ -1,6 +1,7 @@
 #include "ui/text_box.h"
 
 #include "ui/look.h"
+#include "ui/text_box_accessible.h"
 
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
@@ -24,6 +25,7 @@ TextBox::TextBox(Kind kind, QWidget* parent)
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
     hideOrdinaryCaret();
     if (m_kind == Kind::Display) {
+        installTextBoxAccessible();
         setReadOnly(true);
         setFrame(false);
         setFocusPolicy(Qt::NoFocus);

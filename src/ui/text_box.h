@@ -20,6 +20,8 @@ public:
 
     TextBox(Kind kind, QWidget* parent);
 
+    Kind kind() const { return m_kind; }
+
     void setFactor(double factor) override;
 
     /// Gives the box an edge of this colour, thick enough to be seen from afar; none: as ever.
