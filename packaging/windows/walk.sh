@@ -27,8 +27,8 @@ if [ "$(id -u)" -eq 0 ]; then
 fi
 
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 export WINEPREFIX=$work/wine
+trap 'wineserver --kill || true; wineserver --wait; rm -rf "$work"' EXIT
 mkdir -p "$pictures"
 drive=$WINEPREFIX/drive_c
 installed="$drive/Program Files/Pizarrin"
