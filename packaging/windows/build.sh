@@ -36,7 +36,7 @@ list_deletions() { # folder
 }
 
 configure_windows nsis zip fonts-sil-andika
-build_windows pizarrin
+build_windows pizarrin pizarrin-banco
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$windows_build/CMakeCache.txt")
 folder=$windows_build/package/Pizarrin-$version
 archive=$PWD/dist/Pizarrin-$version-windows.zip
