@@ -41,9 +41,15 @@ def pss(pid):
     raise RuntimeError("no PSS")
 
 
+def command(build, program):
+    """How to start a program of the build; one for Windows under Wine."""
+    for_windows = build / f"bin/{program}.exe"
+    return ["wine", for_windows] if for_windows.exists() else [build / "bin" / program]
+
+
 def measure(program, directory, environment):
     begin = time.perf_counter()
-    process = subprocess.Popen([program], env=environment, stderr=subprocess.DEVNULL)
+    process = subprocess.Popen(program, env=environment, stderr=subprocess.DEVNULL)
     while not painted(directory):
         if process.poll() is not None or time.perf_counter() - begin > 20:
             sys.exit(f"{program} did not come up")
@@ -61,7 +67,7 @@ def measure(program, directory, environment):
 def main():
     build = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else "build/release")
     rounds = max(25, int(sys.argv[2]) if len(sys.argv) > 2 else 25)  # fewer tell nothing
-    programs = {"floor": build / "bin/start_floor", "pizarrin": build / "bin/pizarrin"}
+    programs = {"floor": command(build, "start_floor"), "pizarrin": command(build, "pizarrin")}
     directory = pathlib.Path(f"/tmp/pizarrin-bench-{os.getpid()}")
     directory.mkdir()
     server = subprocess.Popen(
