@@ -243,7 +243,7 @@ private:
     ui::Screen& open(const QString& name) const
     {
         program->screens.show(name);
-        ScreenBench::activate(loaded(name));
+        makeActive(loaded(name));
         return loaded(name);
     }
     bool isActive(const QString& name) const
