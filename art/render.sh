@@ -42,3 +42,15 @@ render 09_coche_blanco_tunning.svg "09 _ Blancotunning.jpg"
 render 10_formula_1.svg "10 _ Formula 1.jpg"
 
 rsvg-convert --width=64 --output="$here/pizarrin.png" "$here/pizarrin.svg" || die "cannot draw the icon"
+
+sizes=
+for size in 16 20 24 32 40 48 64 256; do # from small lists to the largest tiles
+    rsvg-convert --width="$size" --output="$scratch/icon-$size.png" "$here/pizarrin.svg" || die "cannot draw the icon"
+    sizes="$sizes $scratch/icon-$size.png"
+done
+# shellcheck disable=SC2086 # a list of files without blanks
+"$magick" $sizes "$here/pizarrin.ico" || die "cannot write the icon for Windows"
+
+# The installer's maker reads neither compressed nor transparent pictures.
+rsvg-convert --output="$scratch/installer.png" "$here/installer.svg" || die "cannot draw the installer's side"
+"$magick" "$scratch/installer.png" -alpha off -colors 256 -compress none "BMP3:$here/installer.bmp" || die "cannot write the installer's side"

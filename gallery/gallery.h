@@ -47,6 +47,7 @@ private:
     class StandingClock final : public core::Clock {
     public:
         QTime timeOfDay() const override { return QTime(10, 20, 30, 500); }
+        std::chrono::milliseconds elapsed() const override { return {}; }
     };
 
     core::SeededRandom m_random;

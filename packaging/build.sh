@@ -47,7 +47,7 @@ build_portable() {
     install -D -m 644 "$plugins/$plugin" "$folder/plugins/$plugin"
     patchelf --set-rpath '$ORIGIN/../../lib' "$folder/plugins/$plugin"
   done
-  copy_libraries "$folder/lib" "$folder/pizarrin" "$folder"/plugins/*/*.so
+  copy_libraries "$folder/lib" "$folder/pizarrin" "$folder/pizarrin-banco" "$folder"/plugins/*/*.so
   printf '[Paths]\nPlugins = plugins\n' >"$folder/qt.conf"
   mkdir -p dist
   tar -C build/portable -czf "dist/pizarrin-$version-portatil-$(uname -m).tar.gz" \

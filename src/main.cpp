@@ -1,5 +1,6 @@
 #include "activities.h"
 #include "core/clock.h"
+#include "core/folders.h"
 #include "core/random.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
@@ -8,19 +9,23 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
     ui::prepareApplication();
-    QApplication application(argc, argv);
+    int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
+    QApplication application(nameAlone, argv);
     ui::dress();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
     QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));
 
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s);
+    ui::Screens screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
+        core::commonBankFolder());
     addScreens(screens);
     screens.show(shell::Form1::screenName());
     return QApplication::exec();

@@ -4,6 +4,12 @@
 
 namespace core {
 
+std::chrono::milliseconds SystemClock::elapsed() const
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now);
+}
+
 void seedByClock(RandomSource& random, const Clock& clock)
 {
     const double seconds = clock.timeOfDay().second();

@@ -2,22 +2,28 @@
 
 #include <QTime>
 
+#include <chrono>
+
 namespace core {
 
 class RandomSource;
 
-/// The time of day.
+/// The time of day, and the time that passes.
 class Clock {
 public:
     virtual ~Clock() = default;
 
     /// The local time of day now, to the millisecond.
     virtual QTime timeOfDay() const = 0;
+
+    /// The time since some moment, passing steadily whatever the time of day is set to.
+    virtual std::chrono::milliseconds elapsed() const = 0;
 };
 
 class SystemClock final : public Clock {
 public:
     QTime timeOfDay() const override { return QTime::currentTime(); }
+    std::chrono::milliseconds elapsed() const override;
 };
 
 /// Seeds with (seconds + 1) × (minutes + 1) × (hours + 1), each read separately, in that

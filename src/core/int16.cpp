@@ -9,7 +9,8 @@ namespace core {
 void Int16::throwOverflow(int value)
 {
     throw OverflowError(
-        u"El valor %1 no cabe: el programa cuenta con números de -32768 a 32767."_s.arg(value));
+        u"El valor %1 no cabe: el programa solo calcula con números de -32768 a 32767."_s.arg(
+            value));
 }
 
 void Int16::throwDivisionByZero()

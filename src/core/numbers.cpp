@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -88,6 +89,15 @@ QString quoted(QStringView text)
     return shown.size() <= Longest ? shown : shown.left(Longest) + u"…"_s;
 }
 
+std::vector<int> digitsFromUnits(double whole)
+{
+    const QString text = wholeText(std::abs(whole));
+    std::vector<int> digits;
+    for (auto digit = text.crbegin(); digit != text.crend(); ++digit)
+        digits.push_back(digit->digitValue());
+    return digits;
+}
+
 double roundWithin(double value, double smallest, double largest)
 {
     const double rounded = roundHalfEven(value);
@@ -165,6 +175,25 @@ QString generalText(double value, const QLocale& locale)
 QString wholeText(double value)
 {
     return QString::number(value == 0 ? 0.0 : value, 'f', 0);
+}
+
+QString wholeProductText(double a, double b)
+{
+    const std::vector<int> first = digitsFromUnits(a);
+    const std::vector<int> second = digitsFromUnits(b);
+    std::vector<int> places(first.size() + second.size());
+    for (std::size_t i = 0; i < first.size(); ++i)
+        for (std::size_t j = 0; j < second.size(); ++j)
+            places[i + j] += first[i] * second[j]; // 309 times 81 at most
+    QString text;
+    int carried = 0;
+    for (const int place : places) {
+        text.prepend(QChar(u'0' + (place + carried) % 10));
+        carried = (place + carried) / 10;
+    }
+    while (text.size() > 1 && text.front() == u'0')
+        text.remove(0, 1);
+    return text != u"0" && (a < 0) != (b < 0) ? u'-' + text : text;
 }
 
 } // namespace core

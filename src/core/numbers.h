@@ -41,4 +41,8 @@ QString generalText(double value, const QLocale& locale);
 /// The exact whole value in plain decimal, never with an exponent. value must be whole.
 QString wholeText(double value);
 
+/// The exact product of two whole values, as wholeText writes one: a double would round it
+/// beyond 2^53.
+QString wholeProductText(double a, double b);
+
 } // namespace core

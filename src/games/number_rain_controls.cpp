@@ -101,6 +101,8 @@ void Form5::makeNumber(int slot)
     drop->hide();
     drop->setEnabled(false);
     on(drop, &QPushButton::clicked, &Form5::CbNave_Click, slot);
+    onKeyDown(
+        drop, [this](int keyCode, Qt::KeyboardModifiers) { return CbNave_KeyDown(keyCode); });
     CbNave[static_cast<std::size_t>(slot)] = drop;
 }
 

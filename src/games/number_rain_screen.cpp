@@ -19,6 +19,9 @@ namespace {
 constexpr std::array<QRgb, 5> Colores{
     0xFFFF0000, 0xFFFFFF00, 0xFFFFA500, 0xFF00FF00, 0xFF0000FF}; // classes 1 to 5
 
+/// A key pressed so soon after a launch has taken the focus was meant for the number before.
+constexpr std::chrono::milliseconds TimeToNotice{250};
+
 } // namespace
 
 QString Form5::screenName()
@@ -152,9 +155,19 @@ void Form5::giveFocus(RainFocus focus, std::optional<int> launched)
         PbFoco->setFocus();
         break;
     case RainFocus::CbNave:
+        m_focusTaken.reset();
+        if (dynamic_cast<RainDrop*>(focusWidget()) != nullptr)
+            m_focusTaken = clock().elapsed();
         CbNave[static_cast<std::size_t>(launched.value())]->setFocus();
         break;
     }
+}
+
+ui::KeyResult Form5::CbNave_KeyDown(int KeyCode) const
+{
+    const bool hits = KeyCode == ui::key::Space || KeyCode == ui::key::Enter;
+    const bool misses = m_focusTaken && clock().elapsed() - *m_focusTaken < TimeToNotice;
+    return hits && misses ? ui::KeyResult::Swallow : ui::KeyResult::Pass;
 }
 
 // The toolkit would hand the focus of a control that goes to the next one, and a pupil's

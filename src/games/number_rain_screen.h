@@ -3,6 +3,9 @@
 #include "games/number_rain.h"
 #include "ui/screen.h"
 
+#include <chrono>
+#include <optional>
+
 namespace ui {
 class Glide;
 }
@@ -43,6 +46,7 @@ private:
     void showNumber(int slot, bool launched);
     void giveFocus(RainFocus focus, std::optional<int> launched);
     void leaveWithFocus(QWidget* control);
+    ui::KeyResult CbNave_KeyDown(int KeyCode) const;
 
     NumberRain m_model;
     ui::MenuList MnuOpcMod;
@@ -55,6 +59,7 @@ private:
     std::array<RainDrop*, RainState::Slots> CbNave{};
     NightSky* m_sky;
     ui::Glide* m_glide;
+    std::optional<std::chrono::milliseconds> m_focusTaken; ///< when, from another number
 };
 
 } // namespace games

@@ -53,6 +53,7 @@ void FrmCarrera::makeTrack()
     Picture1 = add(new RaceTrack(canvas()), u"Picture1"_s,
         {Margin, TrackTop, RaceTrack::Width, RaceTrack::Height});
     Picture1->setAccessibleName(u"Pista"_s);
+    Picture1->setFocusPolicy(Qt::ClickFocus); // for the end of a race
     const std::array<QString, 2> names{u"Tu coche"_s, u"El coche de tu rival"_s};
     for (std::size_t i = 0; i < Image1.size(); ++i) {
         Image1[i] = add(new QLabel(Picture1), u"Image1(%1)"_s.arg(i), {Race::StartLine, 0, 0, 0});
@@ -71,7 +72,7 @@ void FrmCarrera::makeBoxes()
     TBResultado =
         entryBox(u"TBResultado"_s, {6450, 1020, 1740, 900}, OperationFont, u"Respuesta"_s);
     onKeyPress(TBResultado, [this](QChar character) { return TBResultado_KeyPress(character); });
-    Text4 = verdictBox(u"Text4"_s, {8430, 1140, 2400, 660}, u"Resultado"_s);
+    Text4 = verdictBox(u"Text4"_s, {8430, 1140, 2400, 660}, u"Comprobación"_s);
     m_time = displayBox(u"raceTime"_s, {8430, 300, 2400, 360}, TimeFont, u"Tiempo"_s);
     showTime();
 

@@ -179,7 +179,7 @@ void FrmCarrera::endRace(const QString& text)
     for (ui::Button* command : Command1)
         command->setEnabled(true);
     Text4->setVerdict({}, ui::VerdictBox::Mark::None);
-    Command1[1]->setFocus(); // else the toolkit would hand the focus to the keypad
+    Picture1->setFocus(); // no button: the next Enter must not press it
     TBResultado->setEnabled(false);
 }
 

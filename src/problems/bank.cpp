@@ -1,11 +1,12 @@
 #include "problems/bank.h"
 
+#include "core/bank_folder.h"
 #include "core/folder_scope.h"
+#include "core/folders.h"
 #include "problems/windows1252.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -16,7 +17,7 @@ namespace problems {
 
 namespace {
 
-const QString BankFile = u"Problemas3.dat"_s;
+using core::BankFile;
 const QString BackupFile = u"Problemas3.bak"_s;
 
 [[noreturn]] void fail(const QString& what, const QString& why)
@@ -84,11 +85,11 @@ QString reasonNotWritten(const QSaveFile& file)
 {
     if (file.error() == QFileDevice::ResourceError)
         return u"El disco está lleno."_s;
-    if (!QFileInfo(u"."_s).isWritable())
+    if (!core::canWriteIn(u"."_s))
         return u"No hay permiso para escribir en esa carpeta."_s;
-    if (QFileInfo(file.fileName()).exists() && !QFileInfo(file.fileName()).isWritable())
+    if (QFile::exists(file.fileName()) && !core::canWrite(file.fileName()))
         return u"El archivo está protegido contra escritura."_s;
-    return u"El sistema dice: %1."_s.arg(file.errorString());
+    return u"El sistema no ha dejado escribir en esa carpeta. Pruebe a guardar otra vez."_s;
 }
 
 bool writeAll(QSaveFile& file, QByteArrayView bytes)
@@ -119,6 +120,11 @@ void replaceFile(const QString& name, const QByteArray& bytes)
 
 } // namespace
 
+QStringList readBankFile(const QString& path)
+{
+    return splitLines(readBytes(path));
+}
+
 std::optional<Bank> LeerBanco(const QString& folder, MissingBank missing)
 {
     core::FolderScope scope(folder);
@@ -127,7 +133,7 @@ std::optional<Bank> LeerBanco(const QString& folder, MissingBank missing)
             scope.stay();
         return std::nullopt;
     }
-    Bank bank{splitLines(readBytes(BankFile)), {}};
+    Bank bank{readBankFile(BankFile), {}};
     bank.used.resize(static_cast<std::size_t>(bank.lines.size()), false);
     return bank;
 }

@@ -21,6 +21,10 @@ enum class MissingBank { RestoreFolder, StayInFolder };
 /// The most lines that a bank can hold.
 inline constexpr int MostBankLines = 32767;
 
+/// The lines of the bank in a file, empty ones left out. Throws core::FileError when it cannot
+/// be read or has more than MostBankLines lines.
+QStringList readBankFile(const QString& path);
+
 /// Reads "Problemas3.dat" in folder (the path of Recursos): its lines, empty ones left out,
 /// and as many flags, all false. Nothing when the file does not exist. The current folder
 /// is changed to folder meanwhile. Throws core::FileError when the folder is missing, the

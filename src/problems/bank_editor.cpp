@@ -1,6 +1,7 @@
 #include "problems/bank_editor.h"
 
 #include "problems/problem_template.h"
+#include "problems/template_faults.h"
 
 #include <algorithm>
 
@@ -23,6 +24,17 @@ QStringView trimBlanks(QStringView text)
     while (text.endsWith(u' '))
         text.chop(1);
     return text;
+}
+
+/// Where it cannot be worked out, the notes come first: they name the cause more plainly.
+WorkedOutText drawOf(const QString& text, const QStringList& notes, core::RandomSource& random,
+    const ExpressionEvaluator& evaluator)
+{
+    try {
+        return replaceMarkers(text, random, evaluator);
+    } catch (const TemplateError& error) {
+        throw TemplateError((notes + QStringList{error.text()}).join(u"\n\n"_s));
+    }
 }
 
 } // namespace
@@ -83,13 +95,20 @@ void markFromAnswer(TemplateFields& fields)
         fields.operations[Multiplication] = true;
 }
 
-QString tryOut(const TemplateFields& fields, core::RandomSource& random,
+TryOut tryOut(const TemplateFields& fields, core::RandomSource& random,
     const ExpressionEvaluator& evaluator)
 {
     const QString text = u"Enunciado \r\n"_s + fields.statement + u"\r\nRespuesta\r\n"_s
         + fields.answer + u"\r\n"_s + fields.unit;
-    DataValues data{};
-    return replaceMarkers(text, data, random, evaluator);
+    QStringList notes;
+    for (const TemplateFault& fault : faultsOf(fields))
+        notes << fault.text;
+    const WorkedOutText draw = drawOf(text, notes, random, evaluator);
+    for (const TemplateFault& fault : faultsOf(draw))
+        notes << fault.text;
+    if (!notes.isEmpty() && !draw.dataMarkers.isEmpty())
+        notes << u"Datos: %1."_s.arg(dataText(draw));
+    return {draw.text, notes.join(u'\n')};
 }
 
 QString separatorRefusal()
@@ -109,19 +128,36 @@ QString BankEditor::refusal(const TemplateFields& fields)
     return {};
 }
 
+TemplateFields BankEditor::show(int entry)
+{
+    const TemplateFields shown = splitLine(line(entry));
+    m_saved = joinLine(shown);
+    return shown;
+}
+
+bool BankEditor::isUnsaved(const TemplateFields& fields) const
+{
+    const bool isEmpty =
+        fields.statement.isEmpty() && fields.answer.isEmpty() && fields.unit.isEmpty();
+    return !isEmpty && joinLine(fields) != m_saved;
+}
+
 int BankEditor::store(int entry, const TemplateFields& fields)
 {
     const int stored = std::max(entry, 0);
     if (stored >= m_lines.size())
         m_lines.resize(stored + 1);
-    m_lines[stored] = joinLine(fields);
+    m_saved = joinLine(fields);
+    m_lines[stored] = m_saved;
     return stored;
 }
 
 void BankEditor::remove(int entry)
 {
-    if (isLine(entry))
-        m_lines.removeAt(entry);
+    if (!isLine(entry))
+        return;
+    m_lines.removeAt(entry);
+    m_saved.clear(); // what the boxes still show is nowhere else now
 }
 
 } // namespace problems

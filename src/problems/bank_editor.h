@@ -43,8 +43,14 @@ void markFromAnswer(TemplateFields& fields);
 /// Whether an '&' is followed by a blank, which no marker allows.
 bool hasLooseAmpersand(QStringView text);
 
-/// The fields with their markers replaced, as "&Probar " shows them. Throws TemplateError.
-QString tryOut(const TemplateFields& fields, core::RandomSource& random,
+/// What "&Probar " shows.
+struct TryOut {
+    QString text; ///< the fields with their markers replaced
+    QString notes; ///< what is wrong with this draw, and its data; empty when nothing is
+};
+
+/// Works the fields out with fresh data. Throws TemplateError.
+TryOut tryOut(const TemplateFields& fields, core::RandomSource& random,
     const ExpressionEvaluator& evaluator);
 
 /// What "|" in a field is answered with.
@@ -62,6 +68,13 @@ public:
     bool isLine(int entry) const { return entry >= 0 && entry < newEntry(); }
     const QString& line(int entry) const { return m_lines.at(entry); }
 
+    /// The fields of an entry that has a line, which the boxes are about to show.
+    TemplateFields show(int entry);
+
+    /// Whether the boxes, holding these fields, have a text that has been neither shown nor
+    /// stored: it is lost unless it is stored.
+    bool isUnsaved(const TemplateFields& fields) const;
+
     /// Why these fields cannot be stored; empty when they can.
     static QString refusal(const TemplateFields& fields);
 
@@ -74,6 +87,7 @@ public:
 
 private:
     QStringList m_lines;
+    QString m_saved; ///< the line that was shown or stored last
 };
 
 } // namespace problems

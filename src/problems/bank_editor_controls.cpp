@@ -26,6 +26,7 @@ constexpr double LabelHeight = 330;
 constexpr double BoxHeight = 510;
 constexpr double CommandHeight = 510;
 constexpr double InsertWidth = 2880;
+constexpr double UnsavedWidth = 4200;
 
 constexpr ui::look::Font FieldFont{ui::look::Family::Arial, 15};
 constexpr ui::look::Font ListFont{ui::look::Family::Arial, 14};
@@ -53,6 +54,8 @@ DLGProblemas::DLGProblemas(ui::Screens& screens)
     makeWaysOut();
     checkOnLeaving(Text1, statementFault, &DLGProblemas::Text1_Validate);
     checkOnLeaving(Text2, answerFault, &DLGProblemas::Text2_Validate);
+    markWhatIsUnsaved();
+    addToolTips();
 }
 
 void DLGProblemas::makeList()
@@ -70,7 +73,7 @@ void DLGProblemas::makeList()
 void DLGProblemas::makeStatement()
 {
     Text1 = memo(u"Text1"_s, {FieldLeft, 540, FieldWidth, 2160}, FieldFont, u"Enunciado"_s);
-    label(u"Label1"_s, u"&Enunciado"_s, {FieldLeft, 180, FieldWidth, LabelHeight},
+    label(u"Label1"_s, u"&Enunciado"_s, {FieldLeft, 180, FieldWidth - UnsavedWidth, LabelHeight},
         ui::look::Instruction, Text1);
     restrictKeys(Text1);
     constexpr double Top = 540 + 2160 + Gap;
@@ -186,6 +189,33 @@ void DLGProblemas::restrictKeys(QWidget* box)
         const bool breaksLine = character == QChar(ui::key::Enter);
         return character == u'|' || breaksLine ? ui::KeyResult::Swallow : ui::KeyResult::Pass;
     });
+}
+
+void DLGProblemas::markWhatIsUnsaved()
+{
+    m_unsaved = label(u"unsaved"_s, u"● Sin guardar: falta pulsar Guardar"_s,
+        {Width - Margin - UnsavedWidth, 180, UnsavedWidth, LabelHeight});
+    m_unsaved->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QPalette colours = m_unsaved->palette();
+    colours.setColor(QPalette::WindowText, ui::look::Wrong);
+    m_unsaved->setPalette(colours);
+    on(Text1, &QPlainTextEdit::textChanged, &DLGProblemas::showWhetherSaved);
+    on(Text2, &QLineEdit::textChanged, [this] { showWhetherSaved(); });
+    on(Text3, &QLineEdit::textChanged, [this] { showWhetherSaved(); });
+    for (QCheckBox* operation : CHOpera)
+        on(operation, &QCheckBox::toggled, [this] { showWhetherSaved(); });
+    showWhetherSaved();
+}
+
+void DLGProblemas::addToolTips()
+{
+    Text1->setToolTip(u"[2_9] es un dato al azar del 2 al 9; {&1*&2}, un valor calculado con "
+                      "los datos 1 y 2. Un paréntesis siempre se calcula."_s);
+    Text2->setToolTip(
+        u"Lo que ha de dar, casi siempre entre llaves: {&1*&2}. Un dato escrito aquí no se ve."_s);
+    Text3->setToolTip(u"La palabra que sigue a la respuesta, como euros. Puede faltar."_s);
+    for (QCheckBox* operation : CHOpera)
+        operation->setToolTip(u"Marque en último lugar las operaciones que hace el alumno."_s);
 }
 
 } // namespace problems

@@ -34,7 +34,7 @@ QString DLGProblemas::screenName()
 void DLGProblemas::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
-    if (const auto bank = LeerBanco(screens().resources())) {
+    if (const auto bank = LeerBanco(screens().bankFolder().toRead())) {
         m_model.load(bank->lines);
         List1->clear();
         List1->addItems(bank->lines);
@@ -60,11 +60,12 @@ void DLGProblemas::List1_Click()
     CBAccion[2]->setEnabled(entry != m_model.newEntry());
     if (!m_model.isLine(entry))
         return;
-    const TemplateFields shown = splitLine(m_model.line(entry));
+    const TemplateFields shown = m_model.show(entry);
     Text1->setPlainText(shown.statement);
     Text2->setText(shown.answer);
     Text3->setText(shown.unit);
     showOperations(shown);
+    showWhetherSaved();
 }
 
 void DLGProblemas::Text1_Validate()
@@ -134,7 +135,9 @@ void DLGProblemas::insertAtCaret(Target target, const QString& marker)
 
 void DLGProblemas::CBProbar_Click()
 {
-    ui::MessageBox::show(*this, tryOut(fields(), screens().random(), m_evaluator));
+    const TryOut tried = tryOut(fields(), screens().random(), m_evaluator);
+    ui::MessageBox::show(
+        *this, tried.text, ui::MessageBox::programTitle(), ui::Icon::None, tried.notes);
 }
 
 void DLGProblemas::CBAccion_Click(int Index)
@@ -169,6 +172,7 @@ void DLGProblemas::storeEntry()
     if (List1->count() == m_model.newEntry())
         List1->addItem(NewEntry);
     selectEntry(m_model.newEntry());
+    showWhetherSaved();
     Text1->setFocus();
 }
 
@@ -181,11 +185,12 @@ void DLGProblemas::deleteEntry()
     List1->setCurrentRow(BankEditor::NoEntry);
     delete List1->takeItem(entry);
     m_model.remove(entry);
+    showWhetherSaved();
 }
 
 void DLGProblemas::OKButton_Click()
 {
-    GuardarBanco(screens().resources(), m_model.lines());
+    GuardarBanco(screens().bankFolder().toSave(), m_model.lines());
     closeDialog();
 }
 
@@ -228,6 +233,11 @@ void DLGProblemas::showOperations(const TemplateFields& shown)
 {
     for (std::size_t k = 0; k < CHOpera.size(); ++k)
         CHOpera[k]->setChecked(shown.operations[k]);
+}
+
+void DLGProblemas::showWhetherSaved()
+{
+    m_unsaved->setVisible(m_model.isUnsaved(fields()));
 }
 
 } // namespace problems

@@ -46,6 +46,8 @@ private:
     void checkOnLeaving(
         QWidget* box, QString (*fault)(const TemplateFields&), void (DLGProblemas::*validate)());
     void restrictKeys(QWidget* box);
+    void markWhatIsUnsaved();
+    void addToolTips();
 
     void List1_Click();
     void Text1_Validate();
@@ -68,6 +70,7 @@ private:
     int selectedEntry() const;
     TemplateFields fields() const;
     void showOperations(const TemplateFields& fields);
+    void showWhetherSaved();
     void closeDialog();
 
     BankEditor m_model;
@@ -79,6 +82,7 @@ private:
     std::array<QCheckBox*, 4> CHOpera{};
     std::array<ui::Button*, 3> CBAccion{};
     ui::Button* CancelButton = nullptr;
+    QLabel* m_unsaved = nullptr; ///< shown while the boxes hold what "&Guardar" has not stored
 };
 
 } // namespace problems

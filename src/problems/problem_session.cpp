@@ -96,6 +96,9 @@ bool ProblemSession::hasSelectedBehindFirst() const
 
 void ProblemSession::ensureDrawable()
 {
+    if (m_bank.lines.isEmpty())
+        throw core::Error(u"El banco de problemas está vacío o falta su archivo, "
+                          "«Problemas3.dat». Añada problemas en «Gestión de problemas...»."_s);
     if (lastIndex() == 0)
         throw core::Error(u"El banco solo tiene el problema de la línea 1, y el primero no se "
                           "propone nunca. Añada otro en «Gestión de problemas...»."_s);

@@ -75,6 +75,7 @@ void FormProblemas::makeBoxes()
 
     TBRespuesta = entryBox(
         u"TBRespuesta"_s, {1680, AnswerTop, 2760, AnswerHeight}, AnswerFont, u"Respuesta"_s);
+    TBRespuesta->setToolTip(u"Escriba el número sin puntos ni espacios: 1200"_s);
     enterChecks(TBRespuesta);
     label(u"LBRespuesta"_s, u"Respuesta"_s, {Margin, AnswerTop, 1320, AnswerHeight},
         StatementFont, TBRespuesta);
@@ -82,7 +83,7 @@ void FormProblemas::makeBoxes()
         {4620, AnswerTop, Width - Margin - 4620, AnswerHeight}, StatementFont);
     LBUnidad->setWordWrap(true);
 
-    TBCorrecto = verdictBox(u"TBCorrecto"_s, {1680, 4860, 4500, 420}, u"Resultado"_s);
+    TBCorrecto = verdictBox(u"TBCorrecto"_s, {1680, 4860, 4500, 420}, u"Comprobación"_s);
 }
 
 void FormProblemas::Form_Load()
@@ -90,7 +91,7 @@ void FormProblemas::Form_Load()
     core::seedByClock(screens().random(), screens().clock());
     TBRespuesta->setFocus();
     try {
-        auto bank = LeerBanco(screens().resources(), MissingBank::StayInFolder);
+        auto bank = LeerBanco(screens().bankFolder().toRead(), MissingBank::StayInFolder);
         if (!bank)
             return;
         m_model.setBank(*std::move(bank));
@@ -167,7 +168,7 @@ void FormProblemas::MnuOpcGes_Click()
     hide();
     screens().show(DLGProblemas::screenName());
     m_model.setBank({});
-    if (auto bank = LeerBanco(screens().resources()))
+    if (auto bank = LeerBanco(screens().bankFolder().toRead()))
         m_model.setBank(*std::move(bank));
 }
 

@@ -50,25 +50,25 @@ qint32 drawDatum(QStringView limits, core::RandomSource& random)
     return max < min ? std::max(value, std::min(min, max + 2)) : value;
 }
 
-QString replaceData(QString text, DataValues& data, core::RandomSource& random)
+void replaceData(WorkedOutText& worked, core::RandomSource& random)
 {
-    std::size_t drawn = 0;
+    QString& text = worked.text;
     while (const auto marker = firstMarker(text, u'[', u']')) {
-        if (drawn == data.size())
+        const auto drawn = static_cast<std::size_t>(worked.dataMarkers.size());
+        if (drawn == worked.data.size())
             fail(marker->whole, u"Hay más de 9 datos variables en el problema."_s);
         try {
-            data[drawn] = drawDatum(marker->inner, random);
+            worked.data[drawn] = drawDatum(marker->inner, random);
         } catch (const core::OverflowError& error) {
             fail(marker->whole, error.text());
         }
+        worked.dataMarkers.append(marker->whole.toString());
         text.replace(marker->whole.data() - text.constData(), marker->whole.size(),
-            QString::number(data[drawn]));
-        ++drawn;
+            QString::number(worked.data[drawn]));
     }
-    return text;
 }
 
-QString withDataValues(const Marker& marker, const DataValues& data)
+QString withDataValues(const Marker& marker, const DataValues& data, int& highestDatum)
 {
     QString expression = marker.inner.toString();
     for (auto at = expression.indexOf(u'&'); at >= 0; at = expression.indexOf(u'&')) {
@@ -76,16 +76,21 @@ QString withDataValues(const Marker& marker, const DataValues& data)
         const int number = core::readInt16(digit).value();
         if (number < 1 || number > int(data.size()))
             fail(marker.whole, u"Tras el signo & debe ir un número del 1 al 9."_s);
+        highestDatum = std::max(highestDatum, number);
         expression.replace(u"&%1"_s.arg(number), QString::number(data[std::size_t(number) - 1]));
     }
     return expression;
 }
 
-QString wholeValue(
-    const Marker& marker, QStringView expression, const ExpressionEvaluator& evaluator)
+/// Replaces every marker like this one by the whole value of the expression.
+void replaceComputed(WorkedOutText& worked, const Marker& marker, QStringView expression,
+    int highestDatum, const ExpressionEvaluator& evaluator)
 {
     try {
-        return QString::number(core::toInt16(evaluator.evaluate(expression)).value());
+        const QString whole = marker.whole.toString();
+        const double value = evaluator.evaluate(expression);
+        worked.text.replace(whole, QString::number(core::toInt16(value).value()));
+        worked.computed.push_back({whole, value, highestDatum});
     } catch (const core::Error& error) {
         fail(marker.whole, error.text());
     }
@@ -93,27 +98,27 @@ QString wholeValue(
 
 } // namespace
 
-QString replaceMarkers(QString text, DataValues& data, core::RandomSource& random,
-    const ExpressionEvaluator& evaluator)
+WorkedOutText replaceMarkers(
+    const QString& text, core::RandomSource& random, const ExpressionEvaluator& evaluator)
 {
-    text = replaceData(std::move(text), data, random);
-    while (const auto marker = firstMarker(text, u'{', u'}')) {
-        const QString value = wholeValue(*marker, withDataValues(*marker, data), evaluator);
-        text.replace(marker->whole.toString(), value);
+    WorkedOutText worked{text, {}, {}, {}};
+    replaceData(worked, random);
+    while (const auto marker = firstMarker(worked.text, u'{', u'}')) {
+        int highestDatum = 0;
+        const QString expression = withDataValues(*marker, worked.data, highestDatum);
+        replaceComputed(worked, *marker, expression, highestDatum, evaluator);
     }
-    while (const auto marker = firstMarker(text, u'(', u')')) {
-        const QString value = wholeValue(*marker, marker->inner, evaluator);
-        text.replace(marker->whole.toString(), value);
-    }
-    return text;
+    while (const auto marker = firstMarker(worked.text, u'(', u')'))
+        replaceComputed(worked, *marker, marker->inner, 0, evaluator);
+    return worked;
 }
 
-Problem InstanciarProblema(
-    const QString& line, core::RandomSource& random, const ExpressionEvaluator& evaluator)
+Problem problemOf(const QString& line, const WorkedOutText& worked)
 {
     Problem problem;
     problem.operations = CampoOperaciones(line).toString();
-    const QString text = replaceMarkers(line, problem.data, random, evaluator);
+    problem.data = worked.data;
+    const QString& text = worked.text;
     const qsizetype first = text.indexOf(u'|');
     if (first < 0)
         return problem;
@@ -126,6 +131,12 @@ Problem InstanciarProblema(
         fail(afterStatement, error.text());
     }
     return problem;
+}
+
+Problem InstanciarProblema(
+    const QString& line, core::RandomSource& random, const ExpressionEvaluator& evaluator)
+{
+    return problemOf(line, replaceMarkers(line, random, evaluator));
 }
 
 QStringView CampoOperaciones(QStringView line)

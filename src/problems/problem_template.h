@@ -2,9 +2,10 @@
 
 #include "core/errors.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <array>
+#include <vector>
 
 namespace core {
 class RandomSource;
@@ -40,10 +41,29 @@ public:
 Problem InstanciarProblema(
     const QString& line, core::RandomSource& random, const ExpressionEvaluator& evaluator);
 
-/// The text with its [min_max], {...} and (...) markers replaced by whole numbers; data
-/// receives the values drawn. Throws TemplateError.
-QString replaceMarkers(QString text, DataValues& data, core::RandomSource& random,
-    const ExpressionEvaluator& evaluator);
+/// A {...} or (...) marker as it was worked out.
+struct ComputedValue {
+    QString marker; ///< with its brackets, as it stood once the data were drawn
+    double value = 0; ///< before it was rounded
+    int highestDatum = 0; ///< the highest n of its &n; 0 without any
+};
+
+/// A text whose markers have been replaced, and how.
+struct WorkedOutText {
+    QString text;
+    DataValues data{};
+    QStringList dataMarkers; ///< the [min_max] as written, those of &1, &2 …
+    std::vector<ComputedValue> computed; ///< in the order in which they were worked out
+};
+
+/// The text with its [min_max], {...} and (...) markers replaced by whole numbers. Throws
+/// TemplateError.
+WorkedOutText replaceMarkers(
+    const QString& text, core::RandomSource& random, const ExpressionEvaluator& evaluator);
+
+/// The problem of a line that has been worked out. Throws TemplateError when its answer is
+/// too large.
+Problem problemOf(const QString& line, const WorkedOutText& worked);
 
 /// What follows the last '|' of the line; the whole line when it has none. The result
 /// points into the line.

@@ -94,7 +94,7 @@ void DLGSelProb::addChoice(QAbstractButton* choice, const QString& name, int row
 
 void DLGSelProb::Form_Load()
 {
-    if (const auto bank = LeerBanco(screens().resources()))
+    if (const auto bank = LeerBanco(screens().bankFolder().toRead()))
         m_model.load(bank->lines);
     Option1[0]->setFocus();
 }

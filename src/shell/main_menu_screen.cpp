@@ -85,7 +85,7 @@ void Form1::MnuAce_Click()
 {
     ui::MessageBox::show(*this,
         u"Pizarrin: multiplicar y dividir en la escuela primaria.\r\n"
-        "Hecho por sus autores para todas las aulas, con licencia libre."_s);
+        "Programa, dibujos y problemas son libres: se pueden usar, copiar y cambiar (licencia MIT)."_s);
 }
 
 } // namespace shell

@@ -34,9 +34,9 @@ FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
         ->setAlignment(Qt::AlignCenter);
     makeRow();
     makeButtons();
-    TbResultado = verdictBox(u"TbResultado"_s, {840, 2610, 3600, 450}, u"Resultado"_s);
+    TbResultado = verdictBox(u"TbResultado"_s, {840, 2610, 3600, 450}, u"Comprobación"_s);
     TbEjercicios = displayBox(u"TbEjercicios"_s, {240, 4020, 4200, 390}, CounterFont,
-        u"Contador"_s, m_model.counters().FormatoSimple());
+        u"Ejercicios y errores"_s, m_model.counters().FormatoSimple());
     TbEjercicios->setAlignment(Qt::AlignCenter);
 }
 

@@ -97,7 +97,7 @@ void Form2::makeQuestion()
     onKeyDown(TbOperacion[4],
         [this](int keyCode, Qt::KeyboardModifiers) { return TbOperacion_KeyDown(keyCode); });
 
-    Text1 = verdictBox(u"Text1"_s, {1150, 1650, 3600, 450}, u"Resultado"_s);
+    Text1 = verdictBox(u"Text1"_s, {1150, 1650, 3600, 450}, u"Comprobación"_s);
 }
 
 } // namespace tables

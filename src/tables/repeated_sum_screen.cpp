@@ -69,10 +69,10 @@ void Form4::makeBoxes()
         enterChecks(box);
     }
 
-    Text1 = verdictBox(u"Text1"_s, {900, 5000, 3000, 500}, u"Resultado"_s);
+    Text1 = verdictBox(u"Text1"_s, {900, 5000, 3000, 500}, u"Comprobación"_s);
     setControlFont(Text1, VerdictFont);
     tbResultados = displayBox(u"tbResultados"_s, {900, 7000, 3000, 500}, CounterFont,
-        u"Contador"_s, m_model.counters().FormatoAlineado());
+        u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
     tbResultados->setAlignment(Qt::AlignCenter);
 }
 

@@ -1,5 +1,7 @@
 #include "ui/application.h"
 
+#include "ui/blocked_windows.h"
+#include "ui/held_keys.h"
 #include "ui/look.h"
 #include "ui/style.h"
 
@@ -22,6 +24,8 @@ void dress()
     QApplication::setPalette(look::palette());
     QApplication::setFont(look::scaled(look::Instruction, 1));
     QApplication::setQuitOnLastWindowClosed(false);
+    new HeldKeys(qApp);
+    new BlockedWindows(qApp);
 }
 
 void installToolkitTexts()

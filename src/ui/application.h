@@ -5,7 +5,8 @@ namespace ui {
 /// Switches the desktop's own settings off. Call before the application object is made.
 void prepareApplication();
 
-/// Gives the application the program's style, palette and font.
+/// Gives the application the program's style, palette and font, and its way with held keys
+/// and with windows that are blocked.
 void dress();
 
 /// Installs the toolkit's own Spanish texts (context menus of text boxes), once. Apart from

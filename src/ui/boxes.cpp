@@ -3,6 +3,7 @@
 #include "ui/application.h"
 #include "ui/handler_guard.h"
 #include "ui/look.h"
+#include "ui/reading_pause.h"
 #include "ui/scaling.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -114,6 +116,9 @@ QWidget* parentOf(HandlerGuard& owner)
 /// that is unloaded behind it.
 void run(HandlerGuard& owner, const QPointer<QDialog>& box)
 {
+    std::optional<ReadingPause> pause;
+    if (owner.isInTick())
+        pause.emplace(*box, owner.clock());
     owner.wait(box, [&box] {
         box->exec();
         if (box)
@@ -165,9 +170,11 @@ QString MessageBox::programTitle()
     return u"Pizarrin"_s;
 }
 
-void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon)
+void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon,
+    const QString& notes)
 {
     const QPointer<Box> box = makeBox(owner, text, title, false);
+    box->setInformativeText(notes);
     box->setIcon(toQtIcon(icon));
     box->setDefaultButton(addButton(*box, u"Aceptar"_s, QMessageBox::AcceptRole));
     run(owner, box.data());

@@ -33,12 +33,10 @@ bool Button::event(QEvent* event)
 
 void Button::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
-        QPushButton::keyPressEvent(event);
-        return;
-    }
-    if (!event->isAutoRepeat()) // an Enter held down in an answer box ends up here
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 } // namespace ui

@@ -39,8 +39,9 @@ private:
     QPointer<QDialog> m_outer; ///< the box that another handler waits for
 };
 
-HandlerGuard::HandlerGuard(QWidget& window)
+HandlerGuard::HandlerGuard(QWidget& window, const core::Clock& clock)
     : m_window(window)
+    , m_clock(clock)
 {
 }
 
@@ -52,14 +53,21 @@ QEvent::Type HandlerGuard::waitingEvent()
 
 QString HandlerGuard::mistakeText()
 {
-    return u"El programa se ha equivocado y no ha podido terminar lo que estaba haciendo. Puedes "
-           "seguir trabajando."_s;
+    return u"El programa se ha equivocado y no ha podido terminar lo que estaba haciendo. La "
+           "ventana sigue como estaba."_s;
 }
 
 void HandlerGuard::guarded(const std::function<void()>& body, core::SourceLine where)
 {
     if (!m_shut && m_waiting == 0)
         run(body, where);
+}
+
+void HandlerGuard::guardedTick(const std::function<void()>& body, core::SourceLine where)
+{
+    const bool outer = std::exchange(m_inTick, true);
+    guarded(body, where);
+    m_inTick = outer;
 }
 
 void HandlerGuard::run(const std::function<void()>& body, core::SourceLine where)

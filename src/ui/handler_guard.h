@@ -11,6 +11,10 @@
 class QDialog;
 class QWidget;
 
+namespace core {
+class Clock;
+}
+
 namespace ui {
 
 /// Thrown through a handler whose window was closed for good while it waited; never shown.
@@ -19,17 +23,18 @@ class ScreenUnloaded { };
 /// Runs the handlers of a window. An exception that leaves one is reported, the handler is
 /// abandoned, and the program goes on. A core::Error is told as it is; any other exception is a
 /// mistake of the program: that is what is told, and where and what it was is written to standard
-/// error. While one of them waits (for a box, or for events), no
-/// other one starts; once the guard is shut, none does.
+/// error. While one of them waits (for a box, or for events), no other one starts; once the guard
+/// is shut, none does.
 class HandlerGuard {
 public:
-    /// The boxes that handlers wait for stand over this window.
-    explicit HandlerGuard(QWidget& window);
+    /// The boxes that handlers wait for stand over this window. clock must outlive the guard.
+    HandlerGuard(QWidget& window, const core::Clock& clock);
     virtual ~HandlerGuard() = default;
     HandlerGuard(const HandlerGuard&) = delete;
     HandlerGuard& operator=(const HandlerGuard&) = delete;
 
     QWidget& guardedWindow() const { return m_window; }
+    const core::Clock& clock() const { return m_clock; }
 
     /// The type of the event that a box is sent when a handler begins to wait for it, before it
     /// comes up. The program itself has no use for it: whoever drives the program has.
@@ -42,6 +47,11 @@ public:
     /// where: what to name as the place of an exception that does not tell its own.
     void guarded(
         const std::function<void()>& body, core::SourceLine where = core::SourceLine::here());
+    /// The same for a handler that a timer starts and not the pupil.
+    void guardedTick(
+        const std::function<void()>& body, core::SourceLine where = core::SourceLine::here());
+    /// Whether the handler that runs was started by a timer.
+    bool isInTick() const { return m_inTick; }
 
     /// Lets the handler that calls wait until waitFor returns. box, where it waits for one, is
     /// closed when the guard is shut meanwhile; then ScreenUnloaded is thrown.
@@ -75,11 +85,13 @@ private:
     static QString logged(const char* what, core::SourceLine where);
 
     QWidget& m_window;
+    const core::Clock& m_clock;
     QPointer<QDialog> m_box; ///< the box that a handler waits for
     int m_running = 0;
     int m_waiting = 0;
     bool m_reporting = false;
     bool m_shut = false;
+    bool m_inTick = false;
 };
 
 } // namespace ui

@@ -82,6 +82,17 @@ template <std::size_t Size> int find(const std::array<KeyPair, Size>& pairs, int
     return 0;
 }
 
+/// Whether a key with these modifiers types nothing. Control and Alt together are what some
+/// systems make of AltGr: with it a text box takes any character that can be seen.
+bool isCommand(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers held =
+        event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    if (held == (Qt::AltModifier | Qt::ControlModifier))
+        return !event.text().front().isPrint();
+    return held != Qt::NoModifier;
+}
+
 } // namespace
 
 int keyCode(const QKeyEvent& event)
@@ -121,7 +132,7 @@ QChar typedCharacter(const QKeyEvent& event)
     default:
         break;
     }
-    if (event.text().isEmpty() || (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)))
+    if (event.text().isEmpty() || isCommand(event))
         return {};
     return event.text().front();
 }

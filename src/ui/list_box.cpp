@@ -2,7 +2,11 @@
 
 #include "ui/look.h"
 
+#include <QHelpEvent>
 #include <QStyledItemDelegate>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
 
 namespace ui {
 
@@ -26,6 +30,16 @@ public:
         QStyledItemDelegate::initStyleOption(option, index);
         if (m_start == ListBox::Start::Indented)
             option->text.prepend(QChar::Nbsp); // room at the left, at every factor
+    }
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+        const QModelIndex& index) override
+    {
+        if (event->type() != QEvent::ToolTip || !index.isValid())
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        // As rich text, for only that is wrapped.
+        QToolTip::showText(event->globalPos(),
+            u"<p>%1</p>"_s.arg(index.data().toString().toHtmlEscaped()), view);
+        return true;
     }
 
 private:

@@ -7,8 +7,9 @@
 namespace ui {
 
 /// A list of captions, with air between its lines, each cut off with an ellipsis where it is
-/// too long. The lines stay clear of the round corners at every factor. Whatever is clicked or
-/// reached by a key is selected, and stays so: a Ctrl+click does not take the selection away.
+/// too long and shown whole under the mouse. The lines stay clear of the round corners at every
+/// factor. Whatever is clicked or reached by a key is selected, and stays so: a Ctrl+click does
+/// not take the selection away.
 class ListBox : public QListWidget, public Scalable {
 public:
     /// Where the captions begin: a blank from the edge, or at it.

@@ -1,5 +1,7 @@
 #include "ui/screen.h"
 
+#include "ui/screens.h"
+
 #include <QCloseEvent>
 #include <QShortcut>
 #include <QWindow>
@@ -11,7 +13,7 @@ namespace ui {
 Screen::Screen(
     Screens& screens, const QString& name, const QString& caption, double width, double height)
     : ScaledWindow(width, height)
-    , HandlerGuard(static_cast<QWidget&>(*this))
+    , HandlerGuard(static_cast<QWidget&>(*this), screens.clock())
     , KeyHandlers(static_cast<HandlerGuard&>(*this))
     , m_screens(screens)
 {

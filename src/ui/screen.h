@@ -67,15 +67,16 @@ protected:
     {
         auto* self = static_cast<Derived*>(this);
         connect(sender, signal, this, [self, handler, where](Args... args) {
-            self->guarded([&] { (self->*handler)(args...); }, where);
+            self->template handle<Sender>([&] { (self->*handler)(args...); }, where);
         });
     }
     template <typename Sender, typename Signal, std::invocable Handler>
     void on(Sender* sender, Signal signal, Handler handler,
         core::SourceLine where = core::SourceLine::here())
     {
-        connect(sender, signal, this,
-            [this, where, handler = std::move(handler)] { guarded([&] { handler(); }, where); });
+        connect(sender, signal, this, [this, where, handler = std::move(handler)] {
+            handle<Sender>([&] { handler(); }, where);
+        });
     }
     /// For an element of a control array: the handler receives the index.
     template <typename Sender, typename Signal, typename Derived>
@@ -105,6 +106,14 @@ private:
     bool finishHandlers() override;
     void handlersEnded() override;
 
+    template <typename Sender>
+    void handle(const std::function<void()>& body, core::SourceLine where)
+    {
+        if constexpr (std::derived_from<Sender, QTimer>)
+            guardedTick(body, where);
+        else
+            guarded(body, where);
+    }
     void leave();
     bool tellClosed();
 

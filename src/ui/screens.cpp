@@ -17,10 +17,12 @@ constexpr double LargestShare = 0.85; // of the display's free height, for the m
 
 } // namespace
 
-Screens::Screens(core::RandomSource& random, const core::Clock& clock, QString resources)
+Screens::Screens(core::RandomSource& random, const core::Clock& clock, const QString& resources,
+    const QString& sharedBank)
     : m_random(random)
     , m_clock(clock)
-    , m_resources(std::move(resources))
+    , m_resources(resources)
+    , m_bankFolder(resources, sharedBank)
 {
 }
 

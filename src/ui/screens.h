@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/bank_folder.h"
+
 #include <QPointer>
 #include <QString>
 
@@ -17,15 +19,16 @@ namespace ui {
 class Screen;
 
 /// The set of the program's screens, each made on first use, one instance of each. Also
-/// hands every screen what it may not own: the random source, the clock, the folder of the
-/// problem bank and the pictures.
+/// hands every screen what it may not own: the random source, the clock, the folders of the
+/// problem bank and of the pictures.
 class Screens {
 public:
     using Factory = std::function<Screen*(Screens&)>;
 
     /// random and clock must outlive the set. resources is the path of the folder
-    /// "Recursos".
-    Screens(core::RandomSource& random, const core::Clock& clock, QString resources);
+    /// "Recursos"; sharedBank that of the bank's folder where nobody may write there.
+    Screens(core::RandomSource& random, const core::Clock& clock, const QString& resources,
+        const QString& sharedBank = {});
     ~Screens();
     Screens(const Screens&) = delete;
     Screens& operator=(const Screens&) = delete;
@@ -33,6 +36,7 @@ public:
     core::RandomSource& random() const { return m_random; }
     const core::Clock& clock() const { return m_clock; }
     QString resources() const { return m_resources; }
+    const core::BankFolder& bankFolder() const { return m_bankFolder; }
 
     /// Makes a screen known by its name; it is not made yet.
     void add(const QString& name, Factory factory);
@@ -90,6 +94,7 @@ private:
     core::RandomSource& m_random;
     const core::Clock& m_clock;
     QString m_resources;
+    core::BankFolder m_bankFolder;
     QString m_mainScreen;
     std::map<QString, Factory> m_factories;
     std::vector<QPointer<Screen>> m_loaded; ///< in the order of loading

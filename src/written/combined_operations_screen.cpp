@@ -63,6 +63,7 @@ void FRMCombi::makeAnswer()
     TBResultado = entryBox(u"TBResultado"_s, {1680, 5400, 1740, 720}, AnswerFont, u"Resultado"_s);
     TBResultado->setAlignment(Qt::AlignCenter);
     enterChecks(TBResultado);
+    on(TBResultado, &QLineEdit::textChanged, [this] { showAnswerAsPast(false); });
     label(u"Label1"_s, u"&Resultado"_s, {240, 5400, 1380, 720}, LabelFont, TBResultado);
     Text1 = verdictBox(u"Text1"_s, {7080, 5400, 3180, 720}, u"Comprobación"_s);
 }
@@ -77,6 +78,7 @@ void FRMCombi::newExercise()
 {
     m_model.newExercise();
     Text1->retire();
+    showAnswerAsPast(true);
     TBOperacion->setText(m_model.text());
     ui::announce(*TBOperacion, m_model.text());
     TBCalculos->setPlainText(m_model.text());
@@ -85,8 +87,22 @@ void FRMCombi::newExercise()
     TBResultado->selectAll(); // an answer that still stands there gives way to the next one
 }
 
+/// The answer to an expression that has gone stays, faded, until it is changed or judged anew.
+void FRMCombi::showAnswerAsPast(bool past)
+{
+    QPalette palette = ui::look::palette();
+    if (past) {
+        const QColor quiet(ui::look::Quiet);
+        palette.setColor(QPalette::Text, quiet);
+        palette.setColor(QPalette::Highlight, ui::look::displayed().color(QPalette::Highlight));
+        palette.setColor(QPalette::HighlightedText, quiet);
+    }
+    TBResultado->setPalette(palette);
+}
+
 void FRMCombi::check()
 {
+    showAnswerAsPast(false);
     m_model.judge(core::readNumber(TBResultado->text()));
     showVerdict(*Text1, m_model.verdict());
 }

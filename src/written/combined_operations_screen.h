@@ -25,6 +25,7 @@ protected:
 private:
     void makeExpression();
     void makeAnswer();
+    void showAnswerAsPast(bool past);
 
     ui::TextBox* TBOperacion = nullptr; ///< the expression
     ScratchArea* TBCalculos = nullptr; ///< the pupil's own sums, judged by nobody

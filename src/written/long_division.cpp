@@ -25,7 +25,7 @@ double drawNumber(core::RandomSource& random, int digits)
         if (!(number <= std::numeric_limits<qint32>::max()))
             throw core::OverflowError(
                 u"Los números de %1 cifras son demasiado grandes para proponer una división. "
-                "Elige otro número de cifras en el menú Opciones."_s.arg(digits));
+                "Elija otro número de cifras en el menú Opciones."_s.arg(digits));
     } while (number <= excluded);
     return number == limit ? limit - 1 : number;
 }
@@ -53,7 +53,7 @@ core::Int16 typedLength(const QString& typed)
     const qsizetype length = typed.trimmed().size();
     if (length > Longest)
         throw core::OverflowError(
-            u"El número tiene %1 caracteres: escribe como mucho %2."_s.arg(length).arg(Longest));
+            u"El número tiene %1 caracteres: escriba como mucho %2."_s.arg(length).arg(Longest));
     return {static_cast<int>(length)};
 }
 

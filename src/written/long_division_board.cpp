@@ -2,7 +2,7 @@
 
 #include "ui/screens.h"
 #include "ui/squared_box.h"
-#include "ui/squared_paper.h"
+#include "written/division_sheet.h"
 #include "written/work_area.h"
 
 #include <QAction>
@@ -114,8 +114,9 @@ void Form6::makeMenu()
 
 void Form6::makeSheet()
 {
-    m_sheet = add(
-        new ui::SquaredPaper(canvas()), u"Sheet"_s, {Margin, SheetTop, SheetWidth, SheetHeight});
+    m_sheet =
+        add(new DivisionSheet(canvas()), u"Sheet"_s, {Margin, SheetTop, SheetWidth, SheetHeight});
+    on(m_sheet, &DivisionSheet::pressed, &Form6::writeNear);
 }
 
 void Form6::makeWork()
@@ -123,6 +124,9 @@ void Form6::makeWork()
     Text1 = add(new WorkArea(canvas()), u"Text1"_s,
         {Bracket - 12 * Square, WorkTop, 12 * Square, WorkHeight}, Figures);
     Text1->setAccessibleName(u"Dividendo y cuentas"_s);
+    Text1->setToolTip(
+        u"Pulsa un cuadro o muévete con las flechas y escribe; la barra espaciadora "
+        "deja el cuadro en blanco"_s);
     Text1->setGrid(GridText(u" 12053041   "_s, 12));
     onKeyDown(
         Text1, [this](int keyCode, Qt::KeyboardModifiers) { return Text1_KeyDown(keyCode); });

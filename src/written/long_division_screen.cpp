@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
+#include "written/division_sheet.h"
 #include "written/work_area.h"
 
 #include <QAction>
@@ -73,6 +74,7 @@ void Form6::nextExercise()
 {
     m_model.nextExercise();
     showExercise();
+    Text1->setFocus();
 }
 
 void Form6::clearAnswer()
@@ -91,6 +93,11 @@ void Form6::showSolution()
 }
 
 // --- boxes
+
+void Form6::writeNear(const QPoint& point)
+{
+    Text1->writeNear(Text1->mapFromGlobal(m_sheet->mapToGlobal(point)));
+}
 
 ui::KeyResult Form6::Text1_KeyDown(int KeyCode)
 {

@@ -5,11 +5,11 @@
 
 namespace ui {
 class SquaredBox;
-class SquaredPaper;
 } // namespace ui
 
 namespace written {
 
+class DivisionSheet;
 class WorkArea;
 
 /// Long division on squared paper: the dividend with the work under it, the bracket, the
@@ -38,6 +38,7 @@ private:
     ui::SquaredBox* squaredBox(const QString& name, ui::TextBox::Kind kind,
         const QString& accessibleName, const ui::TwipRect& place);
 
+    void writeNear(const QPoint& point);
     ui::KeyResult Text1_KeyDown(int KeyCode);
     ui::KeyResult Text1_KeyPress(QChar KeyAscii);
     void Text1_GotFocus();
@@ -63,7 +64,7 @@ private:
     ui::MenuList MnuOpcDecLis; ///< decimals of the quotient
     QAction* MnuOpcRes = nullptr; ///< the solution writes the products too
     QAction* MnuOpcFor = nullptr; ///< the quotient must contain a zero
-    ui::SquaredPaper* m_sheet = nullptr;
+    DivisionSheet* m_sheet = nullptr;
     WorkArea* Text1 = nullptr; ///< the dividend with the work under it
     ui::SquaredBox* Text2 = nullptr; ///< the divisor
     ui::SquaredBox* Text3 = nullptr; ///< the quotient

@@ -98,7 +98,7 @@ QStringList LongMultiplication::partialProducts(double factor1, double factor2) 
         if (m_OcultarCeros && digit == u'0')
             continue;
         const int value = digit.isDigit() ? digit.digitValue() : 0; // a minus has a row too
-        rows += core::wholeText(value * factor1) + QString(place, u' ');
+        rows += core::wholeProductText(value, factor1) + QString(place, u' ');
     }
     return rows;
 }
@@ -115,7 +115,7 @@ QString LongMultiplication::factor2Text() const
 
 QString LongMultiplication::resultText() const
 {
-    return core::wholeText(Producto());
+    return core::wholeProductText(Factor1(), Factor2());
 }
 
 bool LongMultiplication::firstRowIsResult() const

@@ -48,6 +48,7 @@ public:
 
     /// The partial product that each row should hold, row 0 at the top.
     const QStringList& expectedRows() const { return m_exercise.rows; }
+    /// The exact product, where Producto() has been rounded too.
     QString resultText() const;
     /// With a single digit in factor 2, the one partial product is the result.
     bool firstRowIsResult() const;

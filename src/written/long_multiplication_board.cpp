@@ -99,6 +99,8 @@ void Form3::makeSheet()
     TBResultado = add(new SquaredBox(SquaredBox::Kind::Entry, canvas()), u"TBResultado"_s,
         rowPlace(1), DigitFont);
     TBResultado->setAccessibleName(u"Resultado"_s);
+    TBResultado->setToolTip(
+        u"Escribe desde las unidades hacia la izquierda y pulsa Intro al terminar"_s);
     connectResult();
     labIgual = label(
         u"labIgual"_s, u"="_s, {SignLeft, RowsTop + RowHeight, SignWidth, RowHeight}, DigitFont);
@@ -130,8 +132,8 @@ void Form3::makeTexts()
 {
     displayBox(u"TbTítulo"_s, {PaperLeft, 420, PaperWidth, 450}, ui::look::Instruction,
         u"Instrucción"_s, u"Realiza la siguiente operación"_s);
-    Text1 = verdictBox(u"Text1"_s, {SideLeft, 4180, SideWidth, 420}, u"Resultado"_s);
-    Text2 = displayBox(u"Text2"_s, {SideLeft, 4740, SideWidth, 300}, CounterFont, u"Contadores"_s,
+    Text1 = verdictBox(u"Text1"_s, {SideLeft, 4180, SideWidth, 420}, u"Comprobación"_s);
+    Text2 = displayBox(u"Text2"_s, {SideLeft, 4740, SideWidth, 300}, CounterFont, u"Ejercicios y errores"_s,
         m_model.counters().FormatoAlineado());
     for (ui::TextBox* box : std::initializer_list<ui::TextBox*>{Text1, Text2})
         box->setFocusPolicy(Qt::TabFocus);
@@ -142,13 +144,15 @@ SquaredBox* Form3::makeRow(int fila)
     auto* row = add(new SquaredBox(SquaredBox::Kind::Entry, canvas()), rowName(fila),
         rowPlace(fila), DigitFont);
     row->setAccessibleName(u"Producto parcial %1"_s.arg(fila + 1));
+    row->setToolTip(
+        u"Escribe desde las unidades hacia la izquierda, pulses donde pulses en una fila "
+        "vacía; muévete con las flechas y deja un hueco con la barra espaciadora"_s);
     connectRow(row, fila);
     return row;
 }
 
 void Form3::connectRow(SquaredBox* row, int fila)
 {
-    enterChecks(row);
     onKeyDown(row, [this, fila](int KeyCode, Qt::KeyboardModifiers) {
         TbParcial_KeyDown(fila, KeyCode);
         return ui::KeyResult::Pass;
@@ -158,6 +162,7 @@ void Form3::connectRow(SquaredBox* row, int fila)
     on(row, &QLineEdit::textChanged, [this, fila] { TbParcial_Change(fila); });
 }
 
+/// Enter checks here alone: in a row, one that is half written would be judged.
 void Form3::connectResult()
 {
     enterChecks(TBResultado);

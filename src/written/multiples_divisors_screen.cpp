@@ -62,7 +62,7 @@ void FrmMultidivi::makeBoxes()
 
     TBMensajes = verdictBox(
         u"TBMensajes"_s, {240 + 2 * ColumnPitch, 3900, ColumnWidth, 600}, u"Comprobación"_s);
-    displayBox(u"TbResultados"_s, {240, 5520, 10020, 330}, ui::look::Counters, u"Contadores"_s,
+    displayBox(u"TbResultados"_s, {240, 5520, 10020, 330}, ui::look::Counters, u"Ejercicios y errores"_s,
         u"Ejercicios: 0; Errores: 0"_s);
 }
 

@@ -23,33 +23,58 @@ void ScratchArea::setFactor(double factor)
     const QFontMetricsF metrics(squared);
     m_square = static_cast<int>(std::ceil(metrics.lineSpacing()));
     m_pen = std::max(1, static_cast<int>(factor));
+    m_corner = qRound(ui::look::CornerMargin * factor);
     const double gap = m_square - metrics.horizontalAdvance(u'0');
     squared.setLetterSpacing(QFont::AbsoluteSpacing, gap);
     setFont(squared);
     // The gap comes behind a character: half of it in front puts it in the middle.
-    m_firstColumn = document()->documentMargin() - gap / 2;
+    document()->setDocumentMargin(gap / 2);
+    fitWholeSquares();
+}
+
+void ScratchArea::resizeEvent(QResizeEvent* event)
+{
+    Memo::resizeEvent(event);
+    fitWholeSquares();
+}
+
+/// Leaves a view of as many whole squares as there is room for, in the middle of the box.
+void ScratchArea::fitWholeSquares()
+{
+    const QMargins now = viewportMargins();
+    const auto margins = [&](int room, double start) {
+        const int fixed = static_cast<int>(std::ceil(start)) + m_pen;
+        const int squares = std::max(1, (room - 2 * m_corner - fixed) / m_square);
+        const int rest = std::max(0, room - fixed - squares * m_square);
+        return std::pair(rest / 2, rest - rest / 2);
+    };
+    const auto [left, right] = margins(viewport()->width() + now.left() + now.right(), 0);
+    const auto [top, bottom] =
+        margins(viewport()->height() + now.top() + now.bottom(), document()->documentMargin());
+    const QMargins wanted(left, top, right, bottom);
+    if (wanted != now)
+        setViewportMargins(wanted);
 }
 
 void ScratchArea::paintEvent(QPaintEvent* event)
 {
-    drawSquares();
+    paintSquares();
     Memo::paintEvent(event);
 }
 
-void ScratchArea::drawSquares()
+void ScratchArea::paintSquares()
 {
     QPainter painter(viewport());
     const QColor grid(ui::look::Grid);
-    const QRect area = viewport()->rect();
-    const auto draw = [&](double first, int end, auto line) {
-        for (double at = std::fmod(first, m_square); at < end; at += m_square)
-            painter.fillRect(line(static_cast<int>(std::floor(at))), grid);
-    };
-    const QPointF offset = contentOffset();
-    const QRectF line = blockBoundingGeometry(firstVisibleBlock()).translated(offset);
-    draw(offset.x() + m_firstColumn, area.width(),
-        [&](int x) { return QRect(x, 0, m_pen, area.height()); });
-    draw(line.top(), area.height(), [&](int y) { return QRect(0, y, area.width(), m_pen); });
+    const double line =
+        blockBoundingGeometry(firstVisibleBlock()).translated(contentOffset()).top();
+    const auto top = static_cast<int>(std::fmod(line, m_square));
+    const int rows = (viewport()->height() - m_pen - top) / m_square;
+    const int columns = (viewport()->width() - m_pen) / m_square;
+    for (int column = 0; column <= columns; ++column)
+        painter.fillRect(column * m_square, top, m_pen, rows * m_square + m_pen, grid);
+    for (int row = 0; row <= rows; ++row)
+        painter.fillRect(0, top + row * m_square, columns * m_square + m_pen, m_pen, grid);
 }
 
 } // namespace written

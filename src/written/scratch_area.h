@@ -5,7 +5,7 @@
 namespace written {
 
 /// A text box of several lines on squared paper, to work in as in an exercise book: every
-/// character stands in a square of its own. For fixed-pitch fonts.
+/// character stands in a square of its own, and no square is cut off. For fixed-pitch fonts.
 class ScratchArea : public ui::Memo {
 public:
     explicit ScratchArea(QWidget* parent);
@@ -17,13 +17,15 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void drawSquares();
+    void fitWholeSquares();
+    void paintSquares();
 
     int m_square = 1;
+    int m_corner = 0; ///< keeps the squares off the round corners of the box
     int m_pen = 1;
-    double m_firstColumn = 0; ///< left edge of a square, in pixels from that of the document
 };
 
 } // namespace written

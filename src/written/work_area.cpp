@@ -5,9 +5,12 @@
 #include "written/work_area_accessible.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -30,14 +33,11 @@ void WorkArea::setGrid(const GridText& grid)
     const GridText before = m_grid;
     m_grid = grid;
     m_composed.clear();
-    m_firstRow = 0;
+    m_cells.setText(grid.columns(), grid.size());
+    m_cells.scrollTo(0);
+    m_caret.setText(grid.columns(), grid.size());
     changed(before, 0);
     setCursorPosition(0);
-}
-
-void WorkArea::overtype(QChar typed)
-{
-    overtypeText(typed);
 }
 
 void WorkArea::overtypeText(const QString& typed)
@@ -69,7 +69,7 @@ QString WorkArea::selectedText() const
 
 void WorkArea::copy() const
 {
-    if (m_anchor != m_caret)
+    if (m_caret.hasSelection())
         QGuiApplication::clipboard()->setText(selectedText());
 }
 
@@ -80,116 +80,175 @@ void WorkArea::paste()
 
 // --- caret
 
-void WorkArea::setCursorPosition(int position)
-{
-    setSelection(position, position);
-}
-
 void WorkArea::setSelection(int anchor, int caret)
 {
-    anchor = std::clamp(anchor, 0, m_grid.size());
-    caret = std::clamp(caret, 0, m_grid.size());
-    if (anchor == m_anchor && caret == m_caret)
+    GridCaret moved = m_caret;
+    moved.select(anchor, caret);
+    setCaret(moved);
+}
+
+void WorkArea::setCaret(const GridCaret& caret)
+{
+    if (caret == m_caret)
         return;
-    m_anchor = anchor;
     m_caret = caret;
     m_composed.clear();
-    showCaret();
+    m_cells.show(caret.position());
     update();
     updateMicroFocus();
     tellAccessibleCaret(*this);
     emit cursorPositionChanged();
 }
 
-void WorkArea::showCaret()
+void WorkArea::writeNear(const QPoint& point)
 {
-    const int row = m_caret / m_grid.columns();
-    if (row < m_firstRow)
-        scrollTo(row);
-    else if (row >= m_firstRow + visibleRows())
-        scrollTo(row - visibleRows() + 1);
+    const QPoint below(point.x(), std::max(point.y(), cellRect(m_grid.columns()).top()));
+    setFocus(Qt::MouseFocusReason);
+    setCursorPosition(positionAt(below));
 }
 
-// --- cells
+// --- places
 
 void WorkArea::setFirstCell(const ui::TwipRect& cell)
 {
-    m_firstCell = cell;
+    m_cells.setFirstCell(cell);
     update();
 }
 
 void WorkArea::setFactor(double factor)
 {
     Scalable::setFactor(factor);
-    const double pixels = factor / ui::TwipsPerPixel;
+    m_cells.setFactor(factor);
     QFont type = font();
-    type.setPixelSize(ui::SquaredBox::fittingSize(
-        type, m_firstCell.width * pixels, m_firstCell.height * pixels));
+    type.setPixelSize(
+        ui::SquaredBox::fittingSize(type, m_cells.cellWidth(), m_cells.cellHeight()));
     setFont(type);
-    update();
-}
-
-int WorkArea::columnEdge(int column) const
-{
-    const double left = m_firstCell.left + column * m_firstCell.width;
-    return ui::toPixels({left, 0, 0, 0}, factor()).left() - x();
-}
-
-int WorkArea::rowEdge(int visibleRow) const
-{
-    const double top = m_firstCell.top + visibleRow * m_firstCell.height;
-    return ui::toPixels({0, top, 0, 0}, factor()).top() - y();
-}
-
-QRect WorkArea::cellRect(int position) const
-{
-    const int column = position % m_grid.columns();
-    const int row = position / m_grid.columns() - m_firstRow;
-    return QRect(QPoint(columnEdge(column), rowEdge(row)),
-        QPoint(columnEdge(column + 1) - 1, rowEdge(row + 1) - 1));
-}
-
-int WorkArea::positionAt(const QPoint& point) const
-{
-    const double twips = ui::TwipsPerPixel / factor();
-    const auto cell = [twips](int pixels, double length) {
-        return static_cast<int>(std::floor((pixels + 0.5) * twips / length));
-    };
-    int column = std::clamp(cell(point.x(), m_firstCell.width), 0, m_grid.columns() - 1);
-    int row = std::clamp(cell(point.y(), m_firstCell.height), 0, visibleRows() - 1);
-    // Edges are rounded to pixels, so the neighbour may be the one that was hit.
-    while (column > 0 && point.x() < columnEdge(column))
-        --column;
-    while (column < m_grid.columns() - 1 && point.x() >= columnEdge(column + 1))
-        ++column;
-    while (row > 0 && point.y() < rowEdge(row))
-        --row;
-    while (row < visibleRows() - 1 && point.y() >= rowEdge(row + 1))
-        ++row;
-    return std::min((row + m_firstRow) * m_grid.columns() + column, m_grid.size());
-}
-
-int WorkArea::rowCount() const
-{
-    return m_grid.size() / m_grid.columns() + 1; // the caret may stand behind the last character
-}
-
-int WorkArea::visibleRows() const
-{
-    const double rowPixels = m_firstCell.height * factor() / ui::TwipsPerPixel;
-    return std::max(1, static_cast<int>(std::lround(height() / rowPixels)));
-}
-
-void WorkArea::scrollTo(int firstRow)
-{
-    m_firstRow = std::clamp(firstRow, 0, std::max(0, rowCount() - visibleRows()));
     update();
 }
 
 void WorkArea::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    showCaret();
+    m_cells.show(cursorPosition());
+}
+
+// --- keys
+
+void WorkArea::keyPressEvent(QKeyEvent* event)
+{
+    GridCaret moved = m_caret;
+    if (moved.press(*event, m_cells.visibleRows()))
+        setCaret(moved);
+    else if (!edit(*event))
+        event->ignore();
+}
+
+bool WorkArea::edit(const QKeyEvent& event)
+{
+    if (event.matches(QKeySequence::Copy))
+        copy();
+    else if (event.matches(QKeySequence::Paste))
+        paste();
+    else if (event.matches(QKeySequence::SelectAll))
+        setSelection(0, m_grid.size());
+    else
+        return false;
+    return true;
+}
+
+void WorkArea::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (!event->commitString().isEmpty())
+        overtypeText(event->commitString());
+    m_composed = event->preeditString();
+    update();
+    event->accept();
+}
+
+QVariant WorkArea::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    switch (query) {
+    case Qt::ImEnabled:
+        return true;
+    case Qt::ImCursorRectangle:
+        return cellRect(cursorPosition());
+    case Qt::ImCursorPosition:
+    case Qt::ImAbsolutePosition:
+        return cursorPosition();
+    case Qt::ImAnchorPosition:
+        return m_caret.anchor();
+    case Qt::ImSurroundingText:
+        return m_grid.text();
+    case Qt::ImCurrentSelection:
+        return selectedText();
+    default:
+        return QWidget::inputMethodQuery(query);
+    }
+}
+
+void WorkArea::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void WorkArea::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+// --- mouse
+
+void WorkArea::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const int position = positionAt(event->position().toPoint());
+    const bool extends = event->modifiers() & Qt::ShiftModifier;
+    setSelection(extends ? m_caret.anchor() : position, position);
+}
+
+void WorkArea::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        setSelection(m_caret.anchor(), positionAt(event->position().toPoint()));
+}
+
+void WorkArea::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const int position = positionAt(event->position().toPoint());
+    const QString& text = m_grid.text();
+    if (position == text.size() || text.at(position) == u' ')
+        return;
+    const auto start = static_cast<int>(text.lastIndexOf(u' ', position)) + 1;
+    const auto end = static_cast<int>(text.indexOf(u' ', position));
+    setSelection(start, end < 0 ? m_grid.size() : end);
+}
+
+void WorkArea::wheelEvent(QWheelEvent* event)
+{
+    constexpr int NotchDegrees = 120;
+    constexpr int RowsPerNotch = 3;
+    m_wheel += event->angleDelta().y() * RowsPerNotch;
+    const int rows = m_wheel / NotchDegrees;
+    m_wheel -= rows * NotchDegrees;
+    m_cells.scrollTo(m_cells.firstRow() - rows);
+    update();
+    event->accept();
+}
+
+void WorkArea::contextMenuEvent(QContextMenuEvent* event)
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(u"&Copiar"_s, this, &WorkArea::copy)->setEnabled(m_caret.hasSelection());
+    menu->addAction(u"&Pegar"_s, this, &WorkArea::paste)
+        ->setEnabled(m_grid.isWritable(selectionStart())
+            && !QGuiApplication::clipboard()->text().isEmpty());
+    menu->addSeparator();
+    menu->addAction(u"&Seleccionar todo"_s, this, [this] { setSelection(0, m_grid.size()); });
+    menu->popup(event->globalPos());
 }
 
 // --- painting
@@ -197,37 +256,44 @@ void WorkArea::resizeEvent(QResizeEvent* event)
 void WorkArea::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const int first = m_firstRow * m_grid.columns();
-    const int last = std::min(m_grid.size(), first + visibleRows() * m_grid.columns());
-    for (int position = first; position < last; ++position)
+    for (int position = m_cells.firstInSight(); position < m_cells.endOfSight(); ++position)
         paintCell(painter, position);
     if (!hasFocus())
         return;
-    QRect bar = cellRect(m_caret);
+    QRect bar = cellRect(cursorPosition());
     bar.setWidth(std::max(2, qRound(2 * factor())));
     painter.fillRect(bar, QColor(ui::look::Focus));
 }
 
+bool WorkArea::isComposedAt(int position) const
+{
+    const int caret = cursorPosition();
+    return m_grid.isWritable(caret) && position >= caret && position < caret + m_composed.size();
+}
+
 void WorkArea::paintCell(QPainter& painter, int position) const
 {
-    const bool selected = position >= selectionStart() && position < selectionEnd();
-    const bool underCaret = hasFocus() && position == m_caret && m_grid.isWritable(position);
-    const bool composed = m_grid.isWritable(m_caret) && position >= m_caret
-        && position < m_caret + m_composed.size();
     const QRect cell = cellRect(position);
+    const bool selected = m_caret.selects(position);
+    const bool composed = isComposedAt(position);
+    const bool written = position == cursorPosition() && m_grid.isWritable(position);
     if (selected && hasFocus())
         painter.fillRect(cell, QColor(ui::look::Focus));
-    else if (selected || underCaret || composed)
+    else if (selected || composed || (written && hasFocus()))
         painter.fillRect(cell, QColor(ui::look::Shown));
+    painter.setPen(QColor(selected && hasFocus() ? ui::look::Card : ui::look::Ink));
+    paintCharacter(painter, cell,
+        composed ? m_composed.at(position - cursorPosition()) : m_grid.text().at(position));
+}
 
-    const QChar character =
-        composed ? m_composed.at(position - m_caret) : m_grid.text().at(position);
+/// In the middle of its cell, at the height at which a digit stands in the middle.
+void WorkArea::paintCharacter(QPainter& painter, const QRect& cell, QChar character) const
+{
     if (character == u' ')
         return;
     const QFontMetricsF metrics(font());
     const double free = cell.width() - metrics.horizontalAdvance(character);
     const double digit = metrics.tightBoundingRect(u"0"_s).height();
-    painter.setPen(QColor(selected && hasFocus() ? ui::look::Card : ui::look::Ink));
     painter.drawText(
         QPoint(cell.left() + qRound(free / 2), cell.top() + qRound((cell.height() + digit) / 2)),
         character);

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "ui/scaling.h"
+#include "written/cell_grid.h"
+#include "written/grid_caret.h"
 #include "written/grid_text.h"
 
-#include <QKeySequence>
 #include <QWidget>
-
-#include <algorithm>
-#include <array>
 
 namespace written {
 
@@ -35,25 +33,29 @@ public:
     void setFirstCell(const ui::TwipRect& cell);
     void setFactor(double factor) override;
 
-    int cursorPosition() const { return m_caret; }
-    void setCursorPosition(int position);
+    int cursorPosition() const { return m_caret.position(); }
+    void setCursorPosition(int position) { setSelection(position, position); }
     void setSelection(int anchor, int caret);
-    int selectionStart() const { return std::min(m_anchor, m_caret); }
-    int selectionEnd() const { return std::max(m_anchor, m_caret); }
+    int selectionStart() const { return m_caret.selectionStart(); }
+    int selectionEnd() const { return m_caret.selectionEnd(); }
     QString selectedText() const;
 
     /// Writes over the cells from the caret, or the start of the selection, on. The caret
     /// stays there.
-    void overtype(QChar typed);
+    void overtype(QChar typed) { overtypeText(typed); }
     void overtypeText(const QString& typed);
 
     void copy() const;
     void paste();
 
+    /// Takes the focus, and the caret to the cell nearest to a point, of this control or beside
+    /// it, that can be written over.
+    void writeNear(const QPoint& point);
+
     /// The cell of a character, in pixels of this control.
-    QRect cellRect(int position) const;
+    QRect cellRect(int position) const { return m_cells.rect(position); }
     /// The character whose cell lies at a point, or the nearest one.
-    int positionAt(const QPoint& point) const;
+    int positionAt(const QPoint& point) const { return m_cells.positionAt(point); }
 
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -75,31 +77,16 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    /// The keys that take the caret to a position, without and with a selection.
-    struct CaretMove {
-        QKeySequence::StandardKey move;
-        QKeySequence::StandardKey select;
-        int target;
-    };
-    using CaretMoves = std::array<CaretMove, 10>;
-
-    int columnEdge(int column) const;
-    int rowEdge(int visibleRow) const;
-    int rowCount() const;
-    int visibleRows() const;
-    void scrollTo(int firstRow);
-    void showCaret();
     bool edit(const QKeyEvent& event);
-    CaretMoves caretMoves() const;
-    bool moveCaret(const QKeyEvent& event);
     void changed(const GridText& before, int from);
+    void setCaret(const GridCaret& caret);
+    bool isComposedAt(int position) const;
     void paintCell(QPainter& painter, int position) const;
+    void paintCharacter(QPainter& painter, const QRect& cell, QChar character) const;
 
     GridText m_grid;
-    ui::TwipRect m_firstCell{0, 0, 165, 240};
-    int m_firstRow = 0; ///< the topmost line in sight
-    int m_anchor = 0;
-    int m_caret = 0;
+    CellGrid m_cells{*this};
+    GridCaret m_caret;
     QString m_composed; ///< what an input method is composing at the caret
     int m_wheel = 0; ///< turned, in eighths of a degree, and not yet scrolled
 };

@@ -132,6 +132,39 @@ private slots:
         QCOMPARE(core::wholeText(99999999980000000001.0), u"99999999980000002048"_s);
         QCOMPARE(core::wholeText(1e22), u"10000000000000000000000"_s);
     }
+
+    void multipliesExactly_data()
+    {
+        QTest::addColumn<double>("a");
+        QTest::addColumn<double>("b");
+        QTest::addColumn<QString>("product");
+
+        QTest::newRow("zeros") << 0.0 << 0.0 << u"0"_s;
+        QTest::newRow("by zero") << 12345.0 << 0.0 << u"0"_s;
+        QTest::newRow("never -0") << 0.0 << -7.0 << u"0"_s;
+        QTest::newRow("digits") << 9.0 << 9.0 << u"81"_s;
+        QTest::newRow("carried to the front") << 1234.0 << 56.0 << u"69104"_s;
+        QTest::newRow("one negative") << -12.0 << 12.0 << u"-144"_s;
+        QTest::newRow("the other negative") << 12.0 << -12.0 << u"-144"_s;
+        QTest::newRow("both negative") << -12.0 << -12.0 << u"144"_s;
+        QTest::newRow("beyond 2^53") << 99999999.0 << 99999999.0 << u"9999999800000001"_s;
+        QTest::newRow("twenty digits")
+            << 9999999999.0 << 9999999999.0 << u"99999999980000000001"_s;
+        QTest::newRow("zeros inside and behind") << 1e22 << 1e22 << u'1' + QString(44, u'0');
+    }
+    void multipliesExactly()
+    {
+        QFETCH(double, a);
+        QFETCH(double, b);
+        QTEST(core::wholeProductText(a, b), "product");
+    }
+
+    void anExactProductReadsAsTheRoundedOne()
+    {
+        for (const auto& [a, b] : {std::pair{99999999.0, 99999999.0},
+                 {9999999999.0, 9999999999.0}, {9876543219.0, 9876504321.0}, {1e22, 3e200}})
+            QCOMPARE(core::readNumber(core::wholeProductText(a, b)), a * b);
+    }
 };
 
 QTEST_GUILESS_MAIN(NumbersTest)

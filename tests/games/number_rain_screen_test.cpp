@@ -12,6 +12,7 @@
 
 using games::RainState;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -226,6 +227,41 @@ private slots:
         compare();
     }
 
+    void aKeyMeantForTheNumberBeforeHitsNotTheNewOne()
+    {
+        QFETCH(Qt::Key, key);
+        bench->clock.passingWithEachLook = 0ms;
+        run();
+        launch(5, 1, 1);
+        launch(6, 1, 3);
+        bench->clock.passed += 249ms;
+        QTest::keyClick(&drop(1), key);
+        QVERIFY(drop(1).isVisible());
+        bench->clock.passed += 1ms;
+        QTest::keyClick(&drop(1), key);
+        model->rain.click(1);
+        QVERIFY(!drop(1).isVisible());
+        compare();
+    }
+    void aKeyMeantForTheNumberBeforeHitsNotTheNewOne_data() { keysHitTheNumberInFocus_data(); }
+
+    void aNumberThatTakesTheFocusFromNoOtherIsHitAtOnce()
+    {
+        bench->clock.passingWithEachLook = 0ms;
+        run();
+        launch(5, 1, 1);
+        launch(6, 1, 3);
+        bench->clock.passed += 250ms;
+        QTest::keyClick(&drop(1), Qt::Key_Space);
+        model->rain.click(1);
+        QCOMPARE(bench->focusName(), u"PbFoco"_s);
+        launch(7, 1, 5);
+        QTest::keyClick(&drop(1), Qt::Key_Space);
+        model->rain.click(1);
+        QVERIFY(!drop(1).isVisible());
+        compare();
+    }
+
     void tabReachesTheNumbersFromNowhere()
     {
         run();
@@ -327,7 +363,13 @@ private slots:
         for (int steps = 1; steps < Rows; ++steps)
             step();
         BoxAnswerer boxes(u"Aceptar"_s);
-        boxes.whileOpen = [&](QDialog&) { QCOMPARE(screen->beeps, 1); };
+        boxes.whileOpen = [&](QDialog& box) {
+            QCOMPARE(screen->beeps, 1);
+            QTest::keyClick(box.windowHandle(), Qt::Key_Return); // meant for a number
+            QVERIFY(box.isVisible());
+            bench->clock.passingWithEachLook = 1s;
+        };
+        bench->clock.passingWithEachLook = 0ms;
         step();
         QCOMPARE(boxes.texts,
             {u"Has dejado escapar demasiados números y pierdes una vida. Deberás volver a "

@@ -734,6 +734,10 @@ private:
         QVERIFY(button(u"Command1(0)"_s).isEnabled() && button(u"Command1(1)"_s).isEnabled());
         QCOMPARE(text(u"Text4"_s), QString());
         QVERIFY(!control<QLineEdit>(u"TBResultado"_s).isEnabled());
+        const QString operation = text(u"TBOperación"_s);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+            QTest::keyClick(screen->focusWidget(), key);
+        QCOMPARE(text(u"TBOperación"_s), operation); // no new race
     }
 
     std::unique_ptr<ScreenBench> bench;

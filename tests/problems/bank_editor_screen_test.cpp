@@ -5,9 +5,11 @@
 
 #include <QCheckBox>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 using problems::DLGProblemas;
@@ -120,6 +122,7 @@ private:
         return bench->focusName();
     }
     void store() { bench->click(u"CBAccion(0)"_s); }
+    bool saysUnsaved() const { return bench->control<QLabel>(u"unsaved"_s).isVisible(); }
 
 private slots:
     void init()
@@ -184,6 +187,17 @@ private slots:
             QTest::keyClick(screen, key, Qt::AltModifier);
             QCOMPARE(bench->focusName(), name);
         }
+    }
+
+    void oneAccessKeyLeadsToTheAnswerAndTwoCommands()
+    {
+        open();
+        QSet<QString> reached;
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClick(screen, Qt::Key_R, Qt::AltModifier);
+            reached << bench->focusName();
+        }
+        QCOMPARE(reached, (QSet<QString>{u"Command2"_s, u"Command4"_s, u"Text2"_s}));
     }
 
     void aMissingBankIsAnEmptyOne()
@@ -589,6 +603,84 @@ private slots:
         QCOMPARE(boxes.texts,
             QStringList{u"División entre 0 (carácter 2 de «7/0»).\n\nEstá en: {7/0}"_s});
         QCOMPARE(answer().text(), u"{7/0}"_s);
+    }
+
+    void notesWhatIsWrongBelowTheTextThatItShows()
+    {
+        open();
+        writeStatement(u"Hay [7_9] de"_s);
+        focus(u"Text2"_s);
+        QTest::keyClicks(&answer(), u"{&1/2}"_s);
+        bench->random.appendInteger(7, 3, 7);
+        BoxAnswerer boxes(u"Aceptar"_s);
+        QString notes;
+        boxes.whileOpen = [&](QDialog& box) {
+            notes = dynamic_cast<QMessageBox&>(box).informativeText();
+        };
+        bench->click(u"CBProbar"_s);
+        QCOMPARE(boxes.texts, QStringList{u"Enunciado \r\nHay 7 de\r\nRespuesta\r\n4\r\n"_s});
+        QCOMPARE(notes, u"{&1/2} da 3,5 y se redondea a 4.\nDatos: &1 = 7."_s);
+    }
+
+    void notesNothingOnACleanDraw()
+    {
+        open();
+        clickEntry(1);
+        BoxAnswerer boxes(u"Aceptar"_s);
+        QString notes = u"?"_s;
+        boxes.whileOpen = [&](QDialog& box) {
+            notes = dynamic_cast<QMessageBox&>(box).informativeText();
+        };
+        bench->click(u"CBProbar"_s);
+        QCOMPARE(notes, QString());
+    }
+
+    // --- what is not stored yet
+
+    void showsWhatIsNotStoredYet()
+    {
+        open();
+        QVERIFY(!saysUnsaved());
+        clickEntry(1);
+        QVERIFY(!saysUnsaved());
+        writeStatement(u"Otra cosa"_s);
+        QVERIFY(saysUnsaved());
+        clickEntry(2);
+        QVERIFY(!saysUnsaved());
+        clickBox(0);
+        QVERIFY(saysUnsaved());
+        clickBox(0);
+        QVERIFY(!saysUnsaved());
+        focus(u"Text2"_s);
+        QTest::keyClicks(&answer(), u"5"_s);
+        QVERIFY(saysUnsaved());
+        store();
+        QVERIFY(!saysUnsaved());
+        focus(u"Text3"_s);
+        QTest::keyClicks(&unit(), u"m"_s);
+        QVERIFY(saysUnsaved());
+        bench->click(u"CBAccion(1)"_s);
+        QVERIFY(!saysUnsaved());
+    }
+
+    void whatIsLeftOfADeletedEntryIsNotStored()
+    {
+        open();
+        clickEntry(1);
+        bench->click(u"CBAccion(2)"_s);
+        QVERIFY(saysUnsaved());
+        clickEntry(0);
+        QVERIFY(!saysUnsaved());
+    }
+
+    void anEntryIsShownWholeUnderTheMouse()
+    {
+        open("Reparte <b>[4_8]</b> & m\xE1s.|{&1*2}|cromos|*/\r\n");
+        const QPoint place = list().visualItemRect(list().item(0)).center();
+        QHelpEvent event(QEvent::ToolTip, place, list().viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(list().viewport(), &event);
+        QCOMPARE(QToolTip::text(), u"<p>%1</p>"_s.arg(list().item(0)->text().toHtmlEscaped()));
+        QToolTip::hideText();
     }
 
     // --- storing, clearing, deleting

@@ -152,12 +152,62 @@ private slots:
         const problems::ExpressionEvaluator evaluator(u"VBScript"_s);
         const TemplateFields fields{
             u"[2_9] por (1+1)"_s, u"{&1*2} y {&2}"_s, u"cromos [3_5]"_s, {}};
-        QCOMPARE(problems::tryOut(fields, random, evaluator),
-            u"Enunciado \r\n7 por 2\r\nRespuesta\r\n14 y 4\r\ncromos 4"_s);
+        const problems::TryOut tried = problems::tryOut(fields, random, evaluator);
+        QCOMPARE(tried.text, u"Enunciado \r\n7 por 2\r\nRespuesta\r\n14 y 4\r\ncromos 4"_s);
+        QCOMPARE(tried.notes, QString());
         QCOMPARE(random.left(), 0u);
         const TemplateFields wrong{u"a"_s, u"{1+}"_s, {}, {}};
         QVERIFY_THROWS_EXCEPTION(
             problems::TemplateError, problems::tryOut(wrong, random, evaluator));
+    }
+
+    void tellsWhatIsWrongWithTheDrawAndItsData()
+    {
+        ScriptedRandom random;
+        random.appendInteger(7, 8, 2);
+        random.appendInteger(4, 3, 3);
+        const problems::ExpressionEvaluator evaluator(u"VBScript"_s);
+        const TemplateFields fields{u"[2_9] de [3_5] y [más"_s, u"{&1/&2}"_s, u"{&3}"_s, {}};
+        const problems::TryOut tried = problems::tryOut(fields, random, evaluator);
+        QCOMPARE(tried.text, u"Enunciado \r\n7 de 4 y [más\r\nRespuesta\r\n2\r\n0"_s);
+        QCOMPARE(tried.notes,
+            u"Falta cerrar un «[» en el enunciado.\n"
+            "{&3} usa el dato &3, que no existe y vale 0.\n"
+            "{&1/&2} da 1,75 y se redondea a 2.\n"
+            "Datos: &1 = 7, &2 = 4."_s);
+    }
+
+    void namesTheUnclosedBraceBehindWhichNothingCanBeWorkedOut()
+    {
+        ScriptedRandom random{0};
+        const problems::ExpressionEvaluator evaluator(u"VBScript"_s);
+        try {
+            problems::tryOut({u"{&1 de [2_9]"_s, u"{&1}"_s, {}, {}}, random, evaluator);
+            QFAIL("it could be worked out");
+        } catch (const problems::TemplateError& error) {
+            QVERIFY2(error.text().startsWith(u"Falta cerrar un «{» en el enunciado.\n\n"_s),
+                qPrintable(error.text()));
+        }
+    }
+
+    void knowsWhatIsNotSaved()
+    {
+        BankEditor editor;
+        editor.load({u"a|1|kg"_s});
+        TemplateFields fields{{}, {}, {}, {true, false, false, false}};
+        QVERIFY(!editor.isUnsaved(fields)); // marks alone are no problem
+        fields.answer = u"2"_s;
+        QVERIFY(editor.isUnsaved(fields));
+        fields = editor.show(0);
+        QCOMPARE(fields, problems::splitLine(u"a|1|kg"_s));
+        QVERIFY(!editor.isUnsaved(fields));
+        fields.operations[1] = true;
+        QVERIFY(editor.isUnsaved(fields));
+        editor.store(1, fields);
+        QVERIFY(!editor.isUnsaved(fields));
+        editor.remove(0);
+        QVERIFY(editor.isUnsaved(fields));
+        QVERIFY(!editor.isUnsaved({}));
     }
 
     void storesOverALineAndAtTheEnd()

@@ -100,7 +100,14 @@ private slots:
         QCOMPARE(label(u"LBEstado"_s), u"Ejercicios: 2 Errores: 1"_s);
         BoxAnswerer boxes(u"Aceptar"_s);
         bench->click(u"Command2(0)"_s);
-        QCOMPARE(boxes.texts, {NoneText});
+        QCOMPARE(boxes.texts, {EmptyText});
+    }
+
+    void theAnswerBoxSaysHowToWriteThousands()
+    {
+        open(1);
+        QCOMPARE(bench->control<QLineEdit>(u"TBRespuesta"_s).toolTip(),
+            u"Escriba el número sin puntos ni espacios: 1200"_s);
     }
 
     void aLineThatCannotBePreparedIsToldOnceTheScreenIsUp()
@@ -457,7 +464,7 @@ private slots:
         bench->screens.loaded(u"DLGProblemas"_s)->close();
         BoxAnswerer boxes(u"Aceptar"_s);
         bench->click(u"Command2(0)"_s);
-        QCOMPARE(boxes.texts, {NoneText});
+        QCOMPARE(boxes.texts, {EmptyText});
         QCOMPARE(statement(), u"P1"_s);
     }
 
@@ -615,6 +622,9 @@ private slots:
 
 private:
     const QString NoneText = u"No hay ningún problema que cumpla la selección."_s;
+    const QString EmptyText =
+        u"El banco de problemas está vacío o falta su archivo, «Problemas3.dat». "
+        "Añada problemas en «Gestión de problemas...»."_s;
 
     /// Draws that fall on these lines of a bank of this size.
     void script(std::initializer_list<int> indexes, int size)

@@ -213,6 +213,16 @@ private slots:
 
     // --- nothing to draw
 
+    void anEmptyBankIsToldByItsOwnSentence()
+    {
+        session->setBank({});
+        session->CargaDatos(2, 1);
+        QCOMPARE(failure(),
+            u"El banco de problemas está vacío o falta su archivo, «Problemas3.dat». "
+            "Añada problemas en «Gestión de problemas...»."_s);
+        QCOMPARE(calls, 0);
+    }
+
     void noProblemOfTheSelection_data()
     {
         QTest::addColumn<QStringList>("operations");
@@ -224,7 +234,6 @@ private slots:
         QTest::newRow("any of none") << all << 1 << 0;
         QTest::newRow("all: nowhere together") << all << 2 << 3;
         QTest::newRow("unknown mode") << all << 3 << 15;
-        QTest::newRow("no bank") << QStringList() << 0 << 0;
     }
     void noProblemOfTheSelection()
     {

@@ -197,11 +197,25 @@ private slots:
     {
         QFETCH(QString, text);
         ScriptedRandom random{0, 0};
-        DataValues data{};
         const QString all =
-            problems::replaceMarkers(u"[7_7] [2_2]:"_s + text, data, random, Evaluator);
+            problems::replaceMarkers(u"[7_7] [2_2]:"_s + text, random, Evaluator).text;
         QCOMPARE(all.left(4), u"7 2:"_s);
         QTEST(all.mid(4), "result");
+    }
+
+    void tellsHowItsMarkersWereWorkedOut()
+    {
+        ScriptedRandom random{0, 0};
+        const auto worked =
+            problems::replaceMarkers(u"[7_9] [2_4] {&1/&2} {3-&3} (1-2)"_s, random, Evaluator);
+        QCOMPARE(worked.text, u"7 2 4 3 -1"_s);
+        QCOMPARE(worked.dataMarkers, (QStringList{u"[7_9]"_s, u"[2_4]"_s}));
+        QCOMPARE(worked.data[0], 7);
+        QCOMPARE(worked.data[1], 2);
+        QStringList computed;
+        for (const auto& value : worked.computed)
+            computed << u"%1 %2 %3"_s.arg(value.marker).arg(value.value).arg(value.highestDatum);
+        QCOMPARE(computed, (QStringList{u"{&1/&2} 3.5 2"_s, u"{3-&3} 3 3"_s, u"(1-2) -1 0"_s}));
     }
 
     void aTextWithoutAClosingBracketDrawsNothing()

@@ -1,56 +1,51 @@
 #include "core/random.h"
 #include "problems/bank.h"
+#include "problems/bank_check.h"
 #include "problems/bank_editor.h"
 #include "problems/expression.h"
 #include "problems/problem_template.h"
+#include "problems/used_operations.h"
 #include "support/scripted_random.h"
 
 #include <QtTest>
 
-#include <cmath>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 using problems::Problem;
 
 namespace {
 
-constexpr int Rounds = 1'000;
+constexpr int Rounds = 300;
 
-/// The expressions in a line's {...} markers, with the data put in.
-QStringList expressions(QString line, const problems::DataValues& data)
+struct Set {
+    QString operations;
+    int least; ///< problems with just these operations
+};
+
+/// Every set that the selection dialog can ask for, in the order of the file.
+const std::array Sets{Set{u"*"_s, 24}, Set{u"/"_s, 24}, Set{u"+"_s, 24}, Set{u"-"_s, 24},
+    Set{u"*+"_s, 18}, Set{u"*-"_s, 18}, Set{u"*/"_s, 18}, Set{u"/+"_s, 18}, Set{u"/-"_s, 18},
+    Set{u"+-"_s, 18}, Set{u"*/+"_s, 10}, Set{u"*/-"_s, 10}, Set{u"*+-"_s, 10}, Set{u"/+-"_s, 10},
+    Set{u"*/+-"_s, 10}};
+
+QString faultsText(const std::vector<problems::TemplateFault>& faults)
 {
-    static const QRegularExpression datum(u"\\[[^]]*\\]"_s);
-    static const QRegularExpression marker(u"\\{([^}]*)\\}"_s);
-    auto value = data.begin();
-    for (auto match = datum.match(line); match.hasMatch(); match = datum.match(line))
-        line.replace(match.capturedStart(), match.capturedLength(), QString::number(*value++));
-    QStringList found;
-    for (const auto& match : marker.globalMatch(line)) {
-        QString expression = match.captured(1);
-        for (std::size_t n = data.size(); n >= 1; --n)
-            expression.replace(u"&%1"_s.arg(n), QString::number(data[n - 1]));
-        found << expression;
-    }
-    return found;
+    QStringList texts;
+    for (const auto& fault : faults)
+        texts << fault.text;
+    return texts.join(u'\n');
 }
 
-/// What a pupil has to work out: the answer's expression over &1, &2 …, in which a number
-/// that the statement shows worked out is one number, N.
-QString visibleExpression(QString line)
+/// The largest number that a text shows.
+int largestNumber(const QString& text)
 {
-    static const QRegularExpression datum(u"\\[[^]]*\\]"_s);
-    static const QRegularExpression marker(u"\\{([^}]*)\\}"_s);
-    for (int n = 1; line.contains(datum); ++n) {
-        const auto match = datum.match(line);
-        line.replace(match.capturedStart(), match.capturedLength(), u"&%1"_s.arg(n));
-    }
-    const problems::TemplateFields fields = problems::splitLine(line);
-    QString answer = fields.answer;
-    for (const auto& shown : marker.globalMatch(fields.statement)) {
-        const QString escaped = QRegularExpression::escape(shown.captured(1));
-        answer.replace(QRegularExpression(u"(?<![0-9&])%1(?![0-9])"_s.arg(escaped)), u"N"_s);
-    }
-    return answer;
+    static const QRegularExpression number(u"[0-9]+"_s);
+    int largest = 0;
+    for (const auto& match : number.globalMatch(text))
+        largest = std::max(largest, match.captured().toInt());
+    return largest;
 }
 
 } // namespace
@@ -65,20 +60,31 @@ private:
     const problems::ExpressionEvaluator evaluator{u"VBScript"_s};
 
 private slots:
-    void hasEnoughProblemsOfEveryKind()
+    void hasEnoughProblemsOfEverySet()
     {
-        QVERIFY(lines.size() >= 160);
+        QVERIFY(lines.size() >= 300);
         QCOMPARE(QSet<QString>(lines.begin(), lines.end()).size(), lines.size());
-        for (std::size_t i = 0; i < 4; ++i) {
-            for (std::size_t j = i; j < 4; ++j) {
-                const auto both =
-                    std::count_if(lines.begin(), lines.end(), [&](const auto& line) {
-                        const QStringView operations = problems::CampoOperaciones(line);
-                        return operations.contains(problems::OperationSigns[i])
-                            && operations.contains(problems::OperationSigns[j]);
-                    });
-                QVERIFY2(both >= (i == j ? 40 : 15), qPrintable(u"%1 %2"_s.arg(i).arg(j)));
-            }
+        qsizetype counted = 0;
+        for (const Set& set : Sets) {
+            const auto count = std::ranges::count_if(lines, [&](const QString& line) {
+                return problems::CampoOperaciones(line) == set.operations;
+            });
+            QVERIFY2(count >= set.least,
+                qPrintable(u"%1: %2"_s.arg(set.operations, QString::number(count))));
+            counted += count;
+        }
+        QCOMPARE(counted, lines.size());
+    }
+
+    void isOrderedBySets()
+    {
+        qsizetype before = 0;
+        for (const QString& line : lines) {
+            const QString operations = problems::CampoOperaciones(line).toString();
+            const auto set = std::ranges::find(Sets, operations, &Set::operations);
+            const qsizetype place = set - Sets.begin();
+            QVERIFY2(place >= before, qPrintable(line));
+            before = place;
         }
     }
 
@@ -98,55 +104,110 @@ private slots:
         }
     }
 
-    void everyProblemWorksOutWithEveryDraw()
+    void answersVaryAndAreOfFourFiguresAtMost()
     {
-        static const QRegularExpression leftOver(u"[][{}()&|_]"_s);
         core::SeededRandom random;
-        random.seed(20'260);
+        random.seed(20'261);
         for (const QString& line : lines) {
+            QSet<int> answers;
             for (int round = 0; round < Rounds; ++round) {
                 const Problem problem = problems::InstanciarProblema(line, random, evaluator);
-                QVERIFY2(!(problem.statement + problem.unit).contains(leftOver),
-                    qPrintable(problem.statement));
-                QVERIFY2(problem.answer >= 0 && problem.answer <= 32'767, qPrintable(line));
-                for (const QString& expression : expressions(line, problem.data)) {
-                    const double value = evaluator.evaluate(expression);
-                    QVERIFY2(value == std::floor(value), qPrintable(line + expression));
-                }
+                answers.insert(problem.answer);
+                QVERIFY2(problem.answer > 0 && problem.answer < 10'000, qPrintable(line));
+                QVERIFY2(largestNumber(problem.statement) < 10'000, qPrintable(line));
             }
+            QVERIFY2(answers.size() >= 5, qPrintable(line));
         }
     }
 
     void operationsAreThoseOfTheAnswer()
     {
-        for (const QString& line : lines) {
-            const QString expression = visibleExpression(line);
-            QString signs;
-            for (const char16_t sign : problems::OperationSigns) {
-                if (expression.contains(sign) || (sign == u'/' && expression.contains(u'\\')))
-                    signs += sign;
-            }
-            QVERIFY2(signs == problems::CampoOperaciones(line),
-                qPrintable(signs + u" in "_s + expression + u": "_s + line));
-        }
+        for (const QString& line : lines)
+            QVERIFY2(problems::usedOperations(line) == problems::operationsOf(QStringView(line)),
+                qPrintable(line));
     }
 
-    void examplesOfTheManualWorkOut()
+    void theManualTellsHowManyItHas()
+    {
+        static const QRegularExpression number(u"El programa trae ([0-9]+) problemas"_s);
+        QCOMPARE(number.match(text(PIZARRIN_MANUAL)).captured(1).toInt(), lines.size());
+    }
+
+    void thePageForTheClassroomTellsWhereTheyAre()
+    {
+        static const QRegularExpression row(
+            u"<tr><th>([^<]*)</th>((?:<td>[^<]*</td>){4})<td>([0-9]+)</td></tr>"_s);
+        static const QRegularExpression cell(u"<td>([0-9]+) \\(([0-9]+)(?:–([0-9]+))?\\)</td>"_s);
+        qsizetype next = 0;
+        for (const auto& match : row.globalMatch(text(PIZARRIN_CLASSROOM_PAGE))) {
+            QString operations = match.captured(1);
+            if (!operations.contains(u' ') && operations.size() > 1)
+                continue; // the last row adds up
+            operations.remove(u' ').replace(u'×', u'*').replace(u'÷', u'/').replace(u'−', u'-');
+            const qsizetype before = next;
+            for (const auto& range : cell.globalMatch(match.captured(2))) {
+                const int first = range.captured(2).toInt();
+                const int last = range.captured(3).isEmpty() ? first : range.captured(3).toInt();
+                QCOMPARE(first, next + 1);
+                QCOMPARE(range.captured(1).toInt(), last - first + 1);
+                for (; next < last; ++next)
+                    QCOMPARE(problems::CampoOperaciones(lines.at(next)), operations);
+            }
+            QCOMPARE(match.captured(3).toInt(), next - before);
+        }
+        QCOMPARE(next, lines.size());
+    }
+
+    void gradesHaveLikeShares()
+    {
+        static const QRegularExpression total(
+            u"<tr><th>en total</th>((?:<td>[0-9]+</td>){4})<td>([0-9]+)</td></tr>"_s);
+        static const QRegularExpression number(u"[0-9]+"_s);
+        const auto match = total.match(text(PIZARRIN_CLASSROOM_PAGE));
+        QCOMPARE(match.captured(2).toInt(), lines.size());
+        int sum = 0;
+        for (const auto& grade : number.globalMatch(match.captured(1))) {
+            const int count = grade.captured().toInt();
+            QVERIFY2(5 * count >= lines.size() && 10 * count <= 3 * lines.size(),
+                qPrintable(grade.captured())); // 20 % to 30 %
+            sum += count;
+        }
+        QCOMPARE(sum, lines.size());
+    }
+
+    void theManualTellsWhatTheEditorProposes()
+    {
+        static const QRegularExpression example(
+            u"`([^`\n]*(?:\\|[^`\n]*){3})`(?:(?!`[^`]*\\|).)*?"
+            "El programa (no )?propone ([^.]*)\\."_s,
+            QRegularExpression::DotMatchesEverythingOption);
+        const std::array names{u"«Mult»"_s, u"«Div»"_s, u"«Sum»"_s, u"«Rest»"_s};
+        int examples = 0;
+        for (const auto& match : example.globalMatch(text(PIZARRIN_MANUAL))) {
+            ++examples;
+            problems::TemplateFields fields = problems::splitLine(match.captured(1));
+            fields.operations = {};
+            problems::markFromStatement(fields);
+            problems::markFromAnswer(fields);
+            for (std::size_t k = 0; k < names.size(); ++k)
+                QVERIFY2(fields.operations[k] == match.captured(3).contains(names[k]),
+                    qPrintable(match.captured()));
+        }
+        QCOMPARE(examples, 4);
+    }
+
+    void theCheckerFindsNothingInTheExamplesOfTheManual()
     {
         static const QRegularExpression example(u"`([^`\n]*(?:\\|[^`\n]*){3})`"_s);
         core::SeededRandom random;
         int examples = 0;
-        for (const auto& match : example.globalMatch(manual())) {
+        for (const auto& match : example.globalMatch(text(PIZARRIN_MANUAL))) {
             ++examples;
-            for (int round = 0; round < Rounds; ++round) {
-                const Problem problem =
-                    problems::InstanciarProblema(match.captured(1), random, evaluator);
-                QVERIFY2(problem.answer >= 0, qPrintable(match.captured(1)));
-                for (const QString& expression : expressions(match.captured(1), problem.data)) {
-                    const double value = evaluator.evaluate(expression);
-                    QVERIFY2(value == std::floor(value), qPrintable(expression));
-                }
-            }
+            const QString line = match.captured(1);
+            const auto faults = problems::checkLine(line, random, evaluator);
+            QVERIFY2(faults.empty(), qPrintable(line + u'\n' + faultsText(faults)));
+            QVERIFY2(problems::usedOperations(line) == problems::operationsOf(QStringView(line)),
+                qPrintable(line));
         }
         QCOMPARE(examples, 10);
     }
@@ -157,7 +218,7 @@ private slots:
             u"`([^`\n]*(?:\\|[^`\n]*){3})`\\s+Con ([0-9, y]+): «([^»]*)»\\s+"
             "Respuesta:[^.\n]*?([0-9]+)\\."_s);
         int examples = 0;
-        for (const auto& match : example.globalMatch(manual())) {
+        for (const auto& match : example.globalMatch(text(PIZARRIN_MANUAL))) {
             ++examples;
             ScriptedRandom random = drawing(match.captured(2), match.captured(1));
             const Problem problem =
@@ -170,9 +231,9 @@ private slots:
     }
 
 private:
-    static QString manual()
+    static QString text(const char* path)
     {
-        QFile file(QString::fromUtf8(PIZARRIN_MANUAL));
+        QFile file(QString::fromUtf8(path));
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 

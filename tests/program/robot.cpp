@@ -13,14 +13,11 @@
 #include <QMenu>
 #include <QMessageBox>
 
-#include <csignal>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr unsigned LongestStep = 60; // seconds, before the walk counts as hung
+constexpr std::chrono::seconds LongestStep(60); // before the walk counts as hung
 
 const QStringList Texts{u"0"_s, u"7"_s, u"12"_s, u"144"_s, u"-3"_s, u"2,5"_s, u"99999999999"_s,
     u"-2147483648"_s, u"1e9"_s, u"nan"_s, u"inf"_s, u"ñandú"_s, u"漢字"_s, u"😀"_s, u"a\nb\r\nc"_s,
@@ -38,6 +35,7 @@ Robot::Robot(ui::Screens& screens, unsigned seed, int actions)
     : m_screens(screens)
     , m_engine(seed)
     , m_left(actions)
+    , m_watchdog(LongestStep)
 {
 }
 
@@ -47,7 +45,6 @@ int Robot::run()
         this, [this] { step(); }, Qt::QueuedConnection);
     QApplication::exec();
     QCoreApplication::removePostedEvents(this);
-    alarm(0);
     return m_left;
 }
 
@@ -63,7 +60,7 @@ template <typename List> auto Robot::any(const List& list)
 
 void Robot::step()
 {
-    alarm(LongestStep); // ends the program when nothing comes back any more
+    m_watchdog.feed();
     if (m_left-- <= 0) {
         m_left = 0;
         m_screens.unload(u"Form1"_s);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/watchdog.h"
 #include "ui/screens.h"
 
 #include <QObject>
@@ -40,4 +41,5 @@ private:
     ui::Screens& m_screens;
     std::mt19937 m_engine;
     int m_left;
+    Watchdog m_watchdog;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/fake_clock.h"
 #include "ui/handler_guard.h"
 
 #include <QStringList>
@@ -9,7 +10,7 @@
 class BareGuard : public QWidget, public ui::HandlerGuard {
 public:
     BareGuard()
-        : HandlerGuard(static_cast<QWidget&>(*this))
+        : HandlerGuard(static_cast<QWidget&>(*this), clock)
     {
     }
 
@@ -17,6 +18,7 @@ public:
     using HandlerGuard::run;
     using HandlerGuard::shut;
 
+    FakeClock clock;
     QStringList reports;
     std::function<void()> whenReporting;
     std::function<bool()> whenFinishing;

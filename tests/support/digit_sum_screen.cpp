@@ -24,9 +24,9 @@ FrmSuma::FrmSuma(ui::Screens& screens)
     TbRespuesta =
         entryBox(u"TbRespuesta"_s, {3000, 300, 1500, 510}, ui::look::Instruction, u"Respuesta"_s);
     enterChecks(TbRespuesta);
-    TbResultado = verdictBox(u"TbResultado"_s, {300, 1050, 4200, 510}, u"Resultado"_s);
+    TbResultado = verdictBox(u"TbResultado"_s, {300, 1050, 4200, 510}, u"Comprobación"_s);
     TbEjercicios = displayBox(u"TbEjercicios"_s, {300, 2850, 5400, 510}, ui::look::Counters,
-        u"Contadores"_s, m_model.counters().FormatoSimple());
+        u"Ejercicios y errores"_s, m_model.counters().FormatoSimple());
     makeCommands({.check = {300, 1950, 1200, 510},
         .next = {3000, 1950, 1200, 510},
         .clear = {1650, 1950, 1200, 510},

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs a command in real windows: on a display of its own with a window manager, and with the
 # desktop's accessibility services awake. DISPLAY_SIZE is the size of the display: 1024x600.
+# WINDOW_PLATFORM is what the toolkit calls the system of the windows, xcb unless set.
 set -euo pipefail
 
 if [ "$1" != --on-bus ]; then
@@ -27,4 +28,4 @@ read -r _ <"$XDG_RUNTIME_DIR/managed"
 dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
   org.a11y.Bus.GetAddress >/dev/null
 
-QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 LC_ALL=C.UTF-8 "$@"
+QT_QPA_PLATFORM=${WINDOW_PLATFORM:-xcb} QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 LC_ALL=C.UTF-8 "$@"

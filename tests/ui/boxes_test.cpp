@@ -5,6 +5,7 @@
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class BoxesTest : public QObject {
     Q_OBJECT
@@ -162,6 +163,42 @@ private slots:
         QCOMPARE(clicks, 1);
     }
 
+    void aBoxThatCameUpByItselfTakesNothingAtFirst_data()
+    {
+        QTest::addColumn<bool>("question");
+        QTest::newRow("message") << false;
+        QTest::newRow("question") << true;
+    }
+    void aBoxThatCameUpByItselfTakesNothingAtFirst()
+    {
+        QFETCH(bool, question);
+        bench->clock.passingWithEachLook = 0ms;
+        screen->whenTicked = [&] { openBox(question ? 1 : 0); };
+        BoxAnswerer boxes{question ? u"Sí"_s : u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) {
+            bench->clock.passed += 799ms;
+            tryToLeave(box);
+            QVERIFY(box.isVisible());
+            bench->clock.passed += 1ms;
+        };
+        bench->tick(u"Timer1"_s);
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+
+    void aBoxThatWasAskedForTakesKeysAtOnce()
+    {
+        bench->clock.passingWithEachLook = 0ms;
+        screen->whenTicked = [] {};
+        bench->tick(u"Timer1"_s);
+        screen->whenClicked = [&] { openBox(0); };
+        BoxAnswerer boxes{u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) {
+            QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+            QVERIFY(!box.isVisible());
+        };
+        screen->command->click();
+    }
+
     void handlerEndsBehindABoxWhenItsScreenWentAway()
     {
         bool wentOn = false;
@@ -253,6 +290,19 @@ private:
             ui::MessageBox::ask(*screen, u"a"_s);
         else
             ui::InputBox::ask(*screen, u"a"_s, u"b"_s);
+    }
+
+    /// Every way out of a box but a button's click by a program.
+    static void tryToLeave(QDialog& box)
+    {
+        auto* button = box.findChild<QPushButton*>();
+        QTest::mouseClick(button, Qt::LeftButton);
+        const QPoint place = button->mapTo(&box, button->rect().center());
+        QTest::mouseClick(box.windowHandle(), Qt::LeftButton, {}, place);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Escape})
+            QTest::keyClick(box.windowHandle(), key);
+        QTest::keyClick(box.windowHandle(), Qt::Key_F4, Qt::AltModifier);
+        QTest::keyClick(button, Qt::Key_Return);
     }
 
     std::unique_ptr<ScreenBench> bench;

@@ -25,14 +25,6 @@ private slots:
         QCOMPARE(clicks, 3);
     }
 
-    void heldEnterClicksNothing()
-    {
-        screen->command->setFocus();
-        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-        QApplication::sendEvent(screen->command, &repeat);
-        QCOMPARE(clicks, 0);
-    }
-
     void enterInAnotherBoxClicksNothing()
     {
         screen->entry->setFocus();

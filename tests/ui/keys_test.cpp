@@ -71,6 +71,12 @@ private slots:
         QCOMPARE(typed(Qt::Key_H, u"h"_s, Qt::AltModifier), QChar());
         QCOMPARE(typed(Qt::Key_V, u"v"_s, Qt::ControlModifier), QChar());
         QCOMPARE(typed(Qt::Key_V, u"\x16"_s, Qt::ControlModifier), QChar());
+        // What AltGr is on some systems.
+        constexpr auto AltGr = Qt::AltModifier | Qt::ControlModifier;
+        QCOMPARE(typed(Qt::Key_BracketLeft, u"["_s, AltGr), QChar(u'['));
+        QCOMPARE(typed(Qt::Key_BraceLeft, u"{"_s, AltGr | Qt::ShiftModifier), QChar(u'{'));
+        QCOMPARE(typed(Qt::Key_V, u"\x16"_s, AltGr), QChar());
+        QCOMPARE(typed(Qt::Key_V, {}, AltGr), QChar());
     }
 
     void downPressAndUpAreThreeEvents()

@@ -175,6 +175,36 @@ private slots:
         QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto"_s);
     }
 
+    void whatBelongsToTheLastExpressionIsFaded()
+    {
+        const auto& verdict = bench->control<QLineEdit>(u"Text1"_s);
+        const auto& result = bench->control<QLineEdit>(u"TBResultado"_s);
+        answer(u"10"_s);
+        const QColor fresh = textColour(result);
+        QCOMPARE(textColour(verdict), fresh);
+
+        script({5, 3, 4, 2, 6, 3}, {1, 3, 4}); // 10 again
+        bench->click(u"Command2(0)"_s);
+        for (const QLineEdit* box : {&verdict, &result}) {
+            QVERIFY(textColour(*box) != fresh);
+            QVERIFY(ui::look::contrast(textColour(*box), QColor(ui::look::Paper)) >= 4.5);
+        }
+        QCOMPARE(result.selectedText(), u"10"_s);
+        QCOMPARE(result.palette().color(QPalette::HighlightedText), textColour(result));
+
+        bench->key(u"TBResultado"_s, Qt::Key_Return); // judged for the new expression
+        QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto"_s);
+        QCOMPARE(textColour(verdict), fresh);
+        QCOMPARE(textColour(result), fresh);
+
+        script({2, 2, 2, 2, 2, 2}, {2, 2, 2});
+        bench->click(u"Command2(0)"_s);
+        QVERIFY(textColour(result) != fresh);
+        bench->type(u"TBResultado"_s, u"0"_s);
+        QCOMPARE(textColour(result), fresh);
+        QVERIFY(textColour(verdict) != fresh); // until the next check
+    }
+
     void clearEmptiesTheAnswerAlone()
     {
         answer(u"11"_s);
@@ -302,6 +332,8 @@ private:
     {
         return bench->control<QPushButton>(name).text();
     }
+
+    static QColor textColour(const QLineEdit& box) { return box.palette().color(QPalette::Text); }
 
     static QString toolTip(QWidget& widget)
     {

@@ -33,7 +33,11 @@ private slots:
     void solutionWithProductsAndDecimals();
     void clearKeepsTheExercise();
     void continueBringsAPendingExercise();
+    void continueGoesToTheWork();
 
+    void aPressBesideTheStripWritesInIt_data();
+    void aPressBesideTheStripWritesInIt();
+    void toolTipSaysHowToWrite();
     void keysOverwriteOneCell();
     void dividendLineIsUntouchable();
     void enterBackspaceAndStopWriteBlanks();
@@ -329,7 +333,61 @@ void LongDivisionScreenTest::continueBringsAPendingExercise()
     QCOMPARE(text("tbResultados"), u"Ejercicios:  1; Errores:  1"_s);
 }
 
+void LongDivisionScreenTest::continueGoesToTheWork()
+{
+    script(60, 5);
+    m_bench->click(u"Command2(0)"_s);
+    QCOMPARE(m_bench->focusName(), u"Text1"_s);
+    QCOMPARE(text("Text4"), u"60 ÷ 5"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u"1 "_s); // Space draws no other exercise
+    QCOMPARE(line(0), u" 60   "_s);
+    QTest::keyClick(QApplication::focusWidget(), '1');
+    QCOMPARE(line(1), u" 1    "_s);
+}
+
 // --- the work area
+
+void LongDivisionScreenTest::aPressBesideTheStripWritesInIt_data()
+{
+    QTest::addColumn<QPoint>("square"); // of the strip; beside it, from -1 or from 6 on
+    QTest::addColumn<int>("position");
+
+    QTest::newRow("left of it") << QPoint(-3, 2) << 12;
+    QTest::newRow("right of it") << QPoint(8, 3) << 23;
+    QTest::newRow("above it, where nothing can be written") << QPoint(2, -1) << 8;
+    QTest::newRow("left of the dividend") << QPoint(-1, 0) << 6;
+    QTest::newRow("below it") << QPoint(4, 23) << 22 * 6 + 4;
+    QTest::newRow("beyond a corner") << QPoint(-2, 23) << 22 * 6;
+}
+
+void LongDivisionScreenTest::aPressBesideTheStripWritesInIt()
+{
+    QFETCH(QPoint, square);
+    QFETCH(int, position);
+    auto& sheet = m_bench->control<QWidget>(u"Sheet"_s);
+    m_bench->control<QWidget>(u"Text3"_s).setFocus();
+    const QRect first = work().cellRect(0);
+    const QPoint inStrip =
+        first.center() + QPoint(square.x() * first.width(), square.y() * first.height());
+    const QPoint at = sheet.mapFromGlobal(work().mapToGlobal(inStrip));
+    QVERIFY(sheet.rect().contains(at));
+    QTest::mouseClick(&sheet, Qt::RightButton, {}, at);
+    QCOMPARE(m_bench->focusName(), u"Text3"_s);
+    QTest::mouseClick(&sheet, Qt::LeftButton, {}, at);
+    QCOMPARE(m_bench->focusName(), u"Text1"_s);
+    QCOMPARE(work().cursorPosition(), position);
+    QTest::keyClick(QApplication::focusWidget(), '7');
+    QCOMPARE(work().toPlainText().indexOf(u'7'), position);
+    QCOMPARE(text("Text3"), QString());
+}
+
+void LongDivisionScreenTest::toolTipSaysHowToWrite()
+{
+    QCOMPARE(work().toolTip(),
+        u"Pulsa un cuadro o muévete con las flechas y escribe; la barra espaciadora deja el "
+        u"cuadro "
+        "en blanco"_s);
+}
 
 void LongDivisionScreenTest::keysOverwriteOneCell()
 {
@@ -628,7 +686,7 @@ void LongDivisionScreenTest::tooManyDigitsToDraw()
     m_bench->random.append({0.5f});
     m_bench->click(u"Command2(0)"_s);
     QCOMPARE(boxes.texts.last(),
-        u"Los números de 10 cifras son demasiado grandes para proponer una división. Elige otro "
+        u"Los números de 10 cifras son demasiado grandes para proponer una división. Elija otro "
         "número de cifras en el menú Opciones."_s);
     QCOMPARE(text("Text4"), u"1234567890 ÷ 7"_s);
 }

@@ -360,11 +360,33 @@ private slots:
         QTEST(model.judge({typed, {}}) == Verdict::Right, "right");
     }
 
-    void printsLargeProductsExactlyAndReadsThemBack()
+    void givesTheExactSolutionBeyond15Digits_data()
     {
-        LongMultiplication model = board(u"9999999999"_s, u"9999999999"_s);
-        QCOMPARE(model.resultText(), u"99999999980000002048"_s);
+        QTest::addColumn<QString>("factor1");
+        QTest::addColumn<QString>("factor2");
+        QTest::addColumn<QString>("product");
+        QTest::addColumn<QString>("firstRow");
+
+        QTest::newRow("eight digits by eight")
+            << u"99999999"_s << u"99999999"_s << u"9999999800000001"_s << u"899999991"_s;
+        QTest::newRow("ten digits by ten") << u"9999999999"_s << u"9999999999"_s
+                                           << u"99999999980000000001"_s << u"89999999991"_s;
+        QTest::newRow("a row that a double rounds")
+            << u"9007199254740991"_s << u"3"_s << u"27021597764222973"_s
+            << u"27021597764222973"_s;
+        QTest::newRow("negative")
+            << u"-99999999"_s << u"99999999"_s << u"-9999999800000001"_s << u"-899999991"_s;
+    }
+    void givesTheExactSolutionBeyond15Digits()
+    {
+        QFETCH(QString, factor1);
+        QFETCH(QString, factor2);
+        LongMultiplication model = board(factor1, factor2);
+        QTEST(model.showSolution(), "product");
+        QTEST(model.expectedRows().first(), "firstRow");
         QCOMPARE(model.judge({model.resultText(), model.expectedRows()}), Verdict::Right);
+        QVERIFY(model.judge({u"1"_s, model.expectedRows()}) == Verdict::Wrong);
+        QCOMPARE(model.wrongRows().size(), 0u);
     }
 
     void fullCountersAreReportedWithNothingCounted()

@@ -83,6 +83,8 @@ private slots:
     void answers();
     void shownMultiplesAreRight();
     void shownDivisorsAreWrongWhenOneOfThemIs1();
+    void threeInTenShownDivisorsHoldA1();
+    void eightNumbersHaveNoThreeDivisors();
     void aRepeatedVerdictChanges();
 };
 
@@ -289,6 +291,32 @@ void MultiplesDivisorsTest::shownDivisorsAreWrongWhenOneOfThemIs1()
     QCOMPARE(judge(divisorsOf({1, 2, 3})).first, Verdict::Wrong);
     QCOMPARE(judge(divisorsOf({2, 3, 1})).second, 2);
     QCOMPARE(judge(divisorsOf({2, 3, 5})).first, Verdict::Right);
+}
+
+void MultiplesDivisorsTest::threeInTenShownDivisorsHoldA1()
+{
+    int triples = 0;
+    int withA1 = 0;
+    for (int a = 1; a <= 10; ++a) {
+        for (int b = a + 1; b <= 10; ++b) {
+            for (int c = b + 1; c <= 10; ++c) {
+                ++triples;
+                withA1 += std::ranges::count(divisorsOf({a, b, c}).showSolution(), 1) > 0 ? 1 : 0;
+            }
+        }
+    }
+    QCOMPARE(triples, 120); // every order of a triple is as likely
+    QCOMPARE(withA1, 36);
+}
+
+void MultiplesDivisorsTest::eightNumbersHaveNoThreeDivisors()
+{
+    std::set<int> numbers;
+    for (const auto& [number, factors] : divisorNumbers()) {
+        if (properDivisors(number).size() < 3)
+            numbers.insert(number);
+    }
+    QCOMPARE(numbers, (std::set{6, 8, 10, 14, 15, 21, 27, 35}));
 }
 
 void MultiplesDivisorsTest::aRepeatedVerdictChanges()

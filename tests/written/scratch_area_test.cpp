@@ -54,6 +54,31 @@ private slots:
         }
     }
 
+    void noSquareIsCutOff_data() { everyCharacterStandsInItsSquare_data(); }
+
+    void noSquareIsCutOff()
+    {
+        QFETCH(double, factor);
+        ScratchArea area(nullptr);
+        prepare(area, factor, {});
+        for (const QSize& more : {QSize(0, 0), QSize(1, 1), QSize(11, 7), QSize(-17, -13)}) {
+            area.resize(area.size() + more);
+            const QImage picture = area.viewport()->grab().toImage();
+            for (const auto& [lines, length] : {std::pair(gridColumns(picture), picture.width()),
+                     {gridRows(picture), picture.height()}}) {
+                const int pen = std::max(1, static_cast<int>(factor));
+                QVERIFY(lines.first() < area.square() / 2);
+                QVERIFY(lines.last() + pen <= length);
+                QVERIFY(length - lines.last() - pen < area.square() / 2);
+                QCOMPARE(lines.last() - lines.first(), (lines.size() - 1) * area.square());
+            }
+            // Nothing of a further square above them.
+            const int first = gridRows(picture).first();
+            for (int y = 0; y < first; ++y)
+                QVERIFY(!isGrid(picture, gridColumns(picture).at(1), y));
+        }
+    }
+
     void theSquaresFollowTheText()
     {
         ScratchArea area(nullptr);
@@ -98,14 +123,15 @@ private:
         return picture.pixelColor(x, y) == QColor(ui::look::Grid);
     }
 
-    /// Where lines begin that go from edge to edge with nothing written on them.
+    /// Where lines begin that go all the way with nothing written on them.
     static QList<int> gridColumns(const QImage& picture)
     {
+        constexpr int Margin = 50; // beyond the first and the last line there is no square
         QList<int> columns;
         bool before = false;
         for (int x = 0; x < picture.width(); ++x) {
             bool line = true;
-            for (int y = 0; y < picture.height(); ++y)
+            for (int y = Margin; y < picture.height() - Margin; ++y)
                 line = line && isGrid(picture, x, y);
             if (line && !before)
                 columns << x;

@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# Tests the program for Windows under Wine: every test of the program, the screens' in real
+# windows too, then the archive and the installer that build.sh has left in dist/.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+. scripts/setup.sh
+. packaging/windows/setup.sh
+
+# The program may ask for no more libraries than Windows has had since version 10.
+check_imports() {
+  local strange
+  x86_64-w64-mingw32-objdump -p "$windows_build/bin/pizarrin.exe" |
+    sed -n 's/^\tDLL Name: //p' | tr '[:upper:]' '[:lower:]' | sort -u >"$windows_build/imports"
+  strange=$(grep -vxFf packaging/windows/imports.txt "$windows_build/imports" || true)
+  [ -z "$strange" ] || { echo "not on every Windows: $strange" >&2 && return 1; }
+}
+
+# The toolkit's display without windows reads its fonts from one folder.
+gather_fonts() {
+  local file
+  mkdir -p "$windows_build/fonts"
+  for file in /usr/share/fonts/truetype/{liberation,dejavu,andika}*/*.ttf; do
+    ln -sf "$file" "$windows_build/fonts"
+  done
+}
+
+summarise() { # log
+  grep -A 1 'tests passed' "build/$1.log"
+}
+
+configure_windows wine wine64 unzip xvfb openbox dbus-daemon dbus-bin at-spi2-core xdotool \
+  imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika
+build_windows
+check_imports
+gather_fonts
+export QT_QPA_FONTDIR=$PWD/$windows_build/fonts
+quietly "preparar wine" packaging/windows/wine.sh cmd /c ver
+quietly "probar wine" ctest --test-dir "$windows_build" -LE windows -j "$(nproc)"
+summarise probar-wine
+# One after the other: a Wine has one display.
+quietly "probar wine en ventanas" ctest --test-dir "$windows_build" -L windows
+summarise probar-wine-en-ventanas
+quietly "recorrer wine" tests/support/on_display.sh packaging/windows/walk.sh \
+  dist/Pizarrin-*-windows.zip dist/Pizarrin-*-setup.exe "$windows_build/pictures"
+tail -n 1 build/recorrer-wine.log

@@ -1,0 +1,187 @@
+#!/usr/bin/env bash
+# Uses the archive and the installer under Wine as a school does: opens every activity in real
+# windows, with the keyboard alone, and saves the bank, beside the program where that can be
+# written and in the shared folder where not; installs and uninstalls.
+#   walk.sh ARCHIVE INSTALLER PICTURES
+# on the display DISPLAY, which has a window manager. PICTURES is a folder for pictures of the
+# windows.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+archive=$1
+installer=$2
+pictures=$3
+
+# Permissions stop nothing where root runs this: then a copy of it goes on as somebody else.
+if [ "$(id -u)" -eq 0 ]; then
+  work=$(mktemp -d)
+  trap 'rm -rf "$work"' EXIT
+  cp "$archive" "$installer" "$here/walk.sh" "$here/wine.sh" "$work"
+  mkdir -p "$work/pictures"
+  chown -R 65534:65534 "$work"
+  status=0
+  HOME=$work setpriv --reuid 65534 --regid 65534 --clear-groups "$work/walk.sh" \
+    "$work/$(basename "$archive")" "$work/$(basename "$installer")" "$work/pictures" || status=$?
+  mkdir -p "$pictures"
+  cp "$work"/pictures/* "$pictures"
+  exit "$status"
+fi
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export WINEPREFIX=$work/wine
+mkdir -p "$pictures"
+drive=$WINEPREFIX/drive_c
+installed="$drive/Program Files/Pizarrin"
+shared=$drive/ProgramData/Pizarrin/Recursos
+shortcut="$drive/ProgramData/Microsoft/Windows/Start Menu/Programs/Pizarrin.lnk"
+
+fail() {
+  echo "walk.sh: $*" >&2
+  import -window root "$pictures/fallo.png"
+  exit 1
+}
+
+# Asks until it is so, and gives up after a minute.
+until_so() { # what is wrong else, command...
+  local what=$1 i
+  shift
+  for ((i = 0; i < 600; ++i)); do
+    "$@" && return
+    sleep 0.1
+  done
+  fail "$what"
+}
+
+active() { xdotool getactivewindow 2>/dev/null || echo none; }
+is_active() { [ "$(active)" = "$1" ]; }
+is_other() { [ "$(active)" != none ] && ! is_active "$1"; }
+is_painted() { # a window of one colour or two is not there yet
+  local colours
+  colours=$(import -window "$(active)" -format %k info: 2>/dev/null) && [ "${colours:-0}" -ge 8 ]
+}
+
+picture() { # name
+  until_so "$1 stays blank" is_painted
+  import -window root "$pictures/$1.png"
+}
+
+start() { # program, name of the picture
+  "$here/wine.sh" "$1" &
+  until_so "the menu of $1 does not come up" is_other none
+  menu=$(active)
+  picture "$2"
+}
+
+# What comes up over a window, other than the window itself.
+press() { # keys...
+  local before
+  before=$(active)
+  xdotool key "$@"
+  until_so "nothing comes up after $*" is_other "$before"
+}
+
+close_down_to() { # window
+  local over
+  while ! is_active "$1"; do
+    over=$(active)
+    [ "$over" = none ] && continue
+    xdotool key alt+F4
+    until_so "a window does not close" eval "! is_active $over"
+  done
+}
+
+leave() {
+  xdotool key alt+F4
+  wait
+}
+
+open_activities() {
+  local name
+  for name in suma-repetida tablas tablas-rapidas completa-el-hueco multiplos-y-divisores \
+      multiplicaciones divisiones problemas operaciones-combinadas lluvia-de-numeros \
+      la-gran-carrera; do
+    press Return
+    picture "$name"
+    close_down_to "$menu"
+    xdotool key Tab
+  done
+}
+
+save_bank() { # name of the picture
+  xdotool key alt+p
+  until_so "the problems do not come up" is_other "$menu"
+  is_painted
+  press alt+o g
+  picture "$1"
+  xdotool key shift+Tab shift+Tab space # to "Aceptar"
+  close_down_to "$menu"
+}
+
+walk_archive() {
+  local folder="$work/Memoria USB/Año 3.º"
+  unzip -q "$archive" -d "$folder"
+  cd "$folder"/*
+  start pizarrin.exe menu
+  open_activities
+  save_bank gestion
+  leave
+  [ -e Recursos/Problemas3.bak ] || fail "the bank beside the program was not saved"
+  cmp Recursos/Problemas3.dat Recursos/Problemas3.bak || fail "the save changed the bank"
+  [ ! -e "$shared" ] || fail "the bank was saved to the shared folder"
+}
+
+install_silently() { # switch for whom
+  "$here/wine.sh" "$installer" /S "$1"
+}
+
+show_installer() {
+  "$here/wine.sh" "$installer" &
+  until_so "the installer does not come up" is_other none
+  picture instalador
+  xdotool key Return
+  sleep 1
+  picture instalador-usuarios
+  xdotool key Escape
+  wait
+}
+
+walk_installed() {
+  install_silently /AllUsers
+  [ -e "$shortcut" ] || fail "no entry in the start menu"
+  chmod -w "$installed/Recursos"
+  cd "$installed"
+  start pizarrin.exe menu-instalado
+  save_bank gestion-instalado
+  leave
+  cd "$work"
+  chmod +w "$installed/Recursos"
+  cmp "$shared/Problemas3.dat" "$installed/Recursos/Problemas3.dat" ||
+    fail "the bank was not saved to the shared folder"
+}
+
+uninstall() { # switch for whom, folder
+  "$here/wine.sh" "$2/desinstalar.exe" "$1" /S
+  until_so "the program stays installed" eval "[ ! -e '$2/pizarrin.exe' ]"
+  until_so "its folder stays" eval "[ ! -e '$2/desinstalar.exe' ]"
+}
+
+walk_uninstaller() {
+  uninstall /AllUsers "$installed"
+  until_so "an unchanged bank stays" eval "[ ! -e '$installed' ]"
+  [ ! -e "$shortcut" ] || fail "the entry in the start menu stays"
+  [ -e "$shared/Problemas3.dat" ] || fail "the shared bank went"
+
+  local own
+  install_silently /CurrentUser
+  own=$(dirname "$(find "$drive/users" -name pizarrin.exe)")
+  echo 'Uno más|1||*' >>"$own/Recursos/Problemas3.dat"
+  install_silently /CurrentUser # over it
+  uninstall /CurrentUser "$own"
+  tail -n 1 "$own/Recursos/Problemas3.dat" | grep -q 'Uno m' || fail "a changed bank went"
+}
+
+walk_archive
+show_installer
+walk_installed
+walk_uninstaller
+echo "Windows: 11 actividades abiertas, banco guardado, instalado y desinstalado"

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace core {
+
+/// Whether files can be made in a folder: tried, for permissions do not always tell.
+bool canWriteIn(const QString& folder);
+
+/// Whether an existing file can be written; tried, without changing it.
+bool canWrite(const QString& file);
+
+/// Where all users of the computer can share a problem bank, on systems that install programs
+/// into folders that nobody may write; empty on the others.
+QString commonBankFolder();
+
+} // namespace core

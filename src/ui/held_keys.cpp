@@ -1,0 +1,115 @@
+#include "ui/held_keys.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace ui {
+
+namespace {
+
+/// The physical key, where the platform tells it: Shift changes what a key means while it is
+/// down.
+quint32 keyOf(const QKeyEvent& event)
+{
+    const quint32 physical = event.nativeScanCode();
+    return physical != 0 ? physical : static_cast<quint32>(event.key());
+}
+
+QObject* controlWithKeyboard()
+{
+    if (QObject* popup = QApplication::activePopupWidget())
+        return popup;
+    return QGuiApplication::focusObject();
+}
+
+bool movesOrErases(const QKeyEvent& event)
+{
+    if (event.modifiers() & Qt::AltModifier)
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+HeldKeys::HeldKeys(QObject* application)
+    : QObject(application)
+{
+    application->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] {
+        for (auto& [key, press] : m_presses)
+            press.dead = true;
+    });
+}
+
+// Only what comes to a window: there a key comes by once, on its way to whatever control.
+bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!watched->isWindowType())
+        return false;
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+        if (pressCounts(*static_cast<QKeyEvent*>(event)))
+            return false;
+        event->accept(); // else the toolkit would look for a shortcut
+        return true;
+    case QEvent::KeyRelease:
+        return !releaseCounts(*static_cast<QKeyEvent*>(event));
+    default:
+        return false;
+    }
+}
+
+bool HeldKeys::pressCounts(const QKeyEvent& event)
+{
+    const quint32 key = keyOf(event);
+    QObject* control = controlWithKeyboard();
+    if (!isRepeat(event)) {
+        m_presses[key] = {control};
+        return true;
+    }
+    const auto found = m_presses.find(key);
+    if (found == m_presses.end())
+        return false;
+    Press& press = found->second;
+    press.releasedAt = 0;
+    return !press.dead && press.control == control && movesOrErases(event);
+}
+
+bool HeldKeys::releaseCounts(const QKeyEvent& event)
+{
+    const auto found = m_presses.find(keyOf(event));
+    if (event.isAutoRepeat() || found == m_presses.end())
+        return false;
+    found->second.releasedAt = event.timestamp();
+    return !found->second.dead;
+}
+
+// X11 repeats a key as a release and a press of the same time. When the toolkit reads the
+// release before the press has come, it takes both for real.
+bool HeldKeys::isRepeat(const QKeyEvent& event) const
+{
+    if (event.isAutoRepeat())
+        return true;
+    const auto found = m_presses.find(keyOf(event));
+    return found != m_presses.end() && found->second.releasedAt != 0
+        && found->second.releasedAt == event.timestamp();
+}
+
+} // namespace ui

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <unordered_map>
+
+class QKeyEvent;
+
+namespace ui {
+
+/// Lets a key that is held down act once, in every window of the application. Its repeats
+/// only move a caret or erase, and only in the control that it was pressed in. A key that is
+/// down when another window gets the keyboard means nothing until it has been released.
+class HeldKeys final : public QObject {
+public:
+    /// Watches the application for as long as it lives.
+    explicit HeldKeys(QObject* application);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Press {
+        QPointer<QObject> control; ///< that it was meant for
+        bool dead = false; ///< another window has got the keyboard since
+        quint64 releasedAt = 0; ///< the release's time stamp; 0 while the key is down
+    };
+
+    bool pressCounts(const QKeyEvent& event);
+    bool releaseCounts(const QKeyEvent& event);
+    bool isRepeat(const QKeyEvent& event) const;
+
+    std::unordered_map<quint32, Press> m_presses; ///< by key
+};
+
+} // namespace ui
