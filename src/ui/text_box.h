@@ -21,16 +21,15 @@ public:
 
     void setFactor(double factor) override;
 
+    /// Lets a text that is only shown take the focus, and the mouse with it.
+    void allowFocus(Qt::FocusPolicy policy);
+
     /// Highlights the whole text, for as long as it is not changed or deselected.
     void showSelected();
 
 protected:
     bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
 
     /// Space for text, in pixels at factor 1, beyond the usual margin.
     void setExtraMargins(double left, double right);
