@@ -25,10 +25,11 @@ namespace ui {
 
 namespace {
 
-constexpr double InputWidth = 420; // pixels at factor 1
-constexpr double LongestLine = 500;
+constexpr double LargestShare = 0.7; // of the display's width, for a box
+constexpr double InputWidth = 500; // pixels at factor 1
+constexpr double LongestLine = 600;
 constexpr double ShortestLine = 220; // so that the title can be read
-constexpr int BoxFrame = 160; // what a box needs beside its text
+constexpr double BoxFrame = 110; // what a box needs beside its text, icon included
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
 /// Escape must not answer "No".
@@ -126,6 +127,11 @@ void run(HandlerGuard& owner, const QPointer<QDialog>& box)
     });
 }
 
+double largestWidth(const QWidget& owner)
+{
+    return LargestShare * owner.screen()->availableGeometry().width();
+}
+
 /// Lets the text be as wide as its longest line, up to a measure that grows with the font.
 /// Left alone, the box would wrap at the same number of pixels at every factor.
 void widen(const Box& box, const QWidget& owner)
@@ -139,8 +145,8 @@ void widen(const Box& box, const QWidget& owner)
     int longest = qRound(ShortestLine * factor);
     for (const QString& line : box.text().split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
-    const int room = owner.screen()->availableGeometry().width() - BoxFrame;
-    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), room}));
+    const double room = largestWidth(owner) - BoxFrame * factor;
+    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), qRound(room)}));
 }
 
 QPointer<Box> makeBox(
@@ -148,7 +154,7 @@ QPointer<Box> makeBox(
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
-    box->setFont(look::scaled(look::Instruction, factorOf(&owner.guardedWindow())));
+    box->setFont(look::scaled(look::BoxText, factorOf(&owner.guardedWindow())));
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
@@ -196,12 +202,13 @@ QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString&
 {
     const double factor = factorOf(&owner.guardedWindow());
     const QPointer<QInputDialog> box(new QInputDialog(parentOf(owner)));
-    box->setFont(look::scaled(look::Instruction, factor));
+    box->setFont(look::scaled(look::BoxText, factor));
     box->setWindowTitle(title);
     box->setOkButtonText(u"Aceptar"_s);
     box->setCancelButtonText(u"Cancelar"_s);
     box->setLabelText(prompt);
-    box->resize(qRound(InputWidth * factor), box->height());
+    const double width = std::min(InputWidth * factor, largestWidth(owner.guardedWindow()));
+    box->resize(qRound(width), box->height());
     if (auto* label = box->findChild<QLabel*>()) {
         label->setBuddy(nullptr); // else an "&1" in the prompt would be an access key
         label->setTextFormat(Qt::PlainText);

@@ -40,6 +40,7 @@ struct Font {
 inline constexpr Font Counters{Family::Arial, 12};
 inline constexpr Font Instruction{Family::Arial, 15};
 inline constexpr Font Verdict{Family::Arial, 17, true};
+inline constexpr Font BoxText{Family::Arial, 18}; ///< of message and input boxes
 inline constexpr Font Command{Family::Arial, 13, true};
 
 /// The font at a factor, with a metric-compatible fallback family.

@@ -23,8 +23,8 @@ namespace ui {
 namespace {
 
 // Pixels at factor 1.
-constexpr QSize SmallestButton(96, 34); // where a layout decides, as in boxes
-constexpr QSize SmallestEntry(0, 34); // there too
+constexpr QSize SmallestButton(96, 44); // where a layout decides, as in boxes
+constexpr QSize SmallestEntry(0, 44); // there too
 constexpr int LayoutMargin = 16; // in boxes, and 8 between what stands in them
 constexpr int LayoutSpacing = 8;
 constexpr int CheckColumn = 24; // of a menu, left of its captions
