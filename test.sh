@@ -16,7 +16,7 @@ run_tests() { # test preset
   grep -A 3 'tests passed' "build/probar-$1.log" || echo "ninguna: falta con qué"
 }
 
-need_packages "${build_packages[@]}" xvfb openbox dbus-daemon dbus-bin at-spi2-core
+need_packages "${build_packages[@]}" xvfb openbox xdotool dbus-daemon dbus-bin at-spi2-core
 for preset in release asan; do
   build_preset "$preset"
   run_tests "$preset"

@@ -9,7 +9,7 @@
 set -eu
 
 lane='#5C636B' # the cars race on this grey; JPEG has no transparency, so it is their background
-here=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
+here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
 out=${1:-$here/../Recursos}
 
 die() {

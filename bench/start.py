@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Start and memory of the program against the floor program, in turn, on one display.
 
-Usage: bench/start.py [build folder] [rounds]
+Usage: bench/start.py [build folder] [rounds, 25 or more]
 
 Each round starts one of the two programs, waits until its window is painted (its middle is
 no longer the root window's black), and reads the time and, half a second later, the memory
@@ -41,9 +41,15 @@ def pss(pid):
     raise RuntimeError("no PSS")
 
 
+def command(build, program):
+    """How to start a program of the build; one for Windows under Wine."""
+    for_windows = build / f"bin/{program}.exe"
+    return ["wine", for_windows] if for_windows.exists() else [build / "bin" / program]
+
+
 def measure(program, directory, environment):
     begin = time.perf_counter()
-    process = subprocess.Popen([program], env=environment, stderr=subprocess.DEVNULL)
+    process = subprocess.Popen(program, env=environment, stderr=subprocess.DEVNULL)
     while not painted(directory):
         if process.poll() is not None or time.perf_counter() - begin > 20:
             sys.exit(f"{program} did not come up")
@@ -60,8 +66,8 @@ def measure(program, directory, environment):
 
 def main():
     build = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else "build/release")
-    rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
-    programs = {"floor": build / "bin/start_floor", "pizarrin": build / "bin/pizarrin"}
+    rounds = max(25, int(sys.argv[2]) if len(sys.argv) > 2 else 25)  # fewer tell nothing
+    programs = {"floor": command(build, "start_floor"), "pizarrin": command(build, "pizarrin")}
     directory = pathlib.Path(f"/tmp/pizarrin-bench-{os.getpid()}")
     directory.mkdir()
     server = subprocess.Popen(

@@ -33,8 +33,8 @@ void gallery::addCombinedOperations(Gallery& gallery)
         stage.press(Answer, Qt::Key_Return);
     });
     gallery.add(u"combinadas-bien"_s, Form, [](Stage& stage) {
-        stage.click(u"Command2(2)"_s);
-        stage.click(u"Command1"_s);
+        stage.type(Answer, stage.solution([](Stage&) {}, {Answer}).first());
+        stage.press(Answer, Qt::Key_Return);
     });
     gallery.add(u"combinadas-continuar"_s, Form, [](Stage& stage) {
         stage.click(u"Command2(2)"_s);

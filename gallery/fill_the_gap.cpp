@@ -24,10 +24,8 @@ void gallery::addFillTheGap(Gallery& gallery)
         answer(stage, u"1"_s);
         answer(stage, u"1"_s);
     });
-    gallery.add(u"hueco-bien"_s, Form, [](Stage& stage) {
-        stage.click(u"Command2(2)"_s);
-        stage.click(u"Command1"_s);
-    });
+    gallery.add(u"hueco-bien"_s, Form,
+        [](Stage& stage) { answer(stage, stage.solution([](Stage&) {}, {Gap}).first()); });
     gallery.add(u"hueco-el-mayor"_s, Form, [](Stage& stage) {
         while (stage.text(u"TbTermin(2)"_s) != u"100")
             stage.click(u"Command2(0)"_s);

@@ -1,6 +1,7 @@
 #include "gallery.h"
 
 #include "activities.h"
+#include "display.h"
 
 #include <QAction>
 #include <QApplication>
@@ -8,21 +9,42 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QtMath>
 #include <QtTest>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace gallery {
 
-Stage::Stage(const QString& screen, const QString& resources, double factor)
-    : m_screens(m_random, m_clock, resources)
+Stage::Stage(const QString& screen, const QString& resources, std::optional<double> factor)
+    : m_factor(factor)
+    , m_screens(m_random, m_clock, resources)
 {
     addScreens(m_screens);
     m_screens.show(screen);
     m_screen = m_screens.loaded(screen);
-    const double enlarge = factor / m_screen->factor();
-    m_screen->resize((QSizeF(m_screen->size()) * enlarge).toSize());
+    zoom(*m_screen);
     [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(m_screen);
+}
+
+void Stage::zoom(ui::Screen& screen) const
+{
+    if (!m_factor)
+        return;
+    const double enlarge = *m_factor / screen.factor();
+    const QSizeF size = QSizeF(screen.size()) * enlarge;
+    screen.resize(qCeil(size.width()), qCeil(size.height()));
+    if (std::abs(screen.factor() - *m_factor) > 1e-6)
+        qFatal("%s is at factor %f", qPrintable(screen.objectName()), screen.factor());
+}
+
+void Stage::photographScreen(ui::Screen& other)
+{
+    zoom(other);
+    QTest::qWait(20);
+    picture = other.grab();
 }
 
 void Stage::click(const QString& button) const
@@ -48,6 +70,21 @@ void Stage::press(const QString& box, Qt::Key key) const
 QString Stage::text(const QString& box) const
 {
     return control<QLineEdit>(box).text();
+}
+
+QStringList Stage::solution(const std::function<void(Stage&)>& steps, const QStringList& boxes)
+{
+    QStringList texts;
+    {
+        Stage twin(m_screen->objectName(), m_screens.resources(), 1);
+        steps(twin);
+        twin.click(u"Command2(2)"_s);
+        for (const QString& box : boxes)
+            texts << twin.text(box);
+    }
+    m_screen->activateWindow();
+    [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(m_screen);
+    return texts;
 }
 
 void Stage::photographBox(
@@ -84,18 +121,25 @@ void Gallery::add(const QString& name, const QString& screen, const State& state
 {
     if (m_names.isEmpty() || m_names.contains(name))
         save(name, screen, state, 1);
-    if (m_names.isEmpty())
-        save(name + u"@2"_s, screen, state, 2);
+    if (!m_names.isEmpty())
+        return;
+    save(name + u"@2"_s, screen, state, 2);
+    save(name + u"-1366x768"_s, screen, state, {});
 }
 
-void Gallery::save(const QString& file, const QString& screen, const State& state, double factor)
+void Gallery::save(
+    const QString& file, const QString& screen, const State& state, std::optional<double> factor)
 {
     Stage stage(screen, m_resources.path(), factor);
     if (state)
         state(stage);
     QTest::qWait(20); // fonts and animations come to rest
     const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
-    picture.save(u"%1/%2.png"_s.arg(m_folder, file));
+    const QString path = u"%1/%2.png"_s.arg(m_folder, file);
+    if (factor)
+        picture.save(path);
+    else
+        onDisplay(stage.screen(), stage.picture).save(path);
 }
 
 } // namespace gallery

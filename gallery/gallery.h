@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <functional>
+#include <optional>
 
 namespace gallery {
 
@@ -15,8 +16,9 @@ namespace gallery {
 /// clock stands at 10:20:30, so that the exercises are the same in every run.
 class Stage {
 public:
-    /// Opens the screen with a canvas at this factor.
-    Stage(const QString& screen, const QString& resources, double factor);
+    /// Opens the screen with a canvas at exactly this factor; at none, as it comes up on the
+    /// display.
+    Stage(const QString& screen, const QString& resources, std::optional<double> factor);
 
     ui::Screen& screen() const { return *m_screen; }
     ui::Screens& screens() { return m_screens; }
@@ -35,10 +37,17 @@ public:
     void press(const QString& box, Qt::Key key) const;
     QString text(const QString& box) const;
 
+    /// The solution that these boxes show after some steps, found on a stage of its own: on this
+    /// one, asking for it would leave the exercise uncounted.
+    QStringList solution(const std::function<void(Stage&)>& steps, const QStringList& boxes);
+
     /// Does something that opens a box, types into it where it is an input box, keeps a
     /// picture of the box, and answers it with the button of this caption.
     void photographBox(
         const std::function<void()>& opens, const QString& answer, const QString& typed = {});
+
+    /// Keeps a picture of another screen, at the factor of this one.
+    void photographScreen(ui::Screen& other);
 
     /// What save() keeps instead of the screen: a box, or another screen.
     QPixmap picture;
@@ -50,6 +59,9 @@ private:
         std::chrono::milliseconds elapsed() const override { return {}; }
     };
 
+    void zoom(ui::Screen& screen) const;
+
+    std::optional<double> m_factor;
     core::SeededRandom m_random;
     StandingClock m_clock;
     ui::Screens m_screens;
@@ -62,14 +74,16 @@ public:
     using State = std::function<void(Stage&)>;
 
     /// resources: the folder "Recursos" of the source tree; a copy of it is used. With names,
-    /// only those pictures are made, at factor 1.
+    /// only those pictures are made, at factor 1 alone.
     Gallery(QString folder, const QString& resources, QStringList names);
 
-    /// Saves name.png at factor 1 and name@2.png at factor 2.
+    /// Saves name.png at factor 1, name@2.png at factor 2, and name-1366x768.png as it is seen
+    /// on a school laptop, the display around it.
     void add(const QString& name, const QString& screen, const State& state = {});
 
 private:
-    void save(const QString& file, const QString& screen, const State& state, double factor);
+    void save(const QString& file, const QString& screen, const State& state,
+        std::optional<double> factor);
 
     QString m_folder;
     QStringList m_names;

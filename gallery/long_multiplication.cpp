@@ -106,6 +106,6 @@ void gallery::addLongMultiplication(Gallery& gallery)
         ui::Screen& dialog = *stage.screens().loaded(written::Dialog::screenName());
         for (const int digit : {2, 3, 5, 7})
             dialog.findChild<QAbstractButton*>(u"Check1(%1)"_s.arg(digit - 1))->click();
-        stage.picture = dialog.grab();
+        stage.photographScreen(dialog);
     });
 }

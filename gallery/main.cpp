@@ -1,4 +1,5 @@
 #include "activities.h"
+#include "display.h"
 #include "gallery.h"
 #include "pictures.h"
 
@@ -10,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    gallery::LaptopDisplay display;
     ui::prepareApplication();
     QApplication application(argc, argv);
     ui::dress();

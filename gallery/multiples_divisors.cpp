@@ -31,8 +31,11 @@ void gallery::addMultiplesDivisors(Gallery& gallery)
     const QString divisors = u"divisores"_s;
     gallery.add(u"multiplos"_s, Form, [=](Stage& stage) { goOnTo(stage, multiples); });
     gallery.add(u"multiplos-bien"_s, Form, [=](Stage& stage) {
-        goOnTo(stage, multiples);
-        stage.click(u"Command2(2)"_s);
+        const auto first = [=](Stage& on) { goOnTo(on, multiples); };
+        const QStringList solution =
+            stage.solution(first, {u"Text3(0)"_s, u"Text3(1)"_s, u"Text3(2)"_s});
+        first(stage);
+        typeAnswers(stage, solution);
         stage.click(u"Command1"_s);
     });
     gallery.add(u"divisores"_s, Form, [=](Stage& stage) { goOnTo(stage, divisors); });

@@ -12,13 +12,10 @@ namespace {
 const QString Form = u"FormProblemas"_s;
 const QString Answer = u"TBRespuesta"_s;
 
-/// The answer of the problem that is shown.
-QString solution(gallery::Stage& stage)
+void goOn(gallery::Stage& stage)
 {
-    stage.click(u"Command2(2)"_s);
-    const QString text = stage.text(Answer);
-    stage.click(u"Command2(1)"_s);
-    return text;
+    for (int i = 0; i < 3; ++i)
+        stage.click(u"Command2(0)"_s);
 }
 
 void choose(gallery::Stage& stage, const QString& name)
@@ -51,9 +48,9 @@ void gallery::addProblems(Gallery& gallery)
         stage.press(Answer, Qt::Key_Return);
     });
     gallery.add(u"problemas-bien"_s, Form, [](Stage& stage) {
-        for (int i = 0; i < 3; ++i)
-            stage.click(u"Command2(0)"_s);
-        stage.type(Answer, solution(stage));
+        const QStringList solution = stage.solution(goOn, {Answer});
+        goOn(stage);
+        stage.type(Answer, solution.first());
         stage.press(Answer, Qt::Key_Return);
     });
     gallery.add(u"problemas-ninguno"_s, Form, [](Stage& stage) {

@@ -70,12 +70,9 @@ void addOptions(gallery::Gallery& gallery)
 {
     gallery.add(u"carrera-opciones"_s, Form, [](gallery::Stage& stage) {
         ui::Screen& dialog = options(stage);
-        dialog.resize(
-            (QSizeF(dialog.size()) * stage.screen().factor() / dialog.factor()).toSize());
         dialog.findChild<QListWidget*>(u"List1"_s)->setCurrentRow(2);
         dialog.findChild<QListWidget*>(u"List2"_s)->setCurrentRow(6);
-        QTest::qWait(20);
-        stage.picture = dialog.grab();
+        stage.photographScreen(dialog);
     });
 }
 

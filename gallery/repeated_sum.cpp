@@ -36,8 +36,11 @@ void gallery::addRepeatedSum(Gallery& gallery)
         stage.press(u"Text3(2)"_s, Qt::Key_Return);
     });
     gallery.add(u"suma-bien"_s, Form, [](Stage& stage) {
-        stage.click(u"Command2(2)"_s);
-        stage.click(u"Command1"_s);
+        const QStringList terms =
+            stage.control<QPlainTextEdit>(u"TbSuma"_s).toPlainText().simplified().split(u" + "_s);
+        stage.type(u"Text3(0)"_s, terms.first());
+        stage.type(u"Text3(2)"_s, QString::number(terms.size()));
+        stage.press(u"Text3(2)"_s, Qt::Key_Return);
     });
     gallery.add(u"suma-solucion"_s, Form, [](Stage& stage) { stage.click(u"Command2(2)"_s); });
 }

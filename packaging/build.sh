@@ -17,8 +17,21 @@ copy_libraries() { # destination, files...
     name=$(basename "$path")
     [[ $name =~ $system_libraries ]] && continue
     install -m 644 "$path" "$destination/$name"
+    # shellcheck disable=SC2016 # the loader expands it
     patchelf --set-rpath '$ORIGIN' "$destination/$name"
   done
+}
+
+# Fonts that a school's machine may lack, each with its licence; the program loads them where
+# the system has no better.
+copy_fonts() { # destination
+  local font
+  for font in /usr/share/fonts/truetype/andika/Andika-{Regular,Bold}.ttf \
+      /usr/share/fonts/opentype/urw-base35/NimbusMonoPS-{Regular,Bold}.otf; do
+    install -D -m 644 "$font" "$1/$(basename "$font")"
+  done
+  install -m 644 /usr/share/doc/fonts-sil-andika/copyright "$1/Andika-licencia.txt"
+  install -m 644 /usr/share/doc/fonts-urw-base35/copyright "$1/NimbusMonoPS-licencia.txt"
 }
 
 build_deb() {
@@ -49,6 +62,7 @@ build_portable() {
   done
   copy_libraries "$folder/lib" "$folder/pizarrin" "$folder/pizarrin-banco" "$folder"/plugins/*/*.so
   printf '[Paths]\nPlugins = plugins\n' >"$folder/qt.conf"
+  copy_fonts "$folder/fonts"
   mkdir -p dist
   tar -C build/portable -czf "dist/pizarrin-$version-portatil-$(uname -m).tar.gz" \
     --owner=0 --group=0 "pizarrin-$version"

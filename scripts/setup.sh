@@ -1,4 +1,5 @@
-# Shared by run.sh and test.sh: installs what is missing, configures and builds. Sourced.
+# shellcheck shell=bash
+# Shared by the scripts: installs what is missing, configures and builds. Sourced.
 
 # Quiet unless it fails: then the log of the step is shown.
 quietly() { # title, command...
@@ -52,14 +53,15 @@ need_commands() { # packages, by their Debian names
 Este sistema no usa apt-get. Instale usted con su gestor de paquetes lo que en Debian se
 llama así, y vuelva a empezar: $*
 (un compilador de C++20, CMake 3.25 o posterior, Ninja, Qt 6.4 o posterior con Widgets y sus
-traducciones, y los tipos de letra Liberation y DejaVu)
+traducciones, y los tipos de letra Andika, URW base 35, Liberation y DejaVu)
 TEXT
     exit 1
   done
 }
 
+# shellcheck disable=SC2034 # for those who source this
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n
-  fonts-liberation fonts-dejavu-core)
+  fonts-sil-andika fonts-urw-base35 fonts-liberation fonts-dejavu-core)
 
 # Configures a preset and builds targets of it (all when none is named).
 build_preset() { # preset, targets...

@@ -1,5 +1,7 @@
 // pizarrin-banco: tells what is wrong with a problem bank, for whoever shares banks.
+#include "core/bank_folder.h"
 #include "core/random.h"
+#include "core/system.h"
 #include "problems/bank.h"
 #include "problems/bank_check.h"
 #include "problems/expression.h"
@@ -30,11 +32,19 @@ ExitStatus check(const QString& path, QTextStream& out)
     return report.faultyLines == 0 ? Clean : Faulty;
 }
 
+QString ownBank()
+{
+    const core::BankFolder folder(
+        QCoreApplication::applicationDirPath() + u"/Recursos"_s, core::commonBankFolder());
+    return folder.toRead() + u'/' + core::BankFile;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    core::writeUtf8ToTerminal();
     QTextStream out(stdout);
     QTextStream err(stderr);
     const QStringList arguments = QCoreApplication::arguments().sliced(1);
@@ -47,9 +57,7 @@ int main(int argc, char* argv[])
         return NotChecked;
     }
     try {
-        return check(arguments.value(0,
-                         QCoreApplication::applicationDirPath() + u"/Recursos/Problemas3.dat"_s),
-            out);
+        return check(arguments.value(0, ownBank()), out);
     } catch (const core::Error& error) {
         err << error.text() << '\n';
         return NotChecked;

@@ -1,6 +1,6 @@
 #include "activities.h"
 #include "core/clock.h"
-#include "core/folders.h"
+#include "core/system.h"
 #include "core/random.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"

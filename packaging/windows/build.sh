@@ -21,6 +21,14 @@ add_texts() { # folder
   sed -i 's/$/\r/' "$1"/*.txt "$1"/licencias/*.txt
 }
 
+# Windows lacks the letters that children learn to read with; the program loads them from here.
+add_fonts() { # folder
+  local font
+  for font in /usr/share/fonts/truetype/andika/Andika-{Regular,Bold}.ttf; do
+    install -D -m 644 "$font" "$1/fonts/$(basename "$font")"
+  done
+}
+
 # What the uninstaller deletes: what the folder has, but the bank.
 list_deletions() { # folder
   find "$1" -type f ! -name Problemas3.dat -printf "Delete \"\$INSTDIR/%P\"\n" | tr / \\\\
@@ -28,7 +36,7 @@ list_deletions() { # folder
 }
 
 configure_windows nsis zip fonts-sil-andika
-build_windows pizarrin
+build_windows pizarrin pizarrin-banco
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$windows_build/CMakeCache.txt")
 folder=$windows_build/package/Pizarrin-$version
 archive=$PWD/dist/Pizarrin-$version-windows.zip
@@ -38,6 +46,7 @@ rm -rf "$folder" "$archive" "$installer"
 mkdir -p dist
 quietly "reunir archivos de windows" cmake --install "$windows_build" --prefix "$folder" --strip
 add_texts "$folder"
+add_fonts "$folder"
 (cd "$windows_build/package" && zip -qrX9 "$archive" "Pizarrin-$version")
 list_deletions "$folder" >"$windows_build/package/files.nsh"
 quietly "hacer instalador de windows" makensis -V2 -NOCD -DFOLDER="$PWD/$folder" \

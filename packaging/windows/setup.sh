@@ -20,7 +20,7 @@ configure_windows() { # packages that the caller needs too
     ${cmake_options+"${cmake_options[@]}"}
 }
 
-build_windows() { # targets, or none for all
+build_windows() { # targets
   local target arguments=()
   for target in "$@"; do
     arguments+=(--target "$target")

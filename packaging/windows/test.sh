@@ -29,8 +29,8 @@ summarise() { # log
 }
 
 configure_windows wine wine64 unzip xvfb openbox dbus-daemon dbus-bin at-spi2-core xdotool \
-  imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika
-build_windows
+  x11-xkb-utils imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika
+build_windows all
 check_imports
 gather_fonts
 export QT_QPA_FONTDIR=$PWD/$windows_build/fonts

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Uses the archive and the installer under Wine as a school does: opens every activity in real
-# windows, with the keyboard alone, and saves the bank, beside the program where that can be
+# windows, with the keyboard alone, and saves a problem, beside the program where that can be
 # written and in the shared folder where not; installs and uninstalls.
 #   walk.sh ARCHIVE INSTALLER PICTURES
 # on the display DISPLAY, which has a window manager. PICTURES is a folder for pictures of the
@@ -22,17 +22,18 @@ if [ "$(id -u)" -eq 0 ]; then
   HOME=$work setpriv --reuid 65534 --regid 65534 --clear-groups "$work/walk.sh" \
     "$work/$(basename "$archive")" "$work/$(basename "$installer")" "$work/pictures" || status=$?
   mkdir -p "$pictures"
-  cp "$work"/pictures/* "$pictures"
+  cp "$work"/pictures/* "$pictures" || true
   exit "$status"
 fi
 
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 export WINEPREFIX=$work/wine
+trap 'wineserver --kill || true; wineserver --wait; rm -rf "$work"' EXIT
 mkdir -p "$pictures"
 drive=$WINEPREFIX/drive_c
 installed="$drive/Program Files/Pizarrin"
 shared=$drive/ProgramData/Pizarrin/Recursos
+statement='Con [2_9] cajas de 2,5 € y 3 más, ¿cuántos?'
 shortcut="$drive/ProgramData/Microsoft/Windows/Start Menu/Programs/Pizarrin.lnk"
 
 fail() {
@@ -52,7 +53,15 @@ until_so() { # what is wrong else, command...
   fail "$what"
 }
 
-active() { xdotool getactivewindow 2>/dev/null || echo none; }
+active() { # the window manager's word for a window that is gone is worth nothing
+  local window
+  if window=$(xdotool getactivewindow 2>/dev/null) && xdotool getwindowgeometry "$window" \
+      >/dev/null 2>&1; then
+    echo "$window"
+  else
+    echo none
+  fi
+}
 is_active() { [ "$(active)" = "$1" ]; }
 is_other() { [ "$(active)" != none ] && ! is_active "$1"; }
 is_painted() { # a window of one colour or two is not there yet
@@ -107,26 +116,42 @@ open_activities() {
   done
 }
 
-save_bank() { # name of the picture
-  xdotool key alt+p
-  until_so "the problems do not come up" is_other "$menu"
-  is_painted
+# With a Spanish keyboard: brackets, braces and the euro are typed with AltGr.
+save_a_problem() { # name of the picture
+  press alt+p
   press alt+o g
+  xdotool key alt+e
+  xdotool type --delay 20 "$statement"
+  xdotool key Tab Tab Tab
+  xdotool type --delay 20 '{&1*'
+  xdotool key Num_Lock KP_2 Num_Lock
+  xdotool type --delay 20 '}'
+  xdotool key Tab Tab Tab
+  xdotool type --delay 20 años
   picture "$1"
-  xdotool key shift+Tab shift+Tab space # to "Aceptar"
+  xdotool key alt+g
+  xdotool key shift+Tab shift+Tab shift+Tab space # from the new problem to "Aceptar"
   close_down_to "$menu"
+}
+
+check_saved() { # folder
+  local last
+  last=$(tail -n 1 "$1/Problemas3.dat" | iconv -f windows-1252 -t utf-8)
+  [ "$last" = "$statement|{&1*2}|años|*"$'\r' ] || fail "the bank ends with $last"
 }
 
 walk_archive() {
   local folder="$work/Memoria USB/Año 3.º"
+  mkdir -p "$folder"
   unzip -q "$archive" -d "$folder"
   cd "$folder"/*
   start pizarrin.exe menu
   open_activities
-  save_bank gestion
+  cp Recursos/Problemas3.dat "$work/starter.dat"
+  save_a_problem gestion
   leave
-  [ -e Recursos/Problemas3.bak ] || fail "the bank beside the program was not saved"
-  cmp Recursos/Problemas3.dat Recursos/Problemas3.bak || fail "the save changed the bank"
+  check_saved Recursos
+  cmp Recursos/Problemas3.bak "$work/starter.dat" || fail "the backup is not the bank of before"
   [ ! -e "$shared" ] || fail "the bank was saved to the shared folder"
 }
 
@@ -151,12 +176,13 @@ walk_installed() {
   chmod -w "$installed/Recursos"
   cd "$installed"
   start pizarrin.exe menu-instalado
-  save_bank gestion-instalado
+  save_a_problem gestion-instalado
   leave
   cd "$work"
   chmod +w "$installed/Recursos"
-  cmp "$shared/Problemas3.dat" "$installed/Recursos/Problemas3.dat" ||
-    fail "the bank was not saved to the shared folder"
+  check_saved "$shared"
+  cmp "$shared/Problemas3.bak" "$installed/Recursos/Problemas3.dat" ||
+    fail "the shared bank did not start as the one that came with the program"
 }
 
 uninstall() { # switch for whom, folder
@@ -180,6 +206,7 @@ walk_uninstaller() {
   tail -n 1 "$own/Recursos/Problemas3.dat" | grep -q 'Uno m' || fail "a changed bank went"
 }
 
+setxkbmap es
 walk_archive
 show_installer
 walk_installed

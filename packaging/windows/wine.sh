@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs a program for Windows under Wine, in a Wine of the build's own, which it makes the first
-# time. Waits until all that the program has started is gone.
+# Runs a program for Windows under Wine, as on Windows 10, in the folder WINEPREFIX, which it
+# makes the first time: one of the build's own unless set.
 set -euo pipefail
 prefix=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/build/windows/wine
 export WINEPREFIX=${WINEPREFIX:-$prefix}
@@ -10,9 +10,7 @@ export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml,winemenubui
 if [ ! -e "$WINEPREFIX/system.reg" ]; then
   mkdir -p "$WINEPREFIX"
   wine wineboot --init
-  wineserver=$(command -v wineserver || echo /usr/lib/wine/wineserver)
-  "$wineserver" --wait
+  wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f
+  wineserver --wait
 fi
-status=0
-wine "$@" || status=$?
-exit "$status"
+exec wine "$@"

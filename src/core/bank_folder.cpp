@@ -1,7 +1,7 @@
 #include "core/bank_folder.h"
 
 #include "core/errors.h"
-#include "core/folders.h"
+#include "core/system.h"
 
 #include <QDir>
 #include <QFile>

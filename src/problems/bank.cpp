@@ -2,7 +2,7 @@
 
 #include "core/bank_folder.h"
 #include "core/folder_scope.h"
-#include "core/folders.h"
+#include "core/system.h"
 #include "problems/windows1252.h"
 
 #include <QDir>

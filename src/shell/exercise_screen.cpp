@@ -1,5 +1,7 @@
 #include "shell/exercise_screen.h"
 
+#include "ui/tray.h"
+
 using namespace Qt::StringLiterals;
 
 namespace shell {
@@ -20,6 +22,7 @@ void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& so
     for (int i = 0; i < 3; ++i)
         on(Command2.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
             &ExerciseScreen::Command2_Click, i);
+    new ui::Tray({Command1, Command2[0], Command2[1], Command2[2]});
     if (places.clear.left < places.next.left)
         setTabOrder(Command2[1], Command2[0]); // as they stand, from left to right
 }

@@ -2,6 +2,7 @@
 
 #include "shell/main_menu.h"
 #include "shell/pictograms.h"
+#include "ui/ground.h"
 #include "ui/screens.h"
 
 #include <QAction>
@@ -31,6 +32,7 @@ Form1::Form1(ui::Screens& screens, std::vector<Activity> activities)
     : Screen(screens, screenName(), u"PIZARRIN"_s, ClientWidth, ClientHeight)
     , m_activities(std::move(activities))
 {
+    canvas()->setPalette(ui::look::onSlate());
     QAction* about = barItem(u"MnuAce"_s, u"Acerca de..."_s);
     on(about, &QAction::triggered, &Form1::MnuAce_Click);
 }
@@ -53,6 +55,7 @@ void Form1::Form_Load()
         Command1.push_back(button);
     }
     Command1.front()->setFocus();
+    ui::Ground::pose(*this, ui::Pose::Waiting);
 }
 
 void Form1::Command1_Click(int Index)

@@ -1,24 +1,34 @@
 #include "shell/pictograms.h"
 
+#include "ui/look.h"
+
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
 
 #include <algorithm>
-#include <cstddef>
-#include <iterator>
 
 namespace shell {
 
 namespace {
 
-// Every picture is drawn on a square of this side. Whole coordinates fall between two pixels
-// at 32 px, where straight strokes are then sharpest.
+// Every picture is drawn on a square of this side.
 constexpr qreal Grid = 32;
 constexpr qreal StrokeWidth = 2.2;
-constexpr QColor Ink(0x16, 0x20, 0x2B);
-constexpr QColor DisabledInk(0x55, 0x61, 0x6E);
+constexpr QRgb Accent = 0xFFD2500F;
+
+struct Colours {
+    QColor ink;
+    QColor accent; ///< of what the activity is about
+};
+
+void useAccent(QPainter& painter, const Colours& colours)
+{
+    QPen pen = painter.pen();
+    pen.setColor(colours.accent);
+    painter.setPen(pen);
+}
 
 void drawDot(QPainter& painter, QPointF centre, qreal radius)
 {
@@ -61,40 +71,44 @@ void drawFour(QPainter& painter, QPointF topLeft)
     painter.drawPath(path.translated(topLeft));
 }
 
-void drawRepeatedSum(QPainter& painter)
+void drawRepeatedSum(QPainter& painter, const Colours& colours)
 {
     drawFour(painter, {3, 4});
-    drawPlus(painter, {16, 9}, 3);
     drawFour(painter, {23, 4});
-    drawPlus(painter, {16, 23}, 3);
     drawFour(painter, {23, 18});
+    useAccent(painter, colours);
+    drawPlus(painter, {16, 9}, 3);
+    drawPlus(painter, {16, 23}, 3);
 }
 
-void drawTables(QPainter& painter)
+void drawTables(QPainter& painter, const Colours& colours)
 {
     painter.drawRoundedRect(QRectF(2, 2, 28, 28), 2, 2);
     for (const qreal at : {14, 22}) {
         painter.drawLine(QPointF(at, 2), QPointF(at, 30));
         painter.drawLine(QPointF(2, at), QPointF(30, at));
     }
+    useAccent(painter, colours);
     drawTimes(painter, {8, 8}, 2.5);
 }
 
-void drawQuickTables(QPainter& painter)
+void drawQuickTables(QPainter& painter, const Colours& colours)
 {
     painter.drawEllipse(QPointF(16, 18), 11, 11);
     painter.drawLine(QPointF(16, 3), QPointF(16, 7));
     painter.drawLine(QPointF(13, 3), QPointF(19, 3));
     painter.drawLine(QPointF(25, 7), QPointF(27, 9));
+    useAccent(painter, colours);
     painter.drawLine(QPointF(16, 18), QPointF(20, 13));
     drawDot(painter, {16, 18}, 2);
 }
 
-void drawGap(QPainter& painter)
+void drawGap(QPainter& painter, const Colours& colours)
 {
     drawTimes(painter, {4.5, 16}, 2.5);
     painter.drawLine(QPointF(27, 14), QPointF(30, 14));
     painter.drawLine(QPointF(27, 18), QPointF(30, 18));
+    useAccent(painter, colours);
 
     // Pen dashes are counted in stroke widths. Two periods fill the width and three the
     // height, so that each corner is the middle of a dash.
@@ -107,33 +121,37 @@ void drawGap(QPainter& painter)
     painter.drawRect(QRectF(11, 7, 2 * Period, 3 * Period));
 }
 
-void drawMultiples(QPainter& painter)
+void drawMultiples(QPainter& painter, const Colours& colours)
 {
-    for (const qreal top : {3, 18}) {
+    for (const qreal top : {3, 18})
         painter.drawRoundedRect(QRectF(2, top, 28, 11), 5.5, 5.5);
+    useAccent(painter, colours);
+    for (const qreal top : {3, 18}) {
         for (const qreal x : {8, 16, 24})
             drawDot(painter, {x, top + 5.5}, 2);
     }
 }
 
-void drawMultiplication(QPainter& painter)
+void drawMultiplication(QPainter& painter, const Colours& colours)
 {
     drawTwo(painter, {14, 2});
     drawFour(painter, {23, 2});
-    drawTimes(painter, {7, 20}, 3);
     drawTwo(painter, {23, 15});
     painter.drawLine(QPointF(3, 29), QPointF(29, 29));
+    useAccent(painter, colours);
+    drawTimes(painter, {7, 20}, 3);
 }
 
-void drawDivision(QPainter& painter)
+void drawDivision(QPainter& painter, const Colours& colours)
 {
     drawFour(painter, {3, 4});
-    painter.drawPolyline(QPolygonF{{15, 3}, {15, 17}, {29, 17}});
     drawTwo(painter, {19, 4});
     drawTwo(painter, {19, 20});
+    useAccent(painter, colours);
+    painter.drawPolyline(QPolygonF{{15, 3}, {15, 17}, {29, 17}});
 }
 
-void drawProblems(QPainter& painter)
+void drawProblems(QPainter& painter, const Colours& colours)
 {
     QPainterPath bubble;
     bubble.addRoundedRect(QRectF(2, 2, 28, 21), 5, 5);
@@ -141,6 +159,7 @@ void drawProblems(QPainter& painter)
     tail.lineTo(8, 30);
     tail.lineTo(15, 22);
     painter.drawPath(bubble.united(tail));
+    useAccent(painter, colours);
 
     QPainterPath question(QPointF(12, 9));
     question.cubicTo(12, 4, 20, 4, 20, 9);
@@ -149,7 +168,7 @@ void drawProblems(QPainter& painter)
     drawDot(painter, {16, 19}, 1.5);
 }
 
-void drawCombined(QPainter& painter)
+void drawCombined(QPainter& painter, const Colours& colours)
 {
     QPainterPath left(QPointF(8, 4));
     left.cubicTo(2, 10, 2, 22, 8, 28);
@@ -157,6 +176,7 @@ void drawCombined(QPainter& painter)
     QPainterPath right(QPointF(24, 4));
     right.cubicTo(30, 10, 30, 22, 24, 28);
     painter.drawPath(right);
+    useAccent(painter, colours);
     drawPlus(painter, {16, 16}, 5);
 }
 
@@ -169,14 +189,15 @@ void drawDrop(QPainter& painter, QPointF tip)
     painter.drawPath(path.translated(tip));
 }
 
-void drawRain(QPainter& painter)
+void drawRain(QPainter& painter, const Colours& colours)
 {
     drawDrop(painter, {7, 3});
     drawDrop(painter, {25, 6});
+    useAccent(painter, colours);
     drawDrop(painter, {16, 17});
 }
 
-void drawRace(QPainter& painter)
+void drawRace(QPainter& painter, const Colours& colours)
 {
     const QPolygonF body{{5, 24}, {2, 24}, {2, 17}, {9, 15}, {14, 7}, {24, 7}, {28, 15}, {30, 17},
         {30, 24}, {28, 24}};
@@ -184,28 +205,53 @@ void drawRace(QPainter& painter)
     painter.drawLine(QPointF(13, 24), QPointF(20, 24));
     painter.drawLine(QPointF(9, 15), QPointF(28, 15));
     painter.drawLine(QPointF(19, 7), QPointF(19, 15));
+    useAccent(painter, colours);
     painter.drawEllipse(QPointF(9, 24), 3.5, 3.5);
     painter.drawEllipse(QPointF(24, 24), 3.5, 3.5);
 }
 
-void drawExit(QPainter& painter)
+void drawExit(QPainter& painter, const Colours& colours)
 {
     painter.drawPolygon(QPolygonF{{3, 2}, {12, 6}, {12, 30}, {3, 26}});
     painter.drawPolyline(QPolygonF{{3, 2}, {19, 2}, {19, 9}});
     painter.drawPolyline(QPolygonF{{12, 26}, {19, 26}, {19, 21}});
     drawDot(painter, {8, 17}, 1.5);
+    useAccent(painter, colours);
     painter.drawLine(QPointF(17, 15), QPointF(30, 15));
     painter.drawPolyline(QPolygonF{{26, 11}, {30, 15}, {26, 19}});
 }
 
-void draw(QPainter& painter, Pictogram pictogram)
+using Drawing = void (*)(QPainter&, const Colours&);
+
+Drawing drawingOf(Pictogram id)
 {
-    using Drawing = void (*)(QPainter&);
-    constexpr Drawing InOrderOfTheEnum[]{drawRepeatedSum, drawTables, drawQuickTables, drawGap,
-        drawMultiples, drawMultiplication, drawDivision, drawProblems, drawCombined, drawRain,
-        drawRace, drawExit};
-    static_assert(std::size(InOrderOfTheEnum) == static_cast<std::size_t>(Pictogram::Exit) + 1);
-    InOrderOfTheEnum[static_cast<std::size_t>(pictogram)](painter);
+    switch (id) {
+    case Pictogram::RepeatedSum:
+        return drawRepeatedSum;
+    case Pictogram::Tables:
+        return drawTables;
+    case Pictogram::QuickTables:
+        return drawQuickTables;
+    case Pictogram::Gap:
+        return drawGap;
+    case Pictogram::Multiples:
+        return drawMultiples;
+    case Pictogram::Multiplication:
+        return drawMultiplication;
+    case Pictogram::Division:
+        return drawDivision;
+    case Pictogram::Problems:
+        return drawProblems;
+    case Pictogram::Combined:
+        return drawCombined;
+    case Pictogram::Rain:
+        return drawRain;
+    case Pictogram::Race:
+        return drawRace;
+    case Pictogram::Exit:
+        break;
+    }
+    return drawExit;
 }
 
 class PictogramEngine : public QIconEngine {
@@ -218,16 +264,9 @@ public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
         const qreal side = std::min(rect.width(), rect.height());
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(
-            rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2);
-        painter->scale(side / Grid, side / Grid);
-        painter->setPen(QPen(mode == QIcon::Disabled ? DisabledInk : Ink, StrokeWidth,
-            Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->setBrush(Qt::NoBrush);
-        draw(*painter, m_pictogram);
-        painter->restore();
+        QRectF square(0, 0, side, side);
+        square.moveCenter(QRectF(rect).center());
+        drawPictogram(*painter, m_pictogram, square, mode != QIcon::Disabled);
     }
 
     // The inherited one paints on a pixmap that nobody cleared.
@@ -248,9 +287,24 @@ private:
 
 } // namespace
 
-QIcon pictogramIcon(Pictogram pictogram)
+void drawPictogram(QPainter& painter, Pictogram id, const QRectF& square, bool enabled)
 {
-    return QIcon(new PictogramEngine(pictogram));
+    const QColor quiet(ui::look::Quiet);
+    const Colours colours =
+        enabled ? Colours{QColor(ui::look::Ink), QColor(Accent)} : Colours{quiet, quiet};
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(square.topLeft());
+    painter.scale(square.width() / Grid, square.height() / Grid);
+    painter.setPen(QPen(colours.ink, StrokeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    drawingOf(id)(painter, colours);
+    painter.restore();
+}
+
+QIcon pictogramIcon(Pictogram id)
+{
+    return QIcon(new PictogramEngine(id));
 }
 
 } // namespace shell

@@ -2,9 +2,12 @@
 
 #include <QIcon>
 
+class QPainter;
+class QRectF;
+
 namespace shell {
 
-/// The pictures of the main menu's buttons.
+/// The pictures of the main menu's buttons: one an activity, and the way out.
 enum class Pictogram {
     RepeatedSum,
     Tables,
@@ -20,8 +23,11 @@ enum class Pictogram {
     Exit
 };
 
-/// An icon that paints its strokes anew at every size, so it is crisp at any zoom and pixel
-/// ratio. Square; ink on nothing, paler when disabled.
-QIcon pictogramIcon(Pictogram pictogram);
+/// Draws a pictogram into a square, crisp at any size: ink with one accent colour on nothing,
+/// quiet when disabled.
+void drawPictogram(QPainter& painter, Pictogram id, const QRectF& square, bool enabled = true);
+
+/// An icon that draws a pictogram anew at every size and pixel ratio.
+QIcon pictogramIcon(Pictogram id);
 
 } // namespace shell

@@ -67,7 +67,7 @@ void CountdownBar::paintEvent(QPaintEvent*)
     const QRectF track = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(ui::look::Line), factor()));
+    painter.setPen(QPen(QColor(ui::look::Edge), factor()));
     painter.setBrush(QColor(ui::look::Card));
     drawRounded(painter, track, Radius * factor());
     painter.setPen(QPen(m_colour.darker(166), factor()));

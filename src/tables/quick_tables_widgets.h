@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/text_box.h"
+#include "ui/verdict_box.h"
 
 namespace tables {
 

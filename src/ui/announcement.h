@@ -6,8 +6,10 @@ class QWidget;
 
 namespace ui {
 
-/// Lets assistive tools speak a text that a control has begun to show, a new exercise or a
-/// verdict, wherever the focus is.
+/// Has a screen reader speak a text, in whatever state it is: a new exercise or a verdict,
+/// again when it is the same as before. It is spoken behind what the focus of the running
+/// handler comes to rest on, once the window of the control, or the box in front of it, is the
+/// active one.
 void announce(QWidget& control, const QString& text);
 
 } // namespace ui

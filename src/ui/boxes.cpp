@@ -1,6 +1,7 @@
 #include "ui/boxes.h"
 
 #include "ui/application.h"
+#include "ui/box_strip.h"
 #include "ui/handler_guard.h"
 #include "ui/look.h"
 #include "ui/reading_pause.h"
@@ -117,6 +118,7 @@ QWidget* parentOf(HandlerGuard& owner)
 /// that is unloaded behind it.
 void run(HandlerGuard& owner, const QPointer<QDialog>& box)
 {
+    BoxStrip::layUnderButtons(*box);
     std::optional<ReadingPause> pause;
     if (owner.isInTick())
         pause.emplace(*box, owner.clock());

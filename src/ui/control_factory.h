@@ -3,7 +3,7 @@
 #include "ui/button.h"
 #include "ui/memo.h"
 #include "ui/scaling.h"
-#include "ui/text_box.h"
+#include "ui/verdict_box.h"
 
 #include <QLabel>
 

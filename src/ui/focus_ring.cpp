@@ -1,10 +1,16 @@
 #include "ui/focus_ring.h"
 
+#include "ui/faces.h"
 #include "ui/look.h"
+#include "ui/tray.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextEdit>
 
 #include <cmath>
 
@@ -12,7 +18,17 @@ namespace ui {
 
 namespace {
 
-constexpr double Radius = 8; // pixels at factor 1
+constexpr double Radius = 12; // pixels at factor 1
+
+bool isOnlyRead(const QWidget* widget)
+{
+    if (const auto* line = qobject_cast<const QLineEdit*>(widget))
+        return line->isReadOnly();
+    if (const auto* plain = qobject_cast<const QPlainTextEdit*>(widget))
+        return plain->isReadOnly();
+    const auto* text = qobject_cast<const QTextEdit*>(widget);
+    return text != nullptr && text->isReadOnly();
+}
 
 } // namespace
 
@@ -46,7 +62,10 @@ void FocusRing::surround()
     }
     const int width = ringWidth();
     const QPoint origin = m_focused->mapTo(parentWidget(), QPoint(0, 0));
-    setGeometry(QRect(origin, m_focused->size()).adjusted(-width, -width, width, width));
+    QRect place(origin, m_focused->size());
+    if (const auto* button = qobject_cast<const QPushButton*>(m_focused.data()))
+        place = buttonFace(place, !button->icon().isNull(), factor());
+    setGeometry(place.adjusted(-width, -width, width, width));
     raise();
     show();
 }
@@ -74,11 +93,17 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event)
 
 void FocusRing::paintEvent(QPaintEvent*)
 {
-    const double width = look::RingWidth * factor();
+    if (!m_focused)
+        return;
+    const double full = look::RingWidth * factor();
+    const double width = isOnlyRead(m_focused) ? look::QuietRingWidth * factor() : full;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(parentWidget()->palette().color(QPalette::Highlight), width));
-    const double inset = width / 2;
+    painter.setPen(
+        QPen(Tray::holds(*m_focused) ? QColor(look::FocusOnSlate)
+                                     : parentWidget()->palette().color(QPalette::Highlight),
+            width));
+    const double inset = full - width / 2; // next to the edge of the control
     const double radius = Radius * factor();
     painter.drawRoundedRect(
         QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);

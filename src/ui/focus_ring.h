@@ -8,8 +8,8 @@
 namespace ui {
 
 /// The ring around the control that has the focus, drawn outside its edge. Stands on a
-/// screen's canvas, above the controls, and follows the focus by itself. Its colour is the
-/// highlight of the canvas's palette.
+/// screen's canvas, above the controls, and follows the focus by itself. White where it
+/// stands on slate, else the highlight of the canvas's palette; thin around what is only read.
 class FocusRing : public QWidget, public Scalable {
 public:
     explicit FocusRing(QWidget* canvas);

@@ -6,21 +6,10 @@
 
 namespace ui {
 
-namespace {
-
-constexpr int FrameMilliseconds = 16;
-
-} // namespace
-
 Glide::Glide(Mover move, QObject* parent)
     : QObject(parent)
     , m_move(std::move(move))
-    , m_frames(this) // as a child it stops with the other timers of a screen that is closed
 {
-    m_clock.start();
-    m_frames.setTimerType(Qt::PreciseTimer);
-    m_frames.setInterval(FrameMilliseconds);
-    connect(&m_frames, &QTimer::timeout, this, &Glide::advance);
 }
 
 void Glide::send(QWidget* control, QPointF from, QPointF to)
@@ -31,37 +20,39 @@ void Glide::send(QWidget* control, QPointF from, QPointF to)
         put(control, to);
         return;
     }
-    cancel(control);
-    m_trips.push_back({control, from, to, m_clock.elapsed()});
-    if (!m_frames.isActive())
-        m_frames.start();
+    QVariantAnimation& trip = tripOf(control);
+    trip.stop();
+    trip.setStartValue(from);
+    trip.setEndValue(to);
+    trip.start();
 }
 
 void Glide::put(QWidget* control, QPointF place)
 {
-    cancel(control);
+    if (QVariantAnimation* trip = m_trips.value(control))
+        trip->stop();
     m_move(control, place.x(), place.y());
 }
 
-void Glide::cancel(QWidget* control)
+bool Glide::isMoving() const
 {
-    std::erase_if(m_trips, [control](const Trip& trip) { return trip.control == control; });
+    return std::ranges::any_of(m_trips,
+        [](const auto& trip) { return trip && trip->state() == QVariantAnimation::Running; });
 }
 
-void Glide::advance()
+QVariantAnimation& Glide::tripOf(QWidget* control)
 {
-    const qint64 now = m_clock.elapsed();
-    for (const Trip& trip : m_trips) {
-        if (!trip.control)
-            continue;
-        const double done = std::min(1.0, static_cast<double>(now - trip.start) / Milliseconds);
-        const QPointF place = trip.from + (trip.to - trip.from) * done;
-        m_move(trip.control, place.x(), place.y());
+    QPointer<QVariantAnimation>& trip = m_trips[control];
+    if (!trip) {
+        trip = new QVariantAnimation(control);
+        trip->setDuration(Milliseconds);
+        connect(trip, &QVariantAnimation::valueChanged, this,
+            [this, control, made = trip.data()](const QVariant& place) {
+                if (made->state() == QVariantAnimation::Running)
+                    m_move(control, place.toPointF().x(), place.toPointF().y());
+            });
     }
-    std::erase_if(m_trips,
-        [now](const Trip& trip) { return !trip.control || now - trip.start >= Milliseconds; });
-    if (m_trips.empty())
-        m_frames.stop();
+    return *trip;
 }
 
 } // namespace ui

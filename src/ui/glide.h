@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QElapsedTimer>
+#include <QHash>
 #include <QPointer>
-#include <QTimer>
+#include <QVariantAnimation>
 #include <QWidget>
 
 #include <functional>
-#include <vector>
 
 namespace ui {
 
@@ -28,23 +27,13 @@ public:
     /// Puts a control to its place at once.
     void put(QWidget* control, QPointF place);
 
-    bool isMoving() const { return m_frames.isActive(); }
+    bool isMoving() const;
 
 private:
-    struct Trip {
-        QPointer<QWidget> control;
-        QPointF from;
-        QPointF to;
-        qint64 start; ///< on m_clock, in milliseconds
-    };
-
-    void cancel(QWidget* control);
-    void advance();
+    QVariantAnimation& tripOf(QWidget* control);
 
     Mover m_move;
-    QTimer m_frames;
-    QElapsedTimer m_clock;
-    std::vector<Trip> m_trips;
+    QHash<QWidget*, QPointer<QVariantAnimation>> m_trips; ///< each goes with its control
 };
 
 } // namespace ui

@@ -5,9 +5,14 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <utility>
+
 namespace ui {
 
 namespace {
+
+/// In milliseconds; no keyboard is set to repeat a key sooner.
+constexpr quint64 ShortestRepeatDelay = 100;
 
 /// The physical key, where the platform tells it: Shift changes what a key means while it is
 /// down.
@@ -81,24 +86,25 @@ bool HeldKeys::pressCounts(const QKeyEvent& event)
     const quint32 key = keyOf(event);
     QObject* control = controlWithKeyboard();
     if (!isRepeat(event)) {
-        m_presses[key] = {control};
+        m_presses[key] = Press{control, event.timestamp()};
         return true;
     }
     const auto found = m_presses.find(key);
     if (found == m_presses.end())
         return false;
     Press& press = found->second;
-    press.releasedAt = 0;
+    press.down = true;
     return !press.dead && press.control == control && movesOrErases(event);
 }
 
 bool HeldKeys::releaseCounts(const QKeyEvent& event)
 {
     const auto found = m_presses.find(keyOf(event));
-    if (event.isAutoRepeat() || found == m_presses.end())
+    if (event.isAutoRepeat() || found == m_presses.end() || !found->second.down)
         return false;
-    found->second.releasedAt = event.timestamp();
-    return !found->second.dead;
+    Press& press = found->second;
+    press.down = false;
+    return !std::exchange(press.releasedAt, event.timestamp()) && !press.dead;
 }
 
 // X11 repeats a key as a release and a press of the same time. When the toolkit reads the
@@ -108,8 +114,8 @@ bool HeldKeys::isRepeat(const QKeyEvent& event) const
     if (event.isAutoRepeat())
         return true;
     const auto found = m_presses.find(keyOf(event));
-    return found != m_presses.end() && found->second.releasedAt != 0
-        && found->second.releasedAt == event.timestamp();
+    return found != m_presses.end() && found->second.releasedAt == event.timestamp()
+        && event.timestamp() >= found->second.pressedAt + ShortestRepeatDelay;
 }
 
 } // namespace ui

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <optional>
 #include <unordered_map>
 
 class QKeyEvent;
@@ -22,8 +23,10 @@ public:
 private:
     struct Press {
         QPointer<QObject> control; ///< that it was meant for
+        quint64 pressedAt = 0; ///< its time stamp
+        bool down = true;
         bool dead = false; ///< another window has got the keyboard since
-        quint64 releasedAt = 0; ///< the release's time stamp; 0 while the key is down
+        std::optional<quint64> releasedAt; ///< the time stamp of its last release
     };
 
     bool pressCounts(const QKeyEvent& event);

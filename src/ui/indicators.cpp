@@ -43,7 +43,7 @@ bool isEnabled(const QStyleOption& option)
 QRectF prepare(QPainter& painter, const QStyleOption& option, double factor)
 {
     const double width = EdgeWidth * factor;
-    painter.setPen(QPen(QColor(isEnabled(option) ? look::Quiet : look::Line), width));
+    painter.setPen(QPen(QColor(isEnabled(option) ? look::Quiet : look::Edge), width));
     const bool down = option.state & QStyle::State_Sunken;
     painter.setBrush(QColor(isEnabled(option) && !down ? look::Card : look::Paper));
     const double side = std::min(option.rect.width(), option.rect.height()) - width;

@@ -1,30 +1,13 @@
 #include "ui/look.h"
 
-#include <QStringList>
+#include "ui/fonts.h"
 
 #include <algorithm>
 #include <cmath>
 
-using namespace Qt::StringLiterals;
-
 namespace ui::look {
 
 namespace {
-
-constexpr double ReadableContrast = 4.5;
-
-QStringList families(Family family)
-{
-    switch (family) {
-    case Family::CourierNew:
-        return {u"Courier New"_s, u"Liberation Mono"_s, u"monospace"_s};
-    case Family::Verdana:
-        return {u"Verdana"_s, u"DejaVu Sans"_s, u"sans-serif"_s};
-    case Family::Arial:
-        break;
-    }
-    return {u"Arial"_s, u"Liberation Sans"_s, u"sans-serif"_s};
-}
 
 double luminance(const QColor& colour)
 {
@@ -46,7 +29,7 @@ QColor mixedWithPaper(const QColor& fill)
 
 QFont scaled(const Font& font, double factor)
 {
-    QFont result(families(font.family));
+    QFont result(familiesOf(font.family));
     // Cut, not rounded: a text that fits at factor 1 then fits at every factor.
     result.setPixelSize(std::max(1, static_cast<int>(font.pixels * factor + 0.001)));
     result.setBold(font.bold);
@@ -61,7 +44,7 @@ QPalette palette()
     const QColor quiet(Quiet);
     const QColor paper(Paper);
     const QColor card(Card);
-    const QColor line(Line);
+    const QColor line(Edge);
 
     QPalette palette(ink, paper, card, line.darker(150), line, ink, card, card, paper);
     palette.setColor(QPalette::AlternateBase, paper);
@@ -76,7 +59,7 @@ QPalette palette()
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, quiet);
     palette.setColor(QPalette::Disabled, QPalette::Base, paper);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, line);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, line.lighter(150));
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ink);
     return palette;
 }
@@ -86,8 +69,18 @@ QPalette displayed()
     QPalette result = palette();
     result.setColor(QPalette::Base, Qt::transparent);
     result.setColor(QPalette::Text, QColor(Ink));
-    result.setColor(QPalette::Highlight, QColor(Shown));
+    result.setColor(QPalette::Highlight, QColor(Marker));
     result.setColor(QPalette::HighlightedText, QColor(Ink));
+    return result;
+}
+
+QPalette onSlate()
+{
+    QPalette result = palette();
+    result.setColor(QPalette::Window, QColor(Slate));
+    result.setColor(QPalette::WindowText, QColor(Chalk));
+    result.setColor(QPalette::Highlight, QColor(FocusOnSlate));
+    result.setColor(QPalette::HighlightedText, QColor(Slate));
     return result;
 }
 
@@ -102,6 +95,13 @@ QPalette filled(const QColor& fill)
     result.setColor(QPalette::Disabled, QPalette::ButtonText,
         contrast(quiet, faded) >= ReadableContrast ? quiet : inkOn(faded));
     return result;
+}
+
+QColor edgeOf(const QColor& fill)
+{
+    constexpr double Share = 0.6;
+    return QColor::fromRgbF(static_cast<float>(fill.redF() * Share),
+        static_cast<float>(fill.greenF() * Share), static_cast<float>(fill.blueF() * Share));
 }
 
 double contrast(const QColor& a, const QColor& b)

@@ -7,17 +7,29 @@
 /// Colours, fonts and measures of the whole program. Measures are pixels at factor 1.
 namespace ui::look {
 
-inline constexpr QRgb Paper = 0xFFFAF7F0; ///< window background
+// Surfaces.
+inline constexpr QRgb Slate = 0xFF26323C; ///< ground of the menu, of wide windows, of trays
+inline constexpr QRgb Paper = 0xFFFAF7F0; ///< where work is read and written
 inline constexpr QRgb Card = 0xFFFFFFFF; ///< entry boxes, squared paper, lists
-inline constexpr QRgb Ink = 0xFF16202B; ///< text, digits, lines of an operation
-inline constexpr QRgb Quiet = 0xFF55616E; ///< secondary text, disabled labels
-inline constexpr QRgb Line = 0xFFB9C2CC; ///< edges of boxes
-inline constexpr QRgb Grid = 0xFFCFE2F0; ///< squares of squared paper
-inline constexpr QRgb Focus = 0xFF1557C0; ///< focus ring, caret, list selection
-inline constexpr QRgb Shown = 0xFFD6E4FA; ///< highlight of a text that is shown selected
-inline constexpr QRgb Right = 0xFF1B7F3B; ///< the tick beside a verdict
-inline constexpr QRgb Wrong = 0xFFC62828; ///< the cross beside a verdict
+inline constexpr QRgb CardFocused = 0xFFFFFBEA; ///< the entry box that is typed into
 
+// What is written and drawn on them.
+inline constexpr QRgb Ink = 0xFF16202B; ///< text, digits, lines of an operation
+inline constexpr QRgb Quiet = 0xFF55616E; ///< units, counters, disabled labels
+inline constexpr QRgb Edge = 0xFF7E8A96; ///< edges of boxes
+inline constexpr QRgb Grid = 0xFFCFE2F0; ///< squares of squared paper
+inline constexpr QRgb Chalk = 0xFFFAF7F0; ///< text on slate
+
+// Marks.
+inline constexpr QRgb Focus = 0xFF1557C0; ///< focus mark on paper, caret, list selection
+inline constexpr QRgb FocusOnSlate = 0xFFFFFFFF;
+inline constexpr QRgb Marker = 0xFFFFF3C4; ///< stripe behind a text that is shown selected
+inline constexpr QRgb Here = 0xFFFFE9A8; ///< the square to be written next
+inline constexpr QRgb Right = 0xFF1B7F3B; ///< disc of a verdict, edge of the answer box
+inline constexpr QRgb Wrong = 0xFFC62828;
+inline constexpr QRgb Gold = 0xFFF5B301; ///< star of a right answer
+
+// Fills of action buttons.
 inline constexpr QRgb Red = 0xFFFF0000; ///< 255 as a stored 24-bit colour
 inline constexpr QRgb Green = 0xFF00FF00; ///< 65280
 inline constexpr QRgb Yellow = 0xFFFFFF00; ///< 65535
@@ -26,35 +38,51 @@ inline constexpr QRgb Cyan = 0xFF00FFFF; ///< 16776960
 inline constexpr int MenuBarHeight = 28;
 inline constexpr int BoxMargin = 6; ///< between the edge of an entry box and its text
 inline constexpr int CornerMargin = 3; ///< keeps what a box holds off its round corners
-inline constexpr int RingWidth = 3; ///< focus ring
+inline constexpr double BoxRadius = 6; ///< corners of boxes
+inline constexpr double EdgeWidth = 1.5; ///< of boxes and buttons
+inline constexpr int JudgedEdgeWidth = 3; ///< of an answer box beside its verdict
+inline constexpr int RingWidth = 4; ///< focus mark
+inline constexpr double QuietRingWidth = 1.5; ///< focus mark of a text that is only read
+inline constexpr int CaretWidth = 3;
 
-enum class Family { Arial, CourierNew, Verdana };
+/// Andika wherever no font is asked for by name.
+enum class Family { Andika, Arial, CourierNew, Verdana };
 
 /// A font of a control: its size is in pixels at factor 1 and follows the screen's factor.
 struct Font {
-    Family family = Family::Arial;
+    Family family = Family::Andika;
     int pixels = 15;
     bool bold = false;
 };
 
-inline constexpr Font Counters{Family::Arial, 12};
-inline constexpr Font Instruction{Family::Arial, 15};
-inline constexpr Font Verdict{Family::Arial, 17, true};
-inline constexpr Font BoxText{Family::Arial, 18}; ///< of message and input boxes
-inline constexpr Font Command{Family::Arial, 13, true};
+inline constexpr Font Counters{Family::Andika, 12};
+inline constexpr Font Instruction{Family::Andika, 15};
+inline constexpr Font Verdict{Family::Andika, 20, true};
+inline constexpr Font Command{Family::Andika, 14, true};
+inline constexpr Font BoxText{Family::Andika, 18}; ///< of message and input boxes
 
-/// The font at a factor, with a metric-compatible fallback family.
+/// The font at a factor; where the family is not installed, its metric twin. The first font of
+/// a family loads what travels beside the executable, where the system lacks it.
 QFont scaled(const Font& font, double factor);
 
 /// The light palette of the program, complete, so that nothing of the desktop's shows.
 QPalette palette();
 
-/// The palette of a text that is only shown: no fill, a quiet highlight, ink even when
+/// The palette of a text that is only shown: no fill, a marker as highlight, ink even when
 /// disabled.
 QPalette displayed();
 
+/// The palette of what stands on the slate ground: text of chalk, white focus mark.
+QPalette onSlate();
+
 /// The palette of a control filled with a colour, its text readable on it.
 QPalette filled(const QColor& fill);
+
+/// The edge of a filled control: its colour, 40 % darker.
+QColor edgeOf(const QColor& fill);
+
+inline constexpr double ReadableContrast = 4.5; ///< of a text, with its ground
+inline constexpr double FindableContrast = 3; ///< of an edge or a mark
 
 /// WCAG contrast ratio of two colours, 1 to 21.
 double contrast(const QColor& a, const QColor& b);

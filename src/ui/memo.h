@@ -19,7 +19,14 @@ public:
 
     void setFactor(double factor) override;
 
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    void setSurface(QRgb surface);
+
     Kind m_kind;
 };
 

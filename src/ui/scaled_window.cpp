@@ -1,6 +1,7 @@
 #include "ui/scaled_window.h"
 
 #include "ui/focus_ring.h"
+#include "ui/ground.h"
 #include "ui/opening_factor.h"
 
 #include <QMenuBar>
@@ -25,6 +26,7 @@ ScaledWindow::ScaledWindow(double width, double height)
     , m_designWidth(width)
     , m_designHeight(height)
 {
+    new Ground(*canvas());
 }
 
 void ScaledWindow::setDesignSize(double width, double height)

@@ -1,9 +1,9 @@
 #include "ui/squared_box.h"
 
 #include "ui/look.h"
+#include "ui/marks.h"
 
 #include <QFocusEvent>
-#include <QInputMethodEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
 
@@ -17,8 +17,8 @@ namespace ui {
 namespace {
 
 constexpr double DigitShare = 0.8; // of the height of a square
+constexpr double WidthShare = 0.8; // of its width
 constexpr double LargestType = 34; // pixels at factor 1
-constexpr double CaretWidth = 2;
 constexpr double CaretGap = 3; // from the edges: at one, it would melt into the focus ring
 constexpr double CaretGapShare = 0.2; // of a square, at most
 // QLineEdit's own, inside the margins that can be set; right-aligned text ends two pixels
@@ -35,7 +35,8 @@ int SquaredBox::fittingSize(QFont font, double width, double height)
     font.setPixelSize(Reference);
     const QFontMetricsF metrics(font);
     const double byHeight = height * DigitShare / metrics.tightBoundingRect(u"0"_s).height();
-    const double byWidth = width / metrics.horizontalAdvance(u'0');
+    // The ink counts, not the advance: letter spacing makes up for what overlaps.
+    const double byWidth = width * WidthShare / metrics.tightBoundingRect(u"0"_s).width();
     return std::max(1, static_cast<int>(Reference * std::min(byHeight, byWidth)));
 }
 
@@ -48,8 +49,6 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
     onPaper.setColor(QPalette::Base, Qt::transparent);
     onPaper.setColor(QPalette::Highlight, Qt::transparent); // drawn by the box, in squares
     setPalette(onPaper);
-    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
-    hideOrdinaryCaret();
 }
 
 void SquaredBox::setBlankRun(int blanks)
@@ -115,27 +114,16 @@ void SquaredBox::focusInEvent(QFocusEvent*)
     TextBox::focusInEvent(&plain);
 }
 
-void SquaredBox::inputMethodEvent(QInputMethodEvent* event)
-{
-    TextBox::inputMethodEvent(event);
-    if (event->preeditString().isEmpty())
-        hideOrdinaryCaret();
-}
-
-void SquaredBox::hideOrdinaryCaret()
-{
-    QInputMethodEvent hidden({}, {{QInputMethodEvent::Cursor, 0, 0, {}}});
-    TextBox::inputMethodEvent(&hidden);
-}
-
 void SquaredBox::paintEvent(QPaintEvent* event)
 {
-    if (hasSelectedText())
+    if (hasSelectedText()) {
         QPainter(this).fillRect(
             strip(lineBefore(selectionStart()), lineBefore(selectionEnd())), m_highlight);
+    } else if (hasFocus() && !isReadOnly() && hereSquare().isValid()) {
+        QPainter painter(this);
+        drawHere(painter, hereSquare(), factor());
+    }
     TextBox::paintEvent(event);
-    if (hasFocus() && !isReadOnly())
-        QPainter(this).fillRect(caret(), QColor(look::Focus));
 }
 
 double SquaredBox::squarePixels() const
@@ -172,9 +160,24 @@ QRect SquaredBox::strip(double left, double right) const
         QPoint(qRound(right) - 1, qRound((m_top + m_height) * pixels) - 1));
 }
 
-QRect SquaredBox::caret() const
+/// Where the next digit will stand, when that square is empty; else an invalid one.
+QRect SquaredBox::hereSquare() const
 {
-    const int thickness = std::max(1, qRound(CaretWidth * factor()));
+    const bool fromLeft = alignment() & Qt::AlignLeft;
+    const bool behindText = cursorPosition() == (fromLeft ? text().size() : 0);
+    const double line = lineBefore(cursorPosition());
+    const double left = fromLeft ? line : line - squarePixels();
+    if (!behindText || left < -1 || left + squarePixels() > width() + 1)
+        return {};
+    return strip(left, left + squarePixels());
+}
+
+/// A line between two squares, where the marked square alone would not tell the place.
+QRect SquaredBox::caretRect() const
+{
+    if (hereSquare().isValid())
+        return {};
+    const int thickness = std::max(1, qRound(look::CaretWidth * factor()));
     const int gap = qRound(std::min(CaretGap * factor(), CaretGapShare * squarePixels()));
     const int at = qRound(lineBefore(cursorPosition())) - thickness / 2;
     const int left = std::clamp(at, gap, std::max(gap, width() - gap - thickness));

@@ -5,9 +5,8 @@
 namespace ui {
 
 /// A text box on squared paper: usually right-aligned, one character to a square, the last one in
-/// the square at its right edge; its caret stands on the line between two squares, and a
-/// selection covers whole squares. The caret stays where it was when the box gets the focus,
-/// so that the next digit goes there.
+/// the square at its right edge; the square in which the next digit will stand is marked, and a
+/// selection covers whole squares. The place stays where it was when the box gets the focus.
 class SquaredBox : public TextBox {
 public:
     SquaredBox(Kind kind, QWidget* parent);
@@ -33,16 +32,15 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
-    void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void hideOrdinaryCaret();
     double squarePixels() const;
     int columnsFrom(int index) const;
     double lineBefore(int index) const;
     QRect strip(double left, double right) const;
-    QRect caret() const;
+    QRect caretRect() const override;
+    QRect hereSquare() const;
 
     QColor m_highlight;
     double m_width = 250;

@@ -39,18 +39,25 @@ void SquaredPaper::setSquare(const TwipRect& square)
     update();
 }
 
+void SquaredPaper::setFill(const QColor& fill)
+{
+    m_fill = fill;
+    update();
+}
+
 void SquaredPaper::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const int pen = std::max(1, static_cast<int>(factor()));
     const QColor grid(look::Grid);
-    painter.fillRect(rect(), QColor(look::Card));
+    painter.fillRect(rect(), m_fill);
     forEachLine(m_square.left, m_square.width, factor(), x(), x() + width(),
         [&](int at) { painter.fillRect(at - pen / 2, 0, pen, height(), grid); });
     forEachLine(m_square.top, m_square.height, factor(), y(), y() + height(),
         [&](int at) { painter.fillRect(0, at - pen / 2, width(), pen, grid); });
-    painter.setPen(QPen(QColor(look::Line), pen));
-    painter.drawRect(QRectF(rect()).adjusted(pen / 2.0, pen / 2.0, -pen / 2.0, -pen / 2.0));
+    const double edge = std::max(1.0, std::round(look::EdgeWidth * factor()));
+    painter.setPen(QPen(QColor(look::Edge), edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2));
 }
 
 } // namespace ui

@@ -15,11 +15,15 @@ public:
     /// One of the squares, in twips on the parent; all others line up with it.
     void setSquare(const TwipRect& square);
 
+    /// Another ground than white, where only a part of the sheet can be written.
+    void setFill(const QColor& fill);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     TwipRect m_square{0, 0, 250, 250};
+    QColor m_fill = look::Card;
 };
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #include "ui/style.h"
 
+#include "ui/access_keys.h"
 #include "ui/box_icons.h"
 #include "ui/faces.h"
 #include "ui/indicators.h"
@@ -23,7 +24,7 @@ namespace ui {
 namespace {
 
 // Pixels at factor 1.
-constexpr QSize SmallestButton(96, 44); // where a layout decides, as in boxes
+constexpr QSize SmallestButton(110, 44); // where a layout decides, as in boxes
 constexpr QSize SmallestEntry(0, 44); // there too
 constexpr int LayoutMargin = 16; // in boxes, and 8 between what stands in them
 constexpr int LayoutSpacing = 8;
@@ -36,22 +37,17 @@ bool standsInBox(const QWidget* widget)
     return widget == nullptr || qobject_cast<const QDialog*>(widget->window()) != nullptr;
 }
 
-void drawEntry(
-    QPainter& painter, const QStyleOption& option, const QWidget* widget, double factor)
+bool hasFrame(const QWidget* entry)
 {
-    const auto* entry = qobject_cast<const QLineEdit*>(widget);
-    if (entry != nullptr && !entry->hasFrame())
-        return;
-    if (!standsInBox(widget) || !(option.state & QStyle::State_HasFocus))
-        drawBox(painter, option, factor);
-    else
-        drawFocusedBox(painter, option, factor);
+    const auto* line = qobject_cast<const QLineEdit*>(entry);
+    return line == nullptr || line->hasFrame();
 }
 
 } // namespace
 
 Style::Style()
     : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
+    , m_accessKeys(new AccessKeys(this))
 {
 }
 
@@ -69,7 +65,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     const double factor = factorOf(widget);
     switch (element) {
     case PE_PanelLineEdit:
-        drawEntry(*painter, *option, widget, factor);
+        if (hasFrame(widget))
+            drawEntry(*painter, *option, factor, standsInBox(widget));
         return;
     case PE_Frame:
         drawBox(*painter, *option, factor);
@@ -106,13 +103,13 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     }
     if (element == CE_MenuBarItem) {
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
-            drawMenuBarItem(*painter, *item);
+            drawMenuBarItem(*painter, *item, m_accessKeys->areShown(widget));
             return;
         }
     }
     if (element == CE_PushButtonLabel) {
         if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
-            drawButtonLabel(*painter, *button, factor);
+            drawButtonLabel(*painter, *button, factor, m_accessKeys->areShown(widget));
             return;
         }
     }
@@ -149,9 +146,10 @@ int Style::pixelMetric(
     case PM_RadioButtonLabelSpacing:
     case PM_ScrollBarExtent:
     case PM_ScrollBarSliderMin:
-    case PM_TextCursorWidth:
     case PM_MenuButtonIndicator:
         return qRound(plain * factorOf(widget));
+    case PM_TextCursorWidth:
+        return qRound(look::CaretWidth * factorOf(widget));
     default:
         return plain;
     }
@@ -197,7 +195,9 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     case SH_DialogButtonLayout: // "Aceptar" before "Cancelar", "Sí" before "No" on any desktop
         return QDialogButtonBox::WinLayout;
     case SH_UnderlineShortcut:
-        return 1;
+        return m_accessKeys->areShown(widget) ? 1 : 0;
+    case SH_MessageBox_CenterButtons: // at the right, as in every dialog
+        return 0;
     case SH_BlinkCursorWhenTextSelected:
         return 0;
     case SH_RequestSoftwareInputPanel:

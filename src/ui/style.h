@@ -4,6 +4,8 @@
 
 namespace ui {
 
+class AccessKeys;
+
 /// Fusion with the program's own buttons, boxes and measures, which follow the factor of
 /// the screen that a control stands on.
 class Style : public QProxyStyle {
@@ -24,6 +26,9 @@ public:
         const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
         QStyleHintReturn* returnData) const override;
+
+private:
+    AccessKeys* m_accessKeys;
 };
 
 } // namespace ui

@@ -1,36 +1,18 @@
 #include "ui/text_box.h"
 
-#include "ui/announcement.h"
 #include "ui/look.h"
+#include "ui/text_box_accessible.h"
 
-#include <QEvent>
+#include <QInputMethodEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
-#include <utility>
 
 namespace ui {
 
 namespace {
 
-constexpr double MarkGap = 8; // pixels at factor 1
-
-void drawTick(QPainter& painter, const QRectF& square)
-{
-    QPainterPath path(QPointF(square.left() + square.width() * 0.08, square.center().y()));
-    path.lineTo(square.left() + square.width() * 0.38, square.bottom() - square.height() * 0.16);
-    path.lineTo(square.right() - square.width() * 0.06, square.top() + square.height() * 0.14);
-    painter.drawPath(path);
-}
-
-void drawCross(QPainter& painter, const QRectF& square)
-{
-    const double inset = square.width() * 0.16;
-    const QRectF inner = square.adjusted(inset, inset, -inset, -inset);
-    painter.drawLine(inner.topLeft(), inner.bottomRight());
-    painter.drawLine(inner.topRight(), inner.bottomLeft());
-}
+constexpr double CaretGap = 6; // from the upper and lower edge, in pixels at factor 1
 
 } // namespace
 
@@ -38,7 +20,10 @@ TextBox::TextBox(Kind kind, QWidget* parent)
     : QLineEdit(parent)
     , m_kind(kind)
 {
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
+    hideOrdinaryCaret();
     if (m_kind == Kind::Display) {
+        installTextBoxAccessible();
         setReadOnly(true);
         setFrame(false);
         setFocusPolicy(Qt::NoFocus);
@@ -66,7 +51,7 @@ void TextBox::setExtraMargins(double left, double right)
 {
     m_extraLeft = left;
     m_extraRight = right;
-    setFactor(factor());
+    TextBox::setFactor(factor()); // its own part alone: a derived one may have led here
 }
 
 void TextBox::showSelected()
@@ -99,55 +84,56 @@ void TextBox::focusOutEvent(QFocusEvent* event)
         setSelection(start, length);
 }
 
-VerdictBox::VerdictBox(QWidget* parent)
-    : TextBox(Kind::Display, parent)
+void TextBox::inputMethodEvent(QInputMethodEvent* event)
 {
-    setMarkSize(m_markSize);
+    QLineEdit::inputMethodEvent(event);
+    if (event->preeditString().isEmpty())
+        hideOrdinaryCaret();
 }
 
-void VerdictBox::setMarkSize(double pixels)
+/// It would be painted in the inverse of the ground, as thin as a letter.
+void TextBox::hideOrdinaryCaret()
 {
-    m_markSize = pixels;
-    setExtraMargins(m_markSize + MarkGap, 0);
+    QInputMethodEvent hidden({}, {{QInputMethodEvent::Cursor, 0, 0, {}}});
+    QLineEdit::inputMethodEvent(&hidden);
 }
 
-void VerdictBox::setVerdict(const QString& text, Mark mark)
+QRect TextBox::caretRect() const
 {
-    m_mark = mark;
-    if (m_palette)
-        setPalette(*std::exchange(m_palette, std::nullopt));
-    setText(text);
-    update();
-    if (!text.isEmpty())
-        announce(*this, text);
+    constexpr int Beside = 5; // what the toolkit's rectangle keeps free left of the caret
+    const int thickness = std::max(1, qRound(look::CaretWidth * factor()));
+    const int gap = qRound(CaretGap * factor());
+    const int left = cursorRect().left() + Beside - thickness / 2;
+    const QRect line(left, cursorRect().top(), thickness, cursorRect().height());
+    return line.intersected(rect().adjusted(0, gap, 0, -gap));
 }
 
-void VerdictBox::retire()
+void TextBox::paintEvent(QPaintEvent* event)
 {
-    m_mark = Mark::None;
-    if (!m_palette)
-        m_palette = palette();
-    QPalette quiet = *m_palette;
-    quiet.setColor(QPalette::Text, QColor(look::Quiet));
-    setPalette(quiet);
-    update();
+    QLineEdit::paintEvent(event);
+    if (m_edge)
+        drawEdge();
+    if (hasFocus() && !isReadOnly() && !hasSelectedText())
+        QPainter(this).fillRect(caretRect(), QColor(look::Focus));
 }
 
-void VerdictBox::paintEvent(QPaintEvent* event)
+void TextBox::drawEdge()
 {
-    TextBox::paintEvent(event);
-    if (m_mark == Mark::None || text().isEmpty())
-        return;
-    const double size = std::min(m_markSize * factor(), height() - 2.0);
+    const double pen = look::JudgedEdgeWidth * factor();
+    const double radius = look::BoxRadius * factor();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor colour(m_mark == Mark::Right ? look::Right : look::Wrong);
-    painter.setPen(QPen(colour, size * 0.18, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QRectF square(2 * factor(), (height() - size) / 2, size, size);
-    if (m_mark == Mark::Right)
-        drawTick(painter, square);
-    else
-        drawCross(painter, square);
+    painter.setPen(QPen(*m_edge, pen));
+    painter.drawRoundedRect(
+        QRectF(rect()).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2), radius, radius);
+}
+
+void TextBox::setEdge(const std::optional<QColor>& colour)
+{
+    if (m_edge == colour)
+        return;
+    m_edge = colour;
+    update();
 }
 
 } // namespace ui

@@ -2,6 +2,7 @@
 
 #include "ui/scaling.h"
 
+#include <QColor>
 #include <QLineEdit>
 
 #include <optional>
@@ -19,10 +20,16 @@ public:
 
     TextBox(Kind kind, QWidget* parent);
 
+    Kind kind() const { return m_kind; }
+
     void setFactor(double factor) override;
 
     /// Lets a text that is only shown take the focus, and the mouse with it.
     void allowFocus(Qt::FocusPolicy policy);
+
+    /// Gives the box an edge of this colour, thick enough to be seen from afar; none: as ever.
+    void setEdge(const std::optional<QColor>& colour);
+    std::optional<QColor> edge() const { return m_edge; }
 
     /// Highlights the whole text, for as long as it is not changed or deselected.
     void showSelected();
@@ -30,40 +37,23 @@ public:
 protected:
     bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+    /// Where the caret is painted; it neither blinks nor stands beside a selection.
+    virtual QRect caretRect() const;
 
     /// Space for text, in pixels at factor 1, beyond the usual margin.
     void setExtraMargins(double left, double right);
 
 private:
+    void hideOrdinaryCaret();
+    void drawEdge();
+
     Kind m_kind;
     double m_extraLeft = 0;
     double m_extraRight = 0;
-};
-
-/// The line that says how a check came out: a tick or a cross at its left, and the text
-/// exactly as given. A change is announced to assistive tools.
-class VerdictBox : public TextBox {
-public:
-    enum class Mark { None, Right, Wrong };
-
-    explicit VerdictBox(QWidget* parent);
-
-    void setVerdict(const QString& text, Mark mark);
-    /// What the verdict was about is gone: its text stays, quiet and without its mark, until
-    /// the next verdict.
-    void retire();
-    Mark mark() const { return m_mark; }
-
-    /// The side of the tick or cross, in pixels at factor 1.
-    void setMarkSize(double pixels);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    Mark m_mark = Mark::None;
-    double m_markSize = 18;
-    std::optional<QPalette> m_palette; ///< of the next verdict, while one is retired
+    std::optional<QColor> m_edge;
 };
 
 } // namespace ui

@@ -1,6 +1,7 @@
 #include "written/work_area.h"
 
 #include "ui/look.h"
+#include "ui/marks.h"
 #include "ui/squared_box.h"
 #include "written/work_area_accessible.h"
 
@@ -279,8 +280,10 @@ void WorkArea::paintCell(QPainter& painter, int position) const
     const bool written = position == cursorPosition() && m_grid.isWritable(position);
     if (selected && hasFocus())
         painter.fillRect(cell, QColor(ui::look::Focus));
-    else if (selected || composed || (written && hasFocus()))
-        painter.fillRect(cell, QColor(ui::look::Shown));
+    else if (selected || composed)
+        painter.fillRect(cell, QColor(ui::look::Marker));
+    else if (written && hasFocus())
+        ui::drawHere(painter, cell, factor());
     painter.setPen(QColor(selected && hasFocus() ? ui::look::Card : ui::look::Ink));
     paintCharacter(painter, cell,
         composed ? m_composed.at(position - cursorPosition()) : m_grid.text().at(position));

@@ -2,6 +2,7 @@
 
 #include "games/rain_drop.h"
 #include "games/rain_game.h"
+#include "support/animation_clock.h"
 #include "support/screen_bench.h"
 #include "support/still_style.h"
 #include "ui/glide.h"
@@ -278,6 +279,7 @@ private slots:
     void aNumberLaunchedIntoAUsedSlotStartsAtTheTop()
     {
         QApplication::setStyle(new ui::Style); // a glide from the old place would show
+        AnimationClock clock;
         run();
         launch(7, 5, 4);
         for (int steps = 0; steps < 5; ++steps)
@@ -286,7 +288,7 @@ private slots:
         QCOMPARE(launch(1, 1, 2), 0);
         QCOMPARE(drop(0).text(), u"2"_s);
         QCOMPARE(drop(0).pos(), at(500, 780));
-        QTest::qWait(40);
+        clock.pass(ui::Glide::Milliseconds);
         QCOMPARE(drop(0).pos(), at(500, 780));
     }
 
@@ -513,21 +515,22 @@ private slots:
     void numbersGlideDownAndStayHittable()
     {
         QApplication::setStyle(new ui::Style);
+        AnimationClock clock;
         run();
         launch(7, 5, 3);
         tick();
         int last = drop(0).y();
         QVERIFY(last < at(0, 1280).y());
-        QElapsedTimer clock;
-        clock.start();
-        while (clock.elapsed() < 100) {
-            QTest::qWait(5);
-            QVERIFY(drop(0).y() >= last);
+        for (const int frame : {20, 50, 30}) {
+            clock.pass(frame);
+            QVERIFY(drop(0).y() > last);
             last = drop(0).y();
         }
-        QVERIFY(last > at(0, 780).y());
+        QVERIFY(last < at(0, 1280).y());
         tick(); // before the glide has ended
-        QVERIFY(drop(0).y() >= last);
+        QCOMPARE(drop(0).y(), last);
+        clock.pass(ui::Glide::Milliseconds / 2);
+        QVERIFY(drop(0).y() > last);
         click(0);
         QCOMPARE(bench->text(u"Text2(0)"_s), u"150"_s);
     }
@@ -535,10 +538,11 @@ private slots:
     void aGlideEndsAtTheModelsPlace()
     {
         QApplication::setStyle(new ui::Style);
+        AnimationClock clock;
         run();
         launch(7, 5, 3);
         tick();
-        QTest::qWait(ui::Glide::Milliseconds + 60);
+        clock.pass(ui::Glide::Milliseconds);
         QCOMPARE(drop(0).pos(), at(3500, 1280));
     }
 

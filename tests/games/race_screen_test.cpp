@@ -1,9 +1,11 @@
 #include "games/race_screen.h"
 
 #include "games/race_options_screen.h"
+#include "support/animation_clock.h"
 #include "support/car_folder.h"
 #include "support/screen_bench.h"
 #include "support/still_style.h"
+#include "ui/glide.h"
 
 #include <QListWidget>
 
@@ -73,7 +75,7 @@ private slots:
         QVERIFY(!running());
         screen->hide();
         screen->show();
-        QTest::qWait(10);
+        runPendingEvents();
         QVERIFY(!dialog->isVisible());
     }
 
@@ -285,10 +287,11 @@ private slots:
     {
         openRace(7, 5);
         solve();
-        QTest::qWait(60);
+        const int clockStart = control<QTimer>(u"Timer1"_s).timerId(); // another one each time
+        const int rivalStart = control<QTimer>(u"Timer2"_s).timerId();
         solve();
-        QVERIFY(control<QTimer>(u"Timer1"_s).remainingTime() <= 1000 - 60);
-        QVERIFY(control<QTimer>(u"Timer2"_s).remainingTime() <= 450 - 60);
+        QCOMPARE(control<QTimer>(u"Timer1"_s).timerId(), clockStart);
+        QCOMPARE(control<QTimer>(u"Timer2"_s).timerId(), rivalStart);
     }
 
     void timersThatRunByThemselvesLoseTheRace()
@@ -583,9 +586,14 @@ private slots:
     void carsGlideToTheirExactPlace()
     {
         QApplication::setStyle(new ui::Style);
+        AnimationClock clock;
         openRace(7, 5);
         solve();
-        QTRY_COMPARE(car(0).x(), pixels(9500 - 9500.0 / 15));
+        QCOMPARE(car(0).x(), pixels(9500));
+        clock.pass(ui::Glide::Milliseconds / 2);
+        QVERIFY(car(0).x() < pixels(9500) && car(0).x() > pixels(9500 - 9500.0 / 15));
+        clock.pass(ui::Glide::Milliseconds / 2);
+        QCOMPARE(car(0).x(), pixels(9500 - 9500.0 / 15));
         QApplication::setStyle(new StillStyle);
     }
 
@@ -625,7 +633,7 @@ private:
         bench->attach(*screen);
         QTRY_VERIFY(bench->screens.loaded(u"DlgCarrera"_s));
         dialog = static_cast<DlgCarrera*>(bench->screens.loaded(u"DlgCarrera"_s));
-        ScreenBench::activate(*dialog);
+        makeActive(*dialog);
     }
 
     void openRace(int factor1, int factor2)
@@ -639,12 +647,8 @@ private:
     {
         QTest::mouseClick(
             &ScreenBench::find<QPushButton>(*dialog, u"OKButton"_s), Qt::LeftButton);
-        // A window manager hands the focus on when the dialog goes, now or a little later.
-        const auto isBack = [this] {
-            screen->activateWindow();
-            return QApplication::activeWindow() == screen && QApplication::focusWidget();
-        };
-        QTRY_VERIFY(isBack());
+        makeActive(*screen);
+        QVERIFY(QApplication::focusWidget());
     }
 
     void scriptFactors(int factor1, int factor2)

@@ -13,6 +13,12 @@ private:
     QString out;
     QString err;
 
+    /// With the line ends of every system.
+    static QString text(const QByteArray& written)
+    {
+        return QString::fromUtf8(written).replace(u"\r\n"_s, u"\n"_s);
+    }
+
     /// The exit status.
     int run(const QStringList& arguments, const QString& program)
     {
@@ -20,8 +26,8 @@ private:
         process.start(program, arguments);
         if (!process.waitForFinished(-1)) // the test's own time limit is enough
             return -1;
-        out = QString::fromUtf8(process.readAllStandardOutput());
-        err = QString::fromUtf8(process.readAllStandardError());
+        out = text(process.readAllStandardOutput());
+        err = text(process.readAllStandardError());
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
     int run(const QStringList& arguments)
@@ -74,8 +80,9 @@ private slots:
 
     void takesTheBankBesideItWithoutAnArgument()
     {
-        const QString copy = folder.filePath(u"pizarrin-banco"_s);
-        QVERIFY(QFile::copy(QString::fromUtf8(PIZARRIN_BANCO), copy));
+        const QFileInfo program(QString::fromUtf8(PIZARRIN_BANCO));
+        const QString copy = folder.filePath(program.fileName());
+        QVERIFY(QFile::copy(program.filePath(), copy));
         QVERIFY(QDir(folder.path()).mkdir(u"Recursos"_s));
         QVERIFY(!write(u"Recursos/Problemas3.dat"_s, "Bien [2_9]|{&1+1}||+\r\n").isEmpty());
         QCOMPARE(run({}, copy), 0);

@@ -117,8 +117,7 @@ private:
     /// Without a window manager, the window behind a closed box is not activated by itself.
     QString focusBehindBox()
     {
-        screen->activateWindow();
-        QCoreApplication::processEvents();
+        makeActive(*screen);
         return bench->focusName();
     }
     void store() { bench->click(u"CBAccion(0)"_s); }
@@ -429,7 +428,7 @@ private slots:
         QTest::mousePress(&cancel, Qt::LeftButton);
         QTest::mouseMove(&cancel, QPoint(-30, -30));
         QTest::mouseRelease(&cancel, Qt::LeftButton, {}, QPoint(-30, -30));
-        QTest::qWait(20);
+        runPendingEvents();
         QCOMPARE(bench->focusName(), u"Text1"_s);
         QCOMPARE(operations(), u"...."_s);
         QVERIFY(!screen->isUnloaded());
@@ -442,9 +441,7 @@ private slots:
         BoxAnswerer noBox;
         QWidget other;
         other.show();
-        other.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
-        QTest::qWait(20);
+        makeActive(other);
         QCOMPARE(operations(), u"...."_s);
     }
 

@@ -18,6 +18,8 @@ namespace {
 const QString SaveForever = u"--save-forever"_s;
 const QString SaveOnce = u"--save-once"_s;
 
+constexpr quint32 KillSeed = 20'240'901; // of the moments at which savers are killed
+
 /// A bank that is told from every other by each of its lines.
 QStringList manyLines(int generation)
 {
@@ -28,12 +30,25 @@ QStringList manyLines(int generation)
     return lines;
 }
 
+/// Prints a line before every save.
 int saveForever(const QString& folder)
 {
-    std::puts("saving");
-    std::fflush(stdout);
-    for (int generation = 1;; ++generation)
+    for (int generation = 1;; ++generation) {
+        std::puts("saving");
+        std::fflush(stdout);
         GuardarBanco(folder, manyLines(generation));
+    }
+}
+
+/// Waits until a saver has begun this many saves.
+bool waitForSaves(QProcess& saver, int saves)
+{
+    for (qsizetype begun = 0; begun < saves;) {
+        if (!saver.canReadLine() && !saver.waitForReadyRead())
+            return false;
+        begun += saver.readAllStandardOutput().count('\n');
+    }
+    return true;
 }
 
 /// Saves 2,000 lines and prints what was wrong with it.
@@ -405,13 +420,13 @@ private slots:
     void aKillAtAnyMomentLeavesAWholeBank()
     {
         GuardarBanco(m_folder->path(), manyLines(0));
-        auto& random = *QRandomGenerator::global();
+        QRandomGenerator random(KillSeed);
         QSet<QString> generations;
         for (int round = 0; round < 60; ++round) {
             QProcess saver;
             saver.start(QCoreApplication::applicationFilePath(), {SaveForever, m_folder->path()});
-            QVERIFY(saver.waitForReadyRead());
-            QThread::usleep(random.bounded(60'000u));
+            QVERIFY(waitForSaves(saver, 1 + random.bounded(4)));
+            QThread::usleep(random.bounded(20'000u));
             saver.kill();
             QVERIFY(saver.waitForFinished());
             QCOMPARE(saver.exitStatus(), QProcess::CrashExit);

@@ -420,7 +420,7 @@ private slots:
         bench->pick(u"MnuOpcGes"_s);
         ui::Screen* editor = bench->screens.loaded(u"DLGProblemas"_s);
         QVERIFY(editor);
-        ScreenBench::activate(*editor);
+        makeActive(*editor);
         QVERIFY(!editor->isModal());
         QVERIFY(!screen->isVisible());
         QCOMPARE(bench->screens.loaded(u"FormProblemas"_s), screen);
@@ -682,7 +682,7 @@ private:
     void closeDialog(const QString& button) const
     {
         ui::Screen& dialog = *bench->screens.loaded(u"DLGSelProb"_s);
-        ScreenBench::activate(dialog);
+        makeActive(dialog);
         QTest::mouseClick(&ScreenBench::find<QPushButton>(dialog, button), Qt::LeftButton);
     }
     /// Accepts a selection; the next problem is that of this line of the bank of five.

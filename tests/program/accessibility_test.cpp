@@ -138,13 +138,13 @@ private slots:
                 break; // it never loses the focus
             QWidget* other = control == order.first() ? order.last() : order.first();
             other->setFocus(Qt::TabFocusReason);
-            QTest::qWait(1);
+            runPendingEvents();
             const QImage without =
                 screen.grab(placeOn(screen, *control).adjusted(-6, -6, 6, 6)).toImage();
             control->setFocus(Qt::TabFocusReason);
             if (!control->hasFocus())
                 continue; // it hands its focus on, to a control that is tried itself
-            QTest::qWait(1);
+            runPendingEvents();
             QVERIFY2(screen.grab(placeOn(screen, *control).adjusted(-6, -6, 6, 6)).toImage()
                     != without,
                 qPrintable(control->objectName()));
@@ -186,7 +186,7 @@ private:
         program->screens.show(name);
         ui::Screen& screen = *program->screens.loaded(name);
         if (name != u"FrmCarrera"_s) // its options come up at once, above it
-            ScreenBench::activate(screen);
+            makeActive(screen);
         return screen;
     }
 
@@ -205,6 +205,9 @@ private:
 
     static QAccessible::Role expectedRole(const QWidget* control)
     {
+        const auto* box = dynamic_cast<const ui::TextBox*>(control);
+        if (box != nullptr && box->kind() == ui::TextBox::Kind::Display)
+            return QAccessible::StaticText;
         if (qobject_cast<const QLineEdit*>(control) || qobject_cast<const QTextEdit*>(control)
             || qobject_cast<const QPlainTextEdit*>(control)
             || control->inherits("written::WorkArea"))

@@ -16,7 +16,7 @@ private slots:
         addScreens(*screens);
         screens->show(u"Form1"_s);
         menu = screens->loaded(u"Form1"_s);
-        QVERIFY(QTest::qWaitForWindowActive(menu));
+        makeActive(*menu);
     }
     void cleanup() { screens.reset(); }
 
@@ -130,12 +130,11 @@ private slots:
         auto& answer = ScreenBench::find<QLineEdit>(*problems, u"TBRespuesta"_s);
         QTest::keyClick(&answer, Qt::Key_7);
         problems->showMinimized();
-        menu->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(menu));
+        makeActive(*menu);
         QTest::mouseClick(&button(7), Qt::LeftButton);
         QCOMPARE(screens->loaded(u"FormProblemas"_s), problems);
         QVERIFY(problems->isVisible() && !problems->isMinimized());
-        QVERIFY(QTest::qWaitForWindowActive(problems));
+        makeActive(*problems);
         QCOMPARE(answer.text(), u"7"_s);
         QVERIFY(menu->isVisible());
     }

@@ -59,7 +59,7 @@ private slots:
         bench->screens.setMainScreen(u"Form1"_s);
         bench->screens.show(u"Form1"_s);
         menu = bench->screens.loaded(u"Form1"_s);
-        QVERIFY(QTest::qWaitForWindowActive(menu));
+        makeActive(*menu);
     }
     void cleanup() { bench.reset(); }
 

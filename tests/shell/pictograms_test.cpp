@@ -1,10 +1,11 @@
 #include "shell/pictograms.h"
+#include "ui/look.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QTest>
 
-#include <utility>
+#include <algorithm>
 
 using namespace shell;
 
@@ -49,18 +50,31 @@ class PictogramsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void paintsInItsInkAndNothingElse_data() { everyPictogram(); }
-    void paintsInItsInkAndNothingElse()
+    void paintsInInkAndOneAccent_data() { everyPictogram(); }
+    void paintsInInkAndOneAccent()
     {
         QFETCH(Pictogram, pictogram);
         const QIcon icon = pictogramIcon(pictogram);
-        for (const auto& [mode, ink] : {std::pair(QIcon::Normal, QColor(0x16, 0x20, 0x2B)),
-                 std::pair(QIcon::Disabled, QColor(0x55, 0x61, 0x6E))}) {
-            const QList<QColor> solid = solidPixels(image(icon, 128, mode));
-            QVERIFY(solid.size() > 128 * 128 / 20);
-            QVERIFY(solid.size() < 128 * 128 / 2);
-            QCOMPARE(solid.count(ink), solid.size());
-        }
+        const QColor ink(ui::look::Ink);
+        const QColor accent(0xD2, 0x50, 0x0F);
+        const QList<QColor> solid = solidPixels(image(icon, 128));
+        QVERIFY(solid.size() > 128 * 128 / 20);
+        QVERIFY(solid.size() < 128 * 128 / 2);
+        QVERIFY(solid.count(ink) > 128);
+        QVERIFY(solid.count(accent) > 128);
+        const auto others = std::count_if(solid.begin(), solid.end(),
+            [&](const QColor& colour) { return colour != ink && colour != accent; });
+        QVERIFY(others <= solid.size() / 20); // where both meet
+    }
+
+    void isQuietWhenDisabled_data() { everyPictogram(); }
+    void isQuietWhenDisabled()
+    {
+        QFETCH(Pictogram, pictogram);
+        const QList<QColor> solid =
+            solidPixels(image(pictogramIcon(pictogram), 128, QIcon::Disabled));
+        QVERIFY(!solid.isEmpty());
+        QCOMPARE(solid.count(QColor(ui::look::Quiet)), solid.size());
     }
 
     void staysInsideItsSquare_data() { everyPictogram(); }

@@ -2,7 +2,9 @@
 
 #include "support/box_answerer.h"
 #include "support/fake_clock.h"
+#include "support/pending_events.h"
 #include "support/scripted_random.h"
+#include "support/window_manager.h"
 #include "ui/application.h"
 #include "ui/screen.h"
 #include "ui/screens.h"
@@ -11,9 +13,6 @@
 #include <QMenu>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <cstdio>
-#include <cstdlib>
 
 /// What a screen under test stands on: scripted draws, a clock that stands, an empty folder
 /// for the bank and the pictures, and the set of screens.
@@ -31,23 +30,9 @@ public:
         auto& screen = screens.load(S::screenName());
         screen.resize((QSizeF(screen.size()) / screen.factor()).toSize());
         screens.show(S::screenName());
-        activate(screen);
+        makeActive(screen);
         m_screen = &screen;
         return static_cast<S&>(screen);
-    }
-
-    /// Makes a screen the active window and ends the test program when it does not become it.
-    /// Asks more than once: a window manager may still be busy with the window before.
-    static void activate(QWidget& screen)
-    {
-        for (int tries = 0; tries < 20; ++tries) {
-            if (QTest::qWaitForWindowActive(&screen, 250)) {
-                settle();
-                return;
-            }
-            screen.activateWindow();
-        }
-        giveUp("did not become active:", screen.objectName());
     }
 
     /// Looks for controls in this screen, which the test has opened by itself.
@@ -113,20 +98,6 @@ public:
     ui::Screens screens;
 
 private:
-    /// A real window manager goes on moving the focus for some milliseconds, faster than any
-    /// person; a window that is closed meanwhile takes the focus with it.
-    static void settle()
-    {
-        if (QGuiApplication::platformName() != u"offscreen")
-            QTest::qWait(30);
-    }
-
-    [[noreturn]] static void giveUp(const char* what, const QString& name)
-    {
-        std::fprintf(stderr, "%s %s\n", what, qPrintable(name));
-        std::abort();
-    }
-
     QPointer<ui::Screen> m_screen;
 };
 

@@ -15,7 +15,10 @@ inline QStringList textsCutOff(const QWidget& screen)
             names << control->objectName();
     };
     const auto textSize = [](const QWidget* control, const QString& text) {
-        return control->fontMetrics().size(Qt::TextSingleLine, text);
+        // A line is higher than what stands in it: it has room for marks that Spanish lacks.
+        const QFontMetrics metrics = control->fontMetrics();
+        return QSize(metrics.size(Qt::TextSingleLine, text).width(),
+            metrics.tightBoundingRect(QStringLiteral("Ñ¿gjÉ(")).height());
     };
     for (const QLineEdit* box : screen.findChildren<QLineEdit*>()) {
         constexpr int Inner = 4; // what a line edit keeps for itself

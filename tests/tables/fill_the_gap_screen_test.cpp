@@ -227,7 +227,7 @@ private slots:
         verifyVerdict(u"Respuesta correcta "_s, Mark::Right);
         QCOMPARE(bench->focusName(), u"Command2(0)"_s);
         QCOMPARE(counters(), u"Ejercicios: 32767 Errores: 32767"_s);
-        QTest::qWait(20);
+        runPendingEvents();
         for (double factor : {0.8, 1.0, 2.3}) {
             screen->resize(qCeil(312 * factor), qCeil(306 * factor));
             QCOMPARE(textsCutOff(*screen), QStringList());
@@ -237,7 +237,7 @@ private slots:
     void theShownSelectionOutlivesTheFocusAndTheWindow()
     {
         answer(u"8"_s);
-        screen->activateWindow();
+        makeActive(*screen);
         verifyShownSelected();
     }
 

@@ -188,7 +188,7 @@ private slots:
         QCOMPARE(screen->windowTitle(), u"Tabla del 1 - Repasar tabla en orden"_s);
         QCOMPARE(bench->text(u"Text1"_s), u"Resultado correcto"_s);
         // Highlights outlive the box.
-        QTest::qWait(20);
+        makeActive(*screen);
         QCOMPARE(bench->control<QLineEdit>(u"Text1"_s).selectedText(), u"Resultado correcto"_s);
         verifySigns(true);
     }
@@ -314,11 +314,8 @@ private slots:
             bench->control<QLineEdit>(u"Text1"_s).selectedText(), u"resultado incorrecto "_s);
         QWidget other;
         other.show();
-        other.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
-        screen->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(screen));
-        QTest::qWait(20);
+        makeActive(other);
+        makeActive(*screen);
         QCOMPARE(
             bench->control<QLineEdit>(u"Text1"_s).selectedText(), u"resultado incorrecto "_s);
     }

@@ -421,7 +421,6 @@ private slots:
         append(7, 8);
         start();
         screen->close();
-        QTest::qWait(20);
         verifyUnloaded();
     }
 
@@ -591,7 +590,7 @@ private slots:
         BoxAnswerer noBox;
         append(7, 8);
         startWith(option, limit);
-        QTest::qWait(10);
+        runPendingEvents();
         verifyRunning(true);
     }
 
@@ -732,11 +731,11 @@ private:
     void verifyUnloaded() const
     {
         QVERIFY(bench->screens.loaded(Form8::screenName()) == nullptr);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTest::qWait(20); // no second box, no late tick
+        runPendingEvents(); // no second box comes, and no tick from a timer that is gone
+        QVERIFY(!screen);
     }
     std::unique_ptr<ScreenBench> bench;
-    Form8* screen = nullptr;
+    QPointer<Form8> screen;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(QuickTablesScreenTest)

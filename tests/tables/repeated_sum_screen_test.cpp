@@ -254,7 +254,7 @@ private slots:
         check.click();
         verifyVerdict(u"Respuesta correcta"_s, Mark::Right);
         QCOMPARE(counters(), u"Ejercicios:32767; Errores:32767"_s);
-        QTest::qWait(20);
+        runPendingEvents();
     }
 
     void aFreshScreenCountsFromZero()

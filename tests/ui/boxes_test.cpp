@@ -218,7 +218,6 @@ private slots:
             QVERIFY(!box.isVisible());
             QVERIFY(alive); // its handler is still running
         };
-        QTest::qWait(1);
         QTimer::singleShot(0, screen, [this] { screen->command->click(); });
         QTRY_VERIFY(!alive);
         QVERIFY(!wentOn);
@@ -264,7 +263,7 @@ private slots:
         BoxAnswerer boxes(u"none"_s);
         boxes.whileOpen = [&](QDialog&) {
             screen->close();
-            QTest::qWait(1); // lets what is to be destroyed go
+            runPendingEvents(); // lets what is to be destroyed go
             QVERIFY(alive);
         };
         QVERIFY_THROWS_EXCEPTION(ui::ScreenUnloaded, ui::MessageBox::show(*screen, u"a"_s));

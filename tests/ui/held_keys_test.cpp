@@ -103,7 +103,7 @@ private slots:
         QWidget other;
         auto* box = new QLineEdit(u"123"_s, &other);
         other.show();
-        ScreenBench::activate(other);
+        makeActive(other);
         box->setFocus();
         repeat(Qt::Key_Backspace, u"\b"_s);
         QCOMPARE(box->text(), u"123"_s);
@@ -122,9 +122,9 @@ private slots:
         {
             QWidget other;
             other.show();
-            ScreenBench::activate(other);
+            makeActive(other);
         }
-        ScreenBench::activate(*screen);
+        makeActive(*screen);
         screen->entry->setCursorPosition(0);
         repeat(Qt::Key_Right, {});
         QCOMPARE(screen->entry->cursorPosition(), 0);
@@ -144,15 +144,29 @@ private slots:
 
     void aReleaseAndAPressOfTheSameTimeAreARepeat()
     {
+        int released = 0;
+        screen->onKeyUp(screen->command, [&](int, Qt::KeyboardModifiers) { ++released; });
         screen->command->setFocus();
         constexpr ulong Time = 1000;
         sendAt(Time, QEvent::KeyPress);
-        sendAt(Time + 1, QEvent::KeyRelease);
-        sendAt(Time + 1, QEvent::KeyPress);
+        sendAt(Time + 500, QEvent::KeyRelease);
+        sendAt(Time + 500, QEvent::KeyPress);
         QCOMPARE(clicks, 1);
-        sendAt(Time + 2, QEvent::KeyRelease);
-        sendAt(Time + 3, QEvent::KeyPress);
+        sendAt(Time + 540, QEvent::KeyRelease);
+        QCOMPARE(released, 1);
+        sendAt(Time + 541, QEvent::KeyPress);
         QCOMPARE(clicks, 2);
+    }
+
+    void aProgramMayPressAKeyAgainInTheSameInstant()
+    {
+        screen->command->setFocus();
+        constexpr ulong Time = 1000;
+        for (int i = 0; i < 3; ++i) {
+            sendAt(Time, QEvent::KeyPress);
+            sendAt(Time, QEvent::KeyRelease);
+        }
+        QCOMPARE(clicks, 3);
     }
 
 private:
@@ -188,9 +202,14 @@ private:
     }
     static void sendAt(ulong time, QEvent::Type type)
     {
-        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
-        event.setTimestamp(time);
-        QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &event);
+        QList<QEvent::Type> types{type};
+        if (type == QEvent::KeyPress)
+            types.prepend(QEvent::ShortcutOverride);
+        for (const QEvent::Type each : types) {
+            QKeyEvent event(each, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
+            event.setTimestamp(time);
+            QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &event);
+        }
     }
 
     std::unique_ptr<ScreenBench> bench;

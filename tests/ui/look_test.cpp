@@ -2,6 +2,8 @@
 
 #include "ui/placement.h"
 
+#include <QFontInfo>
+#include <QPainter>
 #include <QtTest>
 
 namespace look = ui::look;
@@ -45,7 +47,7 @@ private slots:
             QVERIFY(ratio(group, QPalette::ButtonText, QPalette::Button) >= 4.5);
             QVERIFY(ratio(group, QPalette::HighlightedText, QPalette::Highlight) >= 4.5);
         }
-        QVERIFY(look::contrast(QColor(look::Ink), QColor(look::Shown)) >= 4.5);
+        QVERIFY(look::contrast(QColor(look::Ink), QColor(look::Marker)) >= 4.5);
     }
 
     void fontsFollowTheFactor()
@@ -54,6 +56,37 @@ private slots:
         QCOMPARE(look::scaled(look::Instruction, 2).pixelSize(), 30);
         QCOMPARE(look::scaled(look::Counters, 1.3).pixelSize(), 15); // 15.6, cut
         QCOMPARE(look::scaled(look::Counters, 0.01).pixelSize(), 1);
+    }
+
+    void edgesAre40PercentDarker()
+    {
+        QCOMPARE(look::edgeOf(QColor(look::Yellow)), QColor(153, 153, 0));
+        QCOMPARE(look::edgeOf(QColor(100, 50, 200)), QColor(60, 30, 120));
+    }
+
+    void figuresHaveAPlainZero()
+    {
+        QFont font = look::scaled({look::Family::CourierNew, 100, true}, 1);
+        if (QFontInfo(font).family() == QStringLiteral("Liberation Mono"))
+            QSKIP("no fixed face with a plain zero is installed");
+        const QRect ink = QFontMetrics(font).tightBoundingRect(QStringLiteral("0"));
+        QImage image(ink.size() + QSize(20, 20), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setFont(font);
+        painter.drawText(QPoint(10, 10) - ink.topLeft(), QStringLiteral("0"));
+        const QPoint middle = image.rect().center();
+        for (int y = middle.y() - ink.height() / 4; y <= middle.y() + ink.height() / 4; ++y)
+            QCOMPARE(image.pixelColor(middle.x(), y), QColor(Qt::white));
+    }
+
+    void whatNamesNoFontIsWrittenInAndika()
+    {
+        for (const look::Font& font : {look::Font(), look::Counters, look::Instruction,
+                 look::Verdict, look::Command, look::BoxText})
+            QCOMPARE(look::scaled(font, 1).families().first(), QStringLiteral("Andika"));
+        QCOMPARE(
+            look::scaled({look::Family::Arial}, 1).families().first(), QStringLiteral("Arial"));
     }
 
     void touchingPlacesTouchInPixels()
@@ -69,5 +102,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(LookTest)
+QTEST_MAIN(LookTest)
 #include "look_test.moc"

@@ -162,10 +162,16 @@ private slots:
             throw core::Error(u"Otra vez."_s);
         };
         BoxAnswerer boxes(u"Aceptar"_s);
-        boxes.whileOpen = [&](QDialog&) { QTest::qWait(60); };
+        boxes.whileOpen = [&](QDialog&) {
+            QVERIFY(screen->clock->isActive());
+            for (int i = 0; i < 3; ++i)
+                bench->tick(u"Timer1"_s);
+        };
         screen->clock->start();
-        QTRY_COMPARE(ticks, 1);
+        QTRY_VERIFY(!boxes.texts.isEmpty());
         screen->clock->stop();
+        runPendingEvents();
+        QCOMPARE(ticks, 1);
         QCOMPARE(boxes.texts.size(), 1);
     }
 
@@ -189,7 +195,7 @@ private slots:
         int later = 0;
         screen->whenClicked = [&] {
             screen->unload();
-            QTest::qWait(20); // nested events do not destroy it either
+            runPendingEvents(); // nested events do not destroy it either
             QVERIFY(alive);
             screen->whenTicked = [&] { ++later; };
             QMetaObject::invokeMethod(screen->clock, "timeout", Qt::DirectConnection);
@@ -203,8 +209,8 @@ private slots:
     {
         bool wentOn = false;
         screen->whenClicked = [&] {
-            QTimer::singleShot(0, screen, [this] { screen->unload(); });
-            QTest::qWait(1);
+            QMetaObject::invokeMethod(
+                screen, [this] { screen->unload(); }, Qt::QueuedConnection);
             screen->letEventsRun();
             wentOn = true;
         };
@@ -259,11 +265,9 @@ private slots:
         QCOMPARE(times, 1);
         QWidget other;
         other.show();
-        other.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
+        makeActive(other);
         QVERIFY(!screen->entry->hasFocus());
-        screen->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(screen));
+        makeActive(*screen);
         QVERIFY(screen->entry->hasFocus());
         QCOMPARE(times, 1);
         screen->command->setFocus();

@@ -172,7 +172,7 @@ private slots:
         BoxAnswerer boxes(u"Aceptar"_s);
         boxes.whileOpen = [&](QDialog&) {
             bench->screens.unload(u"B"_s);
-            QTest::qWait(1); // lets what is to be destroyed go
+            runPendingEvents(); // lets what is to be destroyed go
             QVERIFY(dialog);
         };
         hideDialog(*dialog, inItsHandler);
@@ -283,7 +283,7 @@ private slots:
         bench->screens.show(u"A"_s);
         QVERIFY(!screen.isMinimized());
         QVERIFY(screen.isVisible());
-        QVERIFY(QTest::qWaitForWindowActive(&screen));
+        makeActive(screen);
         QCOMPARE(bench->screens.loaded(u"A"_s), &screen);
     }
 

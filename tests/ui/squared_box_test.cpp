@@ -1,3 +1,4 @@
+#include "support/window_manager.h"
 #include "ui/application.h"
 #include "ui/look.h"
 #include "ui/squared_box.h"
@@ -52,7 +53,7 @@ private:
         window->resize(box->geometry().bottomRight().x() + 10, box->geometry().bottom() + 10);
         window->show();
         box->setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        makeActive(*window);
     }
     double square() const { return Place.width / Columns * factor / ui::TwipsPerPixel; }
 
@@ -99,22 +100,41 @@ private slots:
         QFETCH(double, factorAsked);
         makeBox(factorAsked);
         box->setText(u"1234"_s);
-        for (int caret = 0; caret <= 4; ++caret) {
+        for (int caret = 1; caret <= 4; ++caret) {
             box->setCursorPosition(caret);
             const auto [first, last] = inkedColumns(box->grab().toImage(), ui::look::Focus);
             QVERIFY(first >= 0);
             const double line = box->width() - (4 - caret) * square();
             const double expected = std::min(line, box->width() - CaretGap * factor);
-            QVERIFY2(first <= expected + 1 && last >= expected - 1 - 2 * factor,
+            QVERIFY2(first <= expected + 1 && last >= expected - 1 - 3 * factor,
                 qPrintable(u"%1 to %2 for %3"_s.arg(first).arg(last).arg(expected)));
-            QVERIFY(last - first <= 2 * factor + 1);
+            QVERIFY(last - first <= 3 * factor + 1);
+        }
+        box->setText(QString(12, u'8'));
+        box->setCursorPosition(0); // no square is left to be marked
+        const auto [first, last] = inkedColumns(box->grab().toImage(), ui::look::Focus);
+        QVERIFY(first >= CaretGap * factor - 1); // the focus ring ends before it
+        QVERIFY(last <= CaretGap * factor + 3 * factor + 1);
+    }
+
+    void theSquareToBeWrittenNextIsMarked_data() { theCaretStandsOnTheLineBetweenSquares_data(); }
+    void theSquareToBeWrittenNextIsMarked()
+    {
+        QFETCH(double, factorAsked);
+        makeBox(factorAsked);
+        for (const int digits : {0, 1, 4, 11}) {
+            box->write(QString(digits, u'1'));
+            const QImage image = box->grab().toImage();
+            for (const QRgb colour : {ui::look::Here, ui::look::Focus}) {
+                const auto [first, last] = inkedColumns(image, colour);
+                QCOMPARE(first, qRound(box->width() - (digits + 1) * square()));
+                QCOMPARE(last + 1, qRound(box->width() - digits * square()));
+            }
         }
         box->clear();
         QCOMPARE(inkedColumns(box->grab().toImage(), ui::look::Ink).first, -1); // no other caret
-        const auto [first, last] = inkedColumns(box->grab().toImage(), ui::look::Focus);
-        const double edge = box->width() - CaretGap * factor; // the focus ring begins behind it
-        QVERIFY(last < edge + 1);
-        QVERIFY(first > edge - 2 - 2 * factor);
+        box->setReadOnly(true);
+        QCOMPARE(inkedColumns(box->grab().toImage(), ui::look::Here).first, -1);
     }
 
     void aSelectionCoversWholeSquares()
@@ -174,8 +194,8 @@ private slots:
                 QVERIFY2(std::abs(middle - expected) <= 1.01,
                     qPrintable(u"%1 for %2"_s.arg(middle).arg(expected)));
                 box->setReadOnly(false);
-                const int caret = inkedColumns(box->grab().toImage(), ui::look::Focus).first;
-                QVERIFY(std::abs(caret + f - (expected + square() / 2)) <= 1.5);
+                const int here = inkedColumns(box->grab().toImage(), ui::look::Here).first;
+                QVERIFY(std::abs(here - (expected + square() / 2)) <= 1.01);
             }
             box->setText(u"12345"_s);
             box->setSelection(1, 2);

@@ -32,11 +32,8 @@ private slots:
         screen->entry->setFocus();
         QWidget other;
         other.show();
-        other.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
-        screen->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(screen));
-        QTest::qWait(20);
+        makeActive(other);
+        makeActive(*screen);
         QCOMPARE(screen->shown->selectedText(), u"12"_s);
     }
 

@@ -509,10 +509,8 @@ void LongDivisionScreenTest::verdictOutlivesTheWindowsFocus()
     answer(u"11"_s);
     QWidget other;
     other.show();
-    other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
-    m_screen->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_screen));
+    makeActive(other);
+    makeActive(*m_screen);
     QCOMPARE(m_bench->focusName(), u"Text3"_s);
     QCOMPARE(text("Text4"), u"Resultado incorrecto"_s);
 }
@@ -671,7 +669,7 @@ void LongDivisionScreenTest::typedOperandsKeepCountersAndQuotient()
     BoxAnswerer boxes({{u"36"_s, u"Aceptar"_s}, {u"4"_s, u"Aceptar"_s}});
     m_bench->pick(u"MnuOpcInt"_s);
     m_bench->pick(u"MnuOpcInd"_s);
-    QTest::qWait(20); // the window's focus has come back
+    makeActive(*m_screen); // the window's focus has come back
     QCOMPARE(text("Text4"), u"36 ÷ 4"_s);
     QCOMPARE(text("Text3"), u"11"_s);
     QCOMPARE(text("tbResultados"), u"Ejercicios:  1; Errores:  1"_s);

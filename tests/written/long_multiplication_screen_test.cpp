@@ -692,8 +692,7 @@ private slots:
         bench->pick(u"MnuOpcIn2"_s);
         QCOMPARE(rowTexts().size(), 1);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        screen->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(screen));
+        makeActive(*screen);
         QCOMPARE(bench->focusName(), u"TbParcial(0)"_s);
     }
 
@@ -847,7 +846,7 @@ private:
 
     QLineEdit& focusOn(const QString& name)
     {
-        ScreenBench::activate(*screen); // offscreen, no window manager does it behind a box
+        makeActive(*screen); // offscreen, no window manager does it behind a box
         auto& box = bench->control<QLineEdit>(name);
         box.setFocus();
         return box;
@@ -906,7 +905,7 @@ private:
     }
     void tick(std::initializer_list<int> digits)
     {
-        ScreenBench::activate(dialog());
+        makeActive(dialog());
         for (const int digit : digits) {
             auto& box = dialogControl<QCheckBox>(u"Check1(%1)"_s.arg(digit - 1));
             QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));

@@ -98,7 +98,7 @@ private slots:
         ScratchArea area(&window);
         auto* next = new QLineEdit(&window);
         window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        makeActive(window);
         area.setFocus();
         QTest::keyClick(&area, Qt::Key_Tab);
         QVERIFY(next->hasFocus());

@@ -82,7 +82,7 @@ void WorkAreaTest::init()
     place(1);
     m_canvas->show();
     m_area->setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(m_canvas.get()));
+    makeActive(*m_canvas);
 }
 
 void WorkAreaTest::place(double factor)

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+/// What differs from one system to another, as far as the toolkit does not see to it.
 namespace core {
 
 /// Whether files can be made in a folder: tried, for permissions do not always tell.
@@ -13,5 +14,8 @@ bool canWrite(const QString& file);
 /// Where all users of the computer can share a problem bank, on systems that install programs
 /// into folders that nobody may write; empty on the others.
 QString commonBankFolder();
+
+/// Has the terminal take what this program writes as UTF-8, where it would not by itself.
+void writeUtf8ToTerminal();
 
 } // namespace core

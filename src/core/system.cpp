@@ -1,8 +1,12 @@
-#include "core/folders.h"
+#include "core/system.h"
 
 #include <QFile>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -19,15 +23,29 @@ bool canWrite(const QString& file)
     return QFile(file).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
 }
 
+#ifdef Q_OS_WIN
+
 QString commonBankFolder()
 {
-#ifdef Q_OS_WIN
     // The person's own folder comes first, the one of all users behind it.
     return QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation).value(1)
         + u"/Pizarrin/Recursos"_s;
-#else
-    return {};
-#endif
 }
+
+void writeUtf8ToTerminal()
+{
+    SetConsoleOutputCP(CP_UTF8);
+}
+
+#else
+
+QString commonBankFolder()
+{
+    return {};
+}
+
+void writeUtf8ToTerminal() { }
+
+#endif
 
 } // namespace core

@@ -1,0 +1,119 @@
+#include "ui/tray.h"
+
+#include "ui/look.h"
+#include "ui/scaling.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+constexpr double Radius = 12; // pixels at factor 1
+
+/// Whether two buttons are neighbours of one row or one column.
+bool areNeighbours(const QRect& a, const QRect& b, int reach)
+{
+    const bool row = a.top() == b.top() && a.bottom() == b.bottom();
+    const bool column = a.left() == b.left() && a.right() == b.right();
+    return (row || column) && a.adjusted(-reach, -reach, reach, reach).intersects(b);
+}
+
+} // namespace
+
+Tray::Tray(const std::vector<QWidget*>& buttons)
+    : QWidget(buttons.front()->parentWidget())
+    , m_buttons(buttons.begin(), buttons.end())
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (QWidget* button : buttons)
+        button->installEventFilter(this);
+    lower();
+    follow();
+}
+
+bool Tray::holds(const QWidget& control)
+{
+    const auto trays = control.parentWidget() != nullptr
+        ? control.parentWidget()->findChildren<const Tray*>(Qt::FindDirectChildrenOnly)
+        : QList<const Tray*>();
+    return std::any_of(trays.begin(), trays.end(), [&](const Tray* tray) {
+        return std::find(tray->m_buttons.begin(), tray->m_buttons.end(), &control)
+            != tray->m_buttons.end();
+    });
+}
+
+void Tray::follow()
+{
+    QRect covered;
+    for (const QRect& place : buttonPlaces())
+        covered |= place;
+    const int margin = qRound(Margin * factorOf(this));
+    setGeometry(covered.adjusted(-margin, -margin, margin, margin));
+    setVisible(!covered.isNull());
+    update();
+}
+
+bool Tray::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+        follow();
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Tray::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(outline(), QColor(look::Slate));
+}
+
+/// Round every button, and across the gap between neighbours: what stands between buttons far
+/// from each other is no part of the tray.
+QPainterPath Tray::outline() const
+{
+    const double factor = factorOf(this);
+    const double radius = Radius * factor;
+    const int margin = qRound(Margin * factor);
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    const auto add = [&](const QRect& covered) {
+        path.addRoundedRect(covered.adjusted(-margin, -margin, margin, margin).translated(-pos()),
+            radius, radius);
+    };
+    const std::vector<QRect> places = buttonPlaces();
+    for (const QRect& place : places) {
+        add(place);
+        for (const QRect& other : places) {
+            if (areNeighbours(place, other, 2 * margin))
+                add(place | other);
+        }
+    }
+    return path;
+}
+
+std::vector<QRect> Tray::buttonPlaces() const
+{
+    std::vector<QRect> places;
+    for (const QPointer<QWidget>& button : m_buttons) {
+        if (button && button->isVisibleTo(parentWidget()))
+            places.push_back(button->geometry());
+    }
+    return places;
+}
+
+} // namespace ui

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
+
+class QPainterPath;
+
+namespace ui {
+
+/// A slate tray behind action buttons, so that their colours neither shout on paper nor glow.
+/// It follows the buttons wherever they go, and is there while one of them is.
+class Tray : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Between the buttons and the edge of the tray, in pixels at factor 1: for layouts.
+    static constexpr int Margin = 12;
+
+    /// Lies behind buttons that stand on the same canvas.
+    explicit Tray(const std::vector<QWidget*>& buttons);
+
+    /// Whether a control stands on a tray.
+    static bool holds(const QWidget& control);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void follow();
+    QPainterPath outline() const;
+    std::vector<QRect> buttonPlaces() const;
+
+    std::vector<QPointer<QWidget>> m_buttons;
+};
+
+} // namespace ui

@@ -1,0 +1,371 @@
+#include "support/box_answerer.h"
+#include "support/program_bench.h"
+#include "support/screen_bench.h"
+
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Counts what the display sends, whatever becomes of it.
+class InputWatch final : public QObject {
+public:
+    InputWatch() { comeFirst(); }
+
+    /// Before whatever has begun to filter events meanwhile.
+    void comeFirst() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (!watched->isWindowType())
+            return false;
+        if (event->type() == QEvent::KeyPress)
+            ++(static_cast<QKeyEvent*>(event)->isAutoRepeat() ? repeats : presses);
+        else if (event->type() == QEvent::KeyRelease)
+            releases += static_cast<QKeyEvent*>(event)->isAutoRepeat() ? 0 : 1;
+        else if (event->type() == QEvent::MouseButtonRelease)
+            ++clicks;
+        return false;
+    }
+
+    int presses = 0;
+    int repeats = 0;
+    int releases = 0;
+    int clicks = 0;
+};
+
+} // namespace
+
+/// The program under the display's own keys and clicks, with a window manager.
+class RealKeysTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        program = std::make_unique<ProgramBench>();
+        watch = std::make_unique<InputWatch>();
+        menu = &open(u"Form1"_s);
+    }
+    void cleanup()
+    {
+        display({u"keyup"_s, u"Return"_s});
+        watch.reset();
+        program.reset();
+    }
+
+    // --- a held key acts once
+
+    void enterHeldOnTheMenuOpensAnActivityAndNoMore()
+    {
+        button(*menu, u"Command1(0)"_s).setFocus();
+        display({u"keydown"_s, u"Return"_s});
+        QTRY_VERIFY(isActive(u"Form4"_s));
+        seeRepeats();
+        release();
+        QCOMPARE(text(u"Form4"_s, u"tbResultados"_s), u"Ejercicios:  0; Errores:  0"_s);
+    }
+
+    void enterHeldInTheResultOfAMultiplicationCountsOneError()
+    {
+        ui::Screen& screen = open(u"Form3"_s);
+        ScreenBench::find<QLineEdit>(screen, u"TBResultado"_s).setFocus();
+        holdEnter();
+        QCOMPARE(text(u"Form3"_s, u"Text2"_s), u"Ejercicios:  1; Errores:  1"_s);
+    }
+
+    void enterHeldOnTheLastAnswerOfADrillLeavesItsReportToBeRead()
+    {
+        startDrill(u"Option1(2)"_s);
+        BoxAnswerer boxes{u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) {
+            QTRY_VERIFY(box.isActiveWindow());
+            seeRepeats();
+            release();
+            QVERIFY(box.isVisible());
+        };
+        display({u"keydown"_s, u"Return"_s});
+        QTRY_VERIFY(!program->screens.loaded(u"Form8"_s));
+        QVERIFY(boxes.texts.first().startsWith(u"Número de operaciones: 1. "_s));
+    }
+
+    void enterHeldAfterABoxDoesNothingBehindIt()
+    {
+        startDrill(u"Option1(2)"_s);
+        BoxAnswerer boxes{u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) {
+            QTRY_VERIFY(box.isActiveWindow());
+            release();
+            display({u"keydown"_s, u"Return"_s});
+            QTRY_VERIFY(!box.isVisible());
+        };
+        display({u"keydown"_s, u"Return"_s});
+        QTRY_VERIFY(menu->isActiveWindow());
+        seeRepeats();
+        release();
+        QVERIFY(!program->screens.loaded(u"Form8"_s));
+    }
+
+    void enterHeldAnswersNoQuestion()
+    {
+        button(*menu, u"Command1(11)"_s).setFocus();
+        bool answer = false;
+        BoxAnswerer boxes{u"No"_s};
+        boxes.whileOpen = [&](QDialog& box) {
+            QTRY_VERIFY(box.isActiveWindow());
+            seeRepeats();
+            release();
+            QVERIFY(box.isVisible());
+        };
+        button(*menu, u"Command1(11)"_s).disconnect();
+        connect(&button(*menu, u"Command1(11)"_s), &QPushButton::clicked, menu,
+            [&] { answer = ui::MessageBox::ask(*menu, u"¿Otra vez?"_s); });
+        display({u"keydown"_s, u"Return"_s});
+        QTRY_COMPARE(boxes.texts.size(), 1);
+        QTRY_VERIFY(menu->isActiveWindow());
+        QVERIFY(!answer);
+    }
+
+    void enterHeldOnARightAnswerOfTheRaceIsNoWrongOneToo()
+    {
+        startRace();
+        typeResult();
+        holdEnter();
+        QCOMPARE(text(u"FrmCarrera"_s, u"Text4"_s).trimmed(), u"Correcto"_s);
+    }
+
+    void heldAccessKeyOfAButtonPressesItOnce()
+    {
+        open(u"Form4"_s);
+        display({u"keydown"_s, u"Alt_L"_s, u"keydown"_s, u"h"_s}); // "&Hecho"
+        seeRepeats();
+        display({u"keyup"_s, u"h"_s, u"keyup"_s, u"Alt_L"_s});
+        QCOMPARE(text(u"Form4"_s, u"tbResultados"_s), u"Ejercicios:  1; Errores:  1"_s);
+    }
+
+    // --- boxes that come up by themselves
+
+    void theEndOfADrillByTimeIsNotAnsweredByAnAnswersEnter()
+    {
+        startDrill(u"Option1(1)"_s);
+        BoxAnswerer boxes{u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) { hurry(box); };
+        program->clock.passingWithEachLook = 0ms;
+        for (int second = 0; second < 2 * 60; ++second)
+            tick(u"Form8"_s, u"Timer2"_s);
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+
+    void aLostRaceIsNotAnsweredByAnAnswersEnterAndTheNextOneStartsNoOther()
+    {
+        startRace();
+        typeResult();
+        pressEnter();
+        loseRace();
+        const QString operation = text(u"FrmCarrera"_s, u"TBOperación"_s);
+        QTRY_VERIFY(isActive(u"FrmCarrera"_s));
+        pressEnter();
+        QCOMPARE(text(u"FrmCarrera"_s, u"TBOperación"_s), operation);
+        QVERIFY(
+            !ScreenBench::find<QLineEdit>(loaded(u"FrmCarrera"_s), u"TBResultado"_s).isEnabled());
+    }
+
+    // --- number rain
+
+    void spaceMeantForTheNumberBeforeHitsNotTheNewOne()
+    {
+        ui::Screen& rain = open(u"Form5"_s);
+        program->clock.passingWithEachLook = 0ms;
+        button(rain, u"CbEmpezar"_s).click();
+        ScreenBench::find<QTimer>(rain, u"Timer1"_s).stop();
+        for (int step = 0; step < 12; ++step)
+            tick(u"Form5"_s, u"Timer1"_s);
+        auto& second = button(rain, u"CbNave(1)"_s);
+        QTRY_VERIFY(second.hasFocus());
+        const QString points = text(u"Form5"_s, u"Text2(0)"_s);
+        press(u"space"_s);
+        QCOMPARE(text(u"Form5"_s, u"Text2(0)"_s), points);
+        program->clock.passed += 250ms;
+        press(u"space"_s);
+        QVERIFY(text(u"Form5"_s, u"Text2(0)"_s) != points);
+    }
+
+    // --- lost windows
+
+    void theMenuBringsAMinimisedActivityBack_data()
+    {
+        QTest::addColumn<bool>("clicked");
+        QTest::newRow("clicked") << true;
+        QTest::newRow("activated") << false;
+    }
+    void theMenuBringsAMinimisedActivityBack()
+    {
+        QFETCH(bool, clicked);
+        button(*menu, u"Command1(0)"_s).click();
+        QTRY_VERIFY(isActive(u"Form4"_s));
+        ui::Screen& activity = loaded(u"Form4"_s);
+        minimise(activity);
+        if (clicked) {
+            const QPoint place = menu->mapToGlobal(QPoint(menu->width() / 2, menu->height() / 2));
+            display({u"mousemove"_s, QString::number(place.x()), QString::number(place.y()),
+                u"click"_s, u"1"_s});
+        } else {
+            minimise(*menu);
+            display({u"windowactivate"_s, QString::number(menu->winId())});
+        }
+        QTRY_VERIFY(!activity.isMinimized() && activity.isActiveWindow());
+        QCOMPARE(menu->isVisible(), true);
+    }
+
+    void theMenuBringsTheAboutBoxBack()
+    {
+        BoxAnswerer boxes{u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) {
+            QTRY_VERIFY(box.isActiveWindow());
+            minimise(*menu);
+            QTRY_VERIFY(!box.isActiveWindow());
+            display({u"windowactivate"_s, QString::number(menu->winId())});
+            QTRY_VERIFY(box.isActiveWindow() && !box.isMinimized());
+        };
+        ScreenBench::find<QAction>(*menu, u"MnuAce"_s).trigger();
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+
+private:
+    static constexpr int EnoughRepeats = 10;
+
+    /// Lets xdotool do something with the display.
+    static void display(const QStringList& commands)
+    {
+        QCOMPARE(QProcess::execute(u"xdotool"_s, commands), 0);
+    }
+
+    ui::Screen& loaded(const QString& name) const { return *program->screens.loaded(name); }
+    ui::Screen& open(const QString& name) const
+    {
+        program->screens.show(name);
+        ScreenBench::activate(loaded(name));
+        return loaded(name);
+    }
+    bool isActive(const QString& name) const
+    {
+        const ui::Screen* screen = program->screens.loaded(name);
+        return screen != nullptr && screen->isActiveWindow();
+    }
+    static QPushButton& button(const ui::Screen& screen, const QString& name)
+    {
+        return ScreenBench::find<QPushButton>(screen, name);
+    }
+    QString text(const QString& screen, const QString& box) const
+    {
+        return ScreenBench::find<QLineEdit>(loaded(screen), box).text();
+    }
+    void tick(const QString& screen, const QString& timer) const
+    {
+        QMetaObject::invokeMethod(
+            &ScreenBench::find<QTimer>(loaded(screen), timer), "timeout", Qt::DirectConnection);
+    }
+
+    // --- keys
+
+    void seeRepeats() const
+    {
+        const int before = watch->repeats;
+        QTRY_VERIFY(watch->repeats >= before + EnoughRepeats);
+    }
+    void release() const
+    {
+        const int before = watch->releases;
+        display({u"keyup"_s, u"Return"_s});
+        QTRY_COMPARE(watch->releases, before + 1);
+    }
+    void holdEnter() const
+    {
+        display({u"keydown"_s, u"Return"_s});
+        seeRepeats();
+        release();
+    }
+    void press(const QString& key) const
+    {
+        const int before = watch->releases;
+        display({u"key"_s, key});
+        QTRY_COMPARE(watch->releases, before + 1);
+    }
+    void pressEnter() const { press(u"Return"_s); }
+
+    /// Answers a box too early, by key and by click; then it is old enough to be answered.
+    void hurry(QDialog& box) const
+    {
+        QTRY_VERIFY(box.isActiveWindow());
+        watch->comeFirst();
+        pressEnter();
+        const auto* accept = box.findChild<QPushButton*>();
+        const QPoint place = accept->mapToGlobal(accept->rect().center());
+        const int clicks = watch->clicks;
+        display({u"mousemove"_s, QString::number(place.x()), QString::number(place.y()),
+            u"click"_s, u"1"_s});
+        QTRY_COMPARE(watch->clicks, clicks + 1);
+        QVERIFY(box.isVisible());
+        program->clock.passed += 800ms;
+        pressEnter();
+        QVERIFY(!box.isVisible());
+    }
+
+    // --- activities
+
+    /// A drill that ends at 2 of what the option limits, with the answer of its first
+    /// operation typed.
+    void startDrill(const QString& option) const
+    {
+        button(*menu, u"Command1(2)"_s).setFocus();
+        button(*menu, u"Command1(2)"_s).click();
+        QTRY_VERIFY(isActive(u"Form8"_s));
+        const ui::Screen& drill = loaded(u"Form8"_s);
+        ScreenBench::find<QAbstractButton>(drill, option).click();
+        ScreenBench::find<QLineEdit>(drill, u"Text1"_s).setText(u"2"_s);
+        button(drill, u"Command1"_s).click();
+        for (const QString& timer : {u"Timer1"_s, u"Timer2"_s})
+            ScreenBench::find<QTimer>(drill, timer).stop();
+    }
+
+    void startRace() const
+    {
+        button(*menu, u"Command1(10)"_s).click();
+        QTRY_VERIFY(isActive(u"DlgCarrera"_s));
+        loaded(u"DlgCarrera"_s).close();
+        QTRY_VERIFY(isActive(u"FrmCarrera"_s));
+    }
+    void typeResult() const
+    {
+        const QStringList operation =
+            text(u"FrmCarrera"_s, u"TBOperación"_s).split(u' ', Qt::SkipEmptyParts);
+        const int result = operation.at(0).toInt() * operation.at(2).toInt();
+        ScreenBench::find<QLineEdit>(loaded(u"FrmCarrera"_s), u"TBResultado"_s)
+            .setText(QString::number(result));
+    }
+    void loseRace() const
+    {
+        BoxAnswerer boxes{u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) { hurry(box); };
+        program->clock.passingWithEachLook = 0ms;
+        ScreenBench::find<QTimer>(loaded(u"FrmCarrera"_s), u"Timer2"_s).stop();
+        for (int step = 0; step < 60; ++step)
+            tick(u"FrmCarrera"_s, u"Timer2"_s);
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+
+    void minimise(const ui::Screen& screen) const
+    {
+        display({u"windowminimize"_s, QString::number(screen.winId())});
+        QTRY_VERIFY(screen.isMinimized());
+    }
+
+    std::unique_ptr<ProgramBench> program;
+    std::unique_ptr<InputWatch> watch;
+    ui::Screen* menu = nullptr;
+};
+
+PIZARRIN_SCREEN_TEST_MAIN(RealKeysTest)
+#include "real_keys_test.moc"

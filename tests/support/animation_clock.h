@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QAnimationDriver>
+#include <QCoreApplication>
+
+/// While it lives, the toolkit's animations stand still until a test lets time pass.
+class AnimationClock final : public QAnimationDriver {
+public:
+    AnimationClock() { install(); }
+    ~AnimationClock() override { uninstall(); }
+
+    /// One frame, this many milliseconds after the one before.
+    void pass(int milliseconds)
+    {
+        // From its event loop the toolkit begins what has been started, then starts this clock.
+        for (int step = 0; step < 2; ++step)
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+        m_elapsed += milliseconds;
+        advance();
+    }
+
+    qint64 elapsed() const override { return m_elapsed; }
+
+protected:
+    void start() override
+    {
+        m_elapsed = 0;
+        QAnimationDriver::start();
+    }
+
+private:
+    qint64 m_elapsed = 0; ///< since the clock was last started, in milliseconds
+};

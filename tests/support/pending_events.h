@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QEventLoop>
+
+/// Lets all happen that is pending, and what waits to be destroyed go, however deep in event
+/// loops the test is.
+inline void runPendingEvents()
+{
+    constexpr int LongEnough = 1000; // milliseconds, if something were always pending
+    QCoreApplication::processEvents(QEventLoop::AllEvents, LongEnough);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
