@@ -166,7 +166,7 @@ void FormProblemas::MnuOpcGes_Click()
         set.load<FormProblemas>().TBRespuesta->setFocus(); // hiding has moved the focus on
     };
     hide();
-    screens().show(DLGProblemas::screenName());
+    screens().show(DLGProblemas::screenName(), this);
     m_model.setBank({});
     if (auto bank = LeerBanco(screens().bankFolder().toRead()))
         m_model.setBank(*std::move(bank));

@@ -26,11 +26,11 @@ namespace ui {
 
 namespace {
 
-constexpr double InputWidth = 420; // pixels at factor 1
-constexpr double LongestLine = 500;
+constexpr double LargestShare = 0.7; // of the display's width, for a box
+constexpr double InputWidth = 500; // pixels at factor 1
+constexpr double LongestLine = 600;
 constexpr double ShortestLine = 220; // so that the title can be read
-constexpr double LargestShare = 0.7; // of the width of the display
-constexpr int BoxFrame = 160; // what a box needs beside its text
+constexpr double BoxFrame = 110; // what a box needs beside its text, icon included
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
 /// Escape must not answer "No".
@@ -129,6 +129,11 @@ void run(HandlerGuard& owner, const QPointer<QDialog>& box)
     });
 }
 
+double largestWidth(const QWidget& owner)
+{
+    return LargestShare * owner.screen()->availableGeometry().width();
+}
+
 /// Lets the text be as wide as its longest line, up to a measure that grows with the font.
 /// Left alone, the box would wrap at the same number of pixels at every factor.
 void widen(const Box& box, const QWidget& owner)
@@ -142,9 +147,8 @@ void widen(const Box& box, const QWidget& owner)
     int longest = qRound(ShortestLine * factor);
     for (const QString& line : box.text().split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
-    const int display = owner.screen()->availableGeometry().width();
-    const int room = static_cast<int>(LargestShare * display) - BoxFrame;
-    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), room}));
+    const double room = largestWidth(owner) - BoxFrame * factor;
+    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), qRound(room)}));
 }
 
 QPointer<Box> makeBox(
@@ -205,7 +209,8 @@ QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString&
     box->setOkButtonText(u"Aceptar"_s);
     box->setCancelButtonText(u"Cancelar"_s);
     box->setLabelText(prompt);
-    box->resize(qRound(InputWidth * factor), box->height());
+    const double width = std::min(InputWidth * factor, largestWidth(owner.guardedWindow()));
+    box->resize(qRound(width), box->height());
     if (auto* label = box->findChild<QLabel*>()) {
         label->setBuddy(nullptr); // else an "&1" in the prompt would be an access key
         label->setTextFormat(Qt::PlainText);

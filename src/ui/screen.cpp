@@ -47,6 +47,12 @@ void Screen::load()
     comeUp();
 }
 
+void Screen::openOver(const Screen& below)
+{
+    if (!m_activated && !m_loading)
+        comeUp(below.factor());
+}
+
 void Screen::showModal(Screen& owner, std::function<void()> whenClosed)
 {
     m_whenClosed = std::move(whenClosed);

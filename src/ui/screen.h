@@ -34,6 +34,8 @@ public:
     /// Fills the screen, once, and gives it its first size. What Form_Load throws comes through.
     void load();
     bool isLoading() const { return m_loading; }
+    /// Before it is first shown: lets it open at most at the factor of the screen below it.
+    void openOver(const Screen& below);
     /// Shows the screen; it blocks all others until it is closed or hidden, then runs whenClosed.
     void showModal(Screen& owner, std::function<void()> whenClosed);
 

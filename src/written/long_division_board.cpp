@@ -138,7 +138,7 @@ void Form6::makeNumbers()
 {
     Text2 = squaredBox(u"Text2"_s, ui::TextBox::Kind::Display, u"Divisor"_s,
         {Bracket + DivisorGap, WorkTop - Row / 2, FiguresRight - DivisorGap, 1.5 * Row});
-    Text2->setFocusPolicy(Qt::StrongFocus);
+    Text2->allowFocus(Qt::StrongFocus);
     onGotFocus(Text2, [this] { Text2_GotFocus(); });
 
     constexpr double Padding = 0.625 * Row;

@@ -121,7 +121,7 @@ void Form3::makeFactors()
         auto* box = add(new SquaredBox(SquaredBox::Kind::Display, canvas()),
             u"TbFactor(%1)"_s.arg(i), rowPlace(i - 2), DigitFont);
         box->setAccessibleName(names.at(i));
-        box->setFocusPolicy(Qt::ClickFocus);
+        box->allowFocus(Qt::ClickFocus);
         onKeyPress(box, [this](QChar) { return TbFactor_KeyPress(); });
         TbFactor.at(static_cast<std::size_t>(i)) = box;
     }
@@ -136,7 +136,7 @@ void Form3::makeTexts()
     Text2 = displayBox(u"Text2"_s, {SideLeft, 4740, SideWidth, 300}, CounterFont, u"Ejercicios y errores"_s,
         m_model.counters().FormatoAlineado());
     for (ui::TextBox* box : std::initializer_list<ui::TextBox*>{Text1, Text2})
-        box->setFocusPolicy(Qt::TabFocus);
+        box->allowFocus(Qt::TabFocus);
 }
 
 SquaredBox* Form3::makeRow(int fila)

@@ -40,14 +40,23 @@ private slots:
     void shownTextIsDeafToTheMouseAndTheTabKey()
     {
         screen->shown->showSelected();
-        QTest::mouseClick(screen->shown, Qt::LeftButton);
-        QTest::mouseDClick(screen->shown, Qt::LeftButton);
+        const QPoint place = screen->shown->mapTo(screen, screen->shown->rect().center());
+        QTest::mouseClick(screen->windowHandle(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(screen->windowHandle(), Qt::LeftButton, {}, place);
         QCOMPARE(screen->shown->selectedText(), u"12"_s);
         screen->entry->setFocus();
         QTest::keyClick(screen->entry, Qt::Key_Tab);
         QVERIFY(screen->lines->hasFocus());
         QTest::keyClick(screen->lines, Qt::Key_Tab);
         QVERIFY(screen->command->hasFocus());
+    }
+
+    void shownTextThatMayHaveTheFocusGetsItByAClick()
+    {
+        screen->shown->allowFocus(Qt::ClickFocus);
+        const QPoint place = screen->shown->mapTo(screen, screen->shown->rect().center());
+        QTest::mouseClick(screen->windowHandle(), Qt::LeftButton, {}, place);
+        QVERIFY(screen->shown->hasFocus());
     }
 
     void shownTextIsStillTextToAssistiveTools()
