@@ -27,6 +27,9 @@ public:
 
     void setFactor(double factor) override;
 
+    /// How many squares the text takes up.
+    int columns() const { return columnsFrom(0); }
+
     /// Puts a text there, with the caret in front of it.
     void write(const QString& text);
 

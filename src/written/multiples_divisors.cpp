@@ -1,6 +1,7 @@
 #include "written/multiples_divisors.h"
 
 #include "core/random.h"
+#include "written/spoken.h"
 
 #include <algorithm>
 #include <cmath>
@@ -42,6 +43,19 @@ QString MultiplesDivisors::instruction() const
         ? u"Introduzca tres múltiplos diferentes del número indicado"_s
         : u"Introduzca tres divisores diferentes del número indicado.\n"
           "No puede usar el 1 ni el número que se proporciona"_s;
+}
+
+QString MultiplesDivisors::spokenExercise() const
+{
+    return u"%1: %2"_s.arg(instruction().simplified()).arg(number());
+}
+
+QString MultiplesDivisors::spokenSolution() const
+{
+    QStringList numbers;
+    for (const int number : showSolution())
+        numbers << QString::number(number);
+    return u"Solución: %1"_s.arg(spokenList(numbers));
 }
 
 shell::Verdict MultiplesDivisors::judge(const Answer& answers)

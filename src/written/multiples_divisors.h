@@ -36,6 +36,10 @@ public:
     } ///< 2 to 10; where divisors are asked for, 6 to 720
     QString instruction() const; ///< two lines when divisors are asked for
 
+    /// What is asked of which number, and the solution, as they are read aloud.
+    QString spokenExercise() const;
+    QString spokenSolution() const;
+
     /// Judges three answers; nothing is judged while one is missing or below 1.
     shell::Verdict judge(const Answer& answers);
 

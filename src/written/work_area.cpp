@@ -29,7 +29,7 @@ WorkArea::WorkArea(QWidget* parent)
 
 // --- text
 
-void WorkArea::setGrid(const GridText& grid)
+void WorkArea::setGrid(const GridText& grid, int caret)
 {
     const GridText before = m_grid;
     m_grid = grid;
@@ -38,7 +38,7 @@ void WorkArea::setGrid(const GridText& grid)
     m_cells.scrollTo(0);
     m_caret.setText(grid.columns(), grid.size());
     changed(before, 0);
-    setCursorPosition(0);
+    setCursorPosition(caret);
 }
 
 void WorkArea::overtypeText(const QString& typed)

@@ -316,7 +316,7 @@ private slots:
         bench->click(u"Command2(0)"_s);
         typeAnswers({u"720"_s, u"360"_s, u"240"_s});
         bench->click(u"Command1"_s);
-        screen->resize((QSizeF(700, 404) * factor).toSize());
+        screen->resize((QSizeF(734, 399) * factor).toSize());
         for (const QLineEdit* line : screen->findChildren<QLineEdit*>())
             QVERIFY2(textFits(*line), qPrintable(line->objectName()));
         const auto& text = bench->control<QPlainTextEdit>(u"Text1"_s);

@@ -86,6 +86,7 @@ private slots:
     void threeInTenShownDivisorsHoldA1();
     void eightNumbersHaveNoThreeDivisors();
     void aRepeatedVerdictChanges();
+    void speaksInOneLine();
 };
 
 void MultiplesDivisorsTest::kindsAreDrawnWithEqualChance_data()
@@ -336,6 +337,17 @@ void MultiplesDivisorsTest::aRepeatedVerdictChanges()
     QCOMPARE(textOf({0, 0, 0}), u"Resultado incorrecto "_s); // not judged: it stays
     QCOMPARE(textOf(wrong), u"Resultado incorrecto"_s);
     QCOMPARE(textOf(right), u"Resultado correcto"_s);
+}
+
+void MultiplesDivisorsTest::speaksInOneLine()
+{
+    QCOMPARE(multiplesOf(4).spokenExercise(),
+        u"Introduzca tres múltiplos diferentes del número indicado: 4"_s);
+    QCOMPARE(multiplesOf(4).spokenSolution(), u"Solución: 12, 16 y 20"_s);
+    QCOMPARE(divisorsOf({3, 4, 5}).spokenExercise(),
+        u"Introduzca tres divisores diferentes del número indicado. No puede usar el 1 ni el "
+        "número que se proporciona: 60"_s);
+    QCOMPARE(divisorsOf({3, 4, 5}).spokenSolution(), u"Solución: 3, 4 y 5"_s);
 }
 
 QTEST_GUILESS_MAIN(MultiplesDivisorsTest)
