@@ -1,5 +1,7 @@
 #include "ui/screen.h"
 
+#include "ui/screens.h"
+
 #include <QCloseEvent>
 #include <QShortcut>
 #include <QWindow>
