@@ -208,17 +208,17 @@ private slots:
             QDialog box(&screen);
             box.setModal(true);
             box.show();
-            ScreenBench::activate(box);
+            makeActive(box);
             QCOMPARE(heard(), {u"antes"_s}); // said by the box in front
             ui::announce(screen, u"encima"_s);
             QCOMPARE(heard(), {u"encima"_s});
         }
         QWidget other;
         other.show();
-        ScreenBench::activate(other);
+        makeActive(other);
         ui::announce(screen, u"detrás"_s);
         QCOMPARE(heard(), {});
-        ScreenBench::activate(screen);
+        makeActive(screen);
         QCOMPARE(heard(), {u"detrás"_s});
     }
 
