@@ -82,7 +82,8 @@ void SquaredBox::setFactor(double factor)
     type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
         std::max(1, static_cast<int>(LargestType * factor))));
     type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-    const double advance = QFontMetricsF(type).horizontalAdvance(u'0');
+    constexpr int Sample = 10; // laid out together, as they will stand
+    const double advance = QFontMetricsF(type).horizontalAdvance(QString(Sample, u'0')) / Sample;
     const double spacing = m_width * pixels - advance;
     type.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
     type.setWordSpacing((1 - m_blankRun) * m_width * pixels); // added once to a run
