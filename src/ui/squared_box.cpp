@@ -1,5 +1,6 @@
 #include "ui/squared_box.h"
 
+#include "ui/focus_ring.h"
 #include "ui/look.h"
 #include "ui/marks.h"
 
@@ -44,6 +45,7 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
     : TextBox(kind, parent)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);
+    FocusRing::leaveOut(*this);
     QPalette onPaper = palette();
     m_highlight = onPaper.color(QPalette::Highlight);
     onPaper.setColor(QPalette::Base, Qt::transparent);
@@ -125,6 +127,18 @@ void SquaredBox::paintEvent(QPaintEvent* event)
         drawHere(painter, hereSquare(), factor());
     }
     TextBox::paintEvent(event);
+    if (hasFocus() && isReadOnly())
+        frameFigures();
+}
+
+/// The focus of figures that are only read: a thin frame in their own squares.
+void SquaredBox::frameFigures()
+{
+    const double pen = look::QuietRingWidth * factor();
+    const QRectF figures = strip(lineBefore(0), lineBefore(static_cast<int>(text().size())));
+    QPainter painter(this);
+    painter.setPen(QPen(QColor(look::Focus), pen));
+    painter.drawRect(figures.adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2));
 }
 
 double SquaredBox::squarePixels() const
