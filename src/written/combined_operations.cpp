@@ -1,6 +1,7 @@
 #include "written/combined_operations.h"
 
 #include "core/random.h"
+#include "written/spoken.h"
 
 #include <utility>
 
@@ -75,6 +76,16 @@ void CombinedOperations::join()
 QString CombinedOperations::text() const
 {
     return groupText(0) + sign(Enlace1) + groupText(1) + sign(Enlace2) + groupText(2);
+}
+
+QString CombinedOperations::spokenExercise() const
+{
+    return spokenOperation(text());
+}
+
+QString CombinedOperations::spokenSolution() const
+{
+    return u"Solución: %1"_s.arg(solution());
 }
 
 QString CombinedOperations::groupText(std::size_t group) const
