@@ -83,6 +83,7 @@ void SquaredBox::setFactor(double factor)
     QFont type = font();
     type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
         std::max(1, static_cast<int>(LargestType * factor))));
+    type.setHintingPreference(QFont::PreferVerticalHinting); // else a blank is as wide as it likes
     type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
     constexpr int Sample = 10; // laid out together, as they will stand
     const double advance = QFontMetricsF(type).horizontalAdvance(QString(Sample, u'0')) / Sample;

@@ -28,7 +28,8 @@ void ScratchArea::setFactor(double factor)
     squared.setLetterSpacing(QFont::AbsoluteSpacing, gap);
     setFont(squared);
     // The gap comes behind a character: half of it in front puts it in the middle.
-    document()->setDocumentMargin(gap / 2);
+    // Whole pixels, so that the lines of text and of squares begin at the same one.
+    document()->setDocumentMargin(qRound(gap / 2));
     fitWholeSquares();
 }
 
@@ -68,7 +69,7 @@ void ScratchArea::paintSquares()
     const QColor grid(ui::look::Grid);
     const double line =
         blockBoundingGeometry(firstVisibleBlock()).translated(contentOffset()).top();
-    const auto top = static_cast<int>(std::fmod(line, m_square));
+    const int top = qRound(std::fmod(line, m_square)); // as the text is placed
     const int rows = (viewport()->height() - m_pen - top) / m_square;
     const int columns = (viewport()->width() - m_pen) / m_square;
     for (int column = 0; column <= columns; ++column)
