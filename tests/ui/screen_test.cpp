@@ -166,7 +166,7 @@ private slots:
             QVERIFY(screen->clock->isActive());
             for (int i = 0; i < 3; ++i)
                 bench->tick(u"Timer1"_s);
-            screen->clock->stop(); // behind the box it would go on
+            screen->clock->stop();
         };
         screen->clock->start();
         QTRY_VERIFY(!boxes.texts.isEmpty());
