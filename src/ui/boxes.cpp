@@ -145,14 +145,29 @@ void widen(const Box& box, const QWidget& owner)
     const QFontMetrics metrics(box.font());
     label->setIndent(0);
     int longest = qRound(ShortestLine * factor);
-    for (const QString& line : box.text().split(u'\n'))
+    for (const QString& line : (box.text() + u'\n' + box.informativeText()).split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
     const double room = largestWidth(owner) - BoxFrame * factor;
     label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), qRound(room)}));
 }
 
-QPointer<Box> makeBox(
-    HandlerGuard& owner, const QString& text, const QString& title, bool question)
+/// The toolkit would take what looks like mark-up in them for it, whatever the box is told.
+void addNotes(Box& box, const QString& notes)
+{
+    if (notes.isEmpty())
+        return;
+    box.setInformativeText(notes); // gives the text a margin, which would break its lines
+    if (auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s))
+        label->setContentsMargins({});
+    if (auto* label = box.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s)) {
+        label->setTextFormat(Qt::PlainText);
+        const int gap = QFontMetrics(box.font()).height() / 2; // clear of the buttons' strip
+        label->setContentsMargins(0, 0, 0, gap);
+    }
+}
+
+QPointer<Box> makeBox(HandlerGuard& owner, const QString& text, const QString& title,
+    bool question, const QString& notes = {})
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
@@ -160,6 +175,7 @@ QPointer<Box> makeBox(
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
+    addNotes(*box, notes);
     widen(*box, owner.guardedWindow());
     return box;
 }
@@ -181,8 +197,7 @@ QString MessageBox::programTitle()
 void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon,
     const QString& notes)
 {
-    const QPointer<Box> box = makeBox(owner, text, title, false);
-    box->setInformativeText(notes);
+    const QPointer<Box> box = makeBox(owner, text, title, false, notes);
     box->setIcon(toQtIcon(icon));
     box->setDefaultButton(addButton(*box, u"Aceptar"_s, QMessageBox::AcceptRole));
     run(owner, box.data());

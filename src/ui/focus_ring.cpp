@@ -19,6 +19,7 @@ namespace ui {
 namespace {
 
 constexpr double Radius = 12; // pixels at factor 1
+constexpr const char* MarksItself = "marksItself"; // the property of a control that is left out
 
 bool isOnlyRead(const QWidget* widget)
 {
@@ -31,6 +32,11 @@ bool isOnlyRead(const QWidget* widget)
 }
 
 } // namespace
+
+void FocusRing::leaveOut(QWidget& control)
+{
+    control.setProperty(MarksItself, true);
+}
 
 FocusRing::FocusRing(QWidget* canvas)
     : QWidget(canvas)
@@ -56,7 +62,8 @@ void FocusRing::follow(QWidget* focused)
 
 void FocusRing::surround()
 {
-    if (!m_focused || !m_focused->isVisibleTo(parentWidget())) {
+    if (!m_focused || !m_focused->isVisibleTo(parentWidget())
+        || m_focused->property(MarksItself).toBool()) {
         hide();
         return;
     }

@@ -14,6 +14,10 @@ class FocusRing : public QWidget, public Scalable {
 public:
     explicit FocusRing(QWidget* canvas);
 
+    /// A control that marks its place by itself gets no ring: on squared paper one would lie on
+    /// rules and digits.
+    static void leaveOut(QWidget& control);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

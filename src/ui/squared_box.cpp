@@ -1,5 +1,6 @@
 #include "ui/squared_box.h"
 
+#include "ui/focus_ring.h"
 #include "ui/look.h"
 #include "ui/marks.h"
 
@@ -44,6 +45,7 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
     : TextBox(kind, parent)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);
+    FocusRing::leaveOut(*this);
     QPalette onPaper = palette();
     m_highlight = onPaper.color(QPalette::Highlight);
     onPaper.setColor(QPalette::Base, Qt::transparent);
@@ -82,7 +84,8 @@ void SquaredBox::setFactor(double factor)
     type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
         std::max(1, static_cast<int>(LargestType * factor))));
     type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-    const double advance = QFontMetricsF(type).horizontalAdvance(u'0');
+    constexpr int Sample = 10; // laid out together, as they will stand
+    const double advance = QFontMetricsF(type).horizontalAdvance(QString(Sample, u'0')) / Sample;
     const double spacing = m_width * pixels - advance;
     type.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
     type.setWordSpacing((1 - m_blankRun) * m_width * pixels); // added once to a run
@@ -124,6 +127,18 @@ void SquaredBox::paintEvent(QPaintEvent* event)
         drawHere(painter, hereSquare(), factor());
     }
     TextBox::paintEvent(event);
+    if (hasFocus() && isReadOnly())
+        frameFigures();
+}
+
+/// The focus of figures that are only read: a thin frame in their own squares.
+void SquaredBox::frameFigures()
+{
+    const double pen = look::QuietRingWidth * factor();
+    const QRectF figures = strip(lineBefore(0), lineBefore(static_cast<int>(text().size())));
+    QPainter painter(this);
+    painter.setPen(QPen(QColor(look::Focus), pen));
+    painter.drawRect(figures.adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2));
 }
 
 double SquaredBox::squarePixels() const

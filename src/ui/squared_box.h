@@ -38,6 +38,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void frameFigures();
     double squarePixels() const;
     int columnsFrom(int index) const;
     double lineBefore(int index) const;

@@ -150,7 +150,8 @@ int Style::pixelMetric(
     case PM_MenuButtonIndicator:
         return qRound(plain * factorOf(widget));
     case PM_TextCursorWidth:
-        return qRound(look::CaretWidth * factorOf(widget));
+        // The boxes of screens paint their own caret, beside which their text must not give way.
+        return qRound((standsInBox(widget) ? look::CaretWidth : plain) * factorOf(widget));
     default:
         return plain;
     }

@@ -44,7 +44,7 @@ ui::TwipRect commandPlace(int position)
 constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
 constexpr ui::look::Font ScratchFont{Family::CourierNew, 20};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 26, true};
-constexpr ui::look::Font LabelFont{Family::Arial, 17, true};
+constexpr ui::look::Font LabelFont{Family::Andika, 18, true};
 
 } // namespace
 
@@ -99,6 +99,7 @@ void FRMCombi::makeAnswer()
         ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     Text1 = verdictBox(u"Text1"_s,
         centred(AnswerTop + AnswerHeight + TrayMargin / 2, VerdictWidth, 640), u"Comprobación"_s);
+    Text1->setJudged({TBResultado});
 }
 
 void FRMCombi::Form_Load()
@@ -113,7 +114,7 @@ void FRMCombi::newExercise()
     Text1->retire();
     showAnswerAsPast(true);
     TBOperacion->setText(m_model.text());
-    ui::announce(*TBOperacion, m_model.text());
+    ui::announce(*this, m_model.spokenExercise());
     TBCalculos->setPlainText(m_model.text());
     TBCalculos->moveCursor(QTextCursor::End);
     TBResultado->setFocus();
@@ -154,6 +155,7 @@ void FRMCombi::clearAnswer()
 void FRMCombi::showSolution()
 {
     TBResultado->setText(QString::number(m_model.showSolution()));
+    ui::announce(*this, m_model.spokenSolution());
 }
 
 } // namespace written

@@ -32,6 +32,8 @@ constexpr int QuotientRow = 2; // one stays free below the bracket's line
 constexpr double DivisorGap = 5; // between the work and the divisor's box
 constexpr double TouchRows = 0.6; // beyond a row, above and below, that count as its box
 
+constexpr QRgb Tint = 0xFFEAF1F6; // cool, so that the white of what can be written is seen
+
 constexpr ui::look::Font Figures{Family::CourierNew, 18, true};
 
 } // namespace
@@ -60,6 +62,7 @@ void DivisionBoard::makeSheet()
 {
     QWidget* canvas = m_controls.canvas();
     m_sheet = m_controls.add(new DivisionSheet(canvas), u"Sheet"_s, m_place);
+    m_sheet->setFill(QColor(Tint));
     m_workStrip = m_controls.add(new ui::SquaredPaper(canvas), u"WorkStrip"_s, m_place);
     m_quotientStrip = m_controls.add(new ui::SquaredPaper(canvas), u"QuotientStrip"_s, m_place);
 }

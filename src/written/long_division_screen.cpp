@@ -1,6 +1,7 @@
 #include "written/long_division_screen.h"
 
 #include "core/clock.h"
+#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
 #include "written/division_sheet.h"
@@ -9,7 +10,6 @@
 #include <QAction>
 
 using namespace Qt::StringLiterals;
-using Mark = ui::VerdictBox::Mark;
 
 namespace written {
 
@@ -25,6 +25,9 @@ constexpr double OperationHeight = 720;
 constexpr double CommandHeight = 640;
 constexpr double CommandPitch = 800;
 constexpr double CountersHeight = 330;
+
+constexpr qsizetype LongOperation = 18; // characters, with which it needs a smaller type
+constexpr ui::look::Font LongOperationFont{ui::look::Family::Andika, 14, true};
 
 double columnLeft()
 {
@@ -84,6 +87,7 @@ void Form6::connectBoard()
         [this](int keyCode, Qt::KeyboardModifiers) { return Text1_KeyDown(keyCode); });
     onKeyPress(m_board.Text1, [this](QChar character) { return Text1_KeyPress(character); });
     onGotFocus(m_board.Text1, [this] { Text1_GotFocus(); });
+    on(m_board.Text1, &WorkArea::cursorPositionChanged, &Form6::saySquare);
     onGotFocus(m_board.Text2, [this] { Text2_GotFocus(); });
     enterChecks(m_board.Text3);
     onGotFocus(m_board.Text3, [this] { Text3_GotFocus(); });
@@ -92,6 +96,7 @@ void Form6::connectBoard()
 void Form6::makeTexts()
 {
     Text4 = verdictBox(u"Text4"_s, operationPlace(), u"Operación y resultado"_s);
+    Text4->setJudged({m_board.Text3});
     tbResultados = displayBox(u"tbResultados"_s,
         {Margin, countersTop(), DivisionBoard::firstPlace().width, CountersHeight},
         ui::look::Counters, u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
@@ -149,7 +154,11 @@ void Form6::clearWork()
 
 void Form6::showOperation()
 {
-    Text4->setVerdict(m_model.operationText(), Mark::None);
+    const QString operation = m_model.operationText();
+    setControlFont(
+        Text4, operation.size() > LongOperation ? LongOperationFont : ui::look::Verdict);
+    Text4->setPlainText(operation);
+    ui::announce(*this, m_model.spokenExercise());
 }
 
 // --- commands
@@ -188,6 +197,7 @@ void Form6::showSolution()
     showVerdict(*Text4, m_model.verdict());
     m_board.Text3->setText(worked.quotient);
     m_board.Text1->setGrid(worked.work);
+    ui::announce(*this, LongDivision::spokenSolution(worked));
 }
 
 // --- boxes
@@ -217,19 +227,28 @@ void Form6::Text1_GotFocus()
 {
     if (!Text4->text().contains(u'÷')) {
         const bool isNamed = Text4->text() == u"Dividendo"_s;
-        Text4->setVerdict(isNamed ? u" Dividendo"_s : u"Dividendo"_s, Mark::None);
+        Text4->setPlainText(isNamed ? u" Dividendo"_s : u"Dividendo"_s);
     }
     Text4->showSelected();
+    saySquare();
+}
+
+/// Says the line of the caret and what stands above it.
+void Form6::saySquare()
+{
+    const WorkArea& work = *m_board.Text1;
+    if (work.hasFocus())
+        ui::announce(*this, LongDivision::spokenSquare(work.grid(), work.cursorPosition()));
 }
 
 void Form6::Text2_GotFocus()
 {
-    Text4->setVerdict(u"Divisor"_s, Mark::None);
+    Text4->setPlainText(u"Divisor"_s);
 }
 
 void Form6::Text3_GotFocus()
 {
-    Text4->setVerdict(u"Cociente"_s, Mark::None);
+    Text4->setPlainText(u"Cociente"_s);
 }
 
 // --- menu

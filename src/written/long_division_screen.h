@@ -28,6 +28,7 @@ private:
     void connectBoard();
     void makeTexts();
 
+    void saySquare();
     void writeNear(const QPoint& point);
     ui::KeyResult Text1_KeyDown(int KeyCode);
     ui::KeyResult Text1_KeyPress(QChar KeyAscii);

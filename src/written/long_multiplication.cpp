@@ -214,10 +214,12 @@ QString LongMultiplication::spokenCaret(int posicion, int length)
     return spokenPlace(length - posicion);
 }
 
-void LongMultiplication::IndicaProducto(int posicion, int fila, int length)
+bool LongMultiplication::IndicaProducto(int posicion, int fila, int length)
 {
-    if (const auto hint = productHint(posicion, fila, length))
+    const auto hint = productHint(posicion, fila, length);
+    if (hint)
         m_verdict.show(*hint);
+    return hint.has_value();
 }
 
 std::optional<QString> LongMultiplication::productHint(int posicion, int fila, int length) const

@@ -102,8 +102,8 @@ public:
     QString spokenWrongRows() const;
     static QString spokenCaret(int posicion, int length);
 
-    /// Writes that hint, where there is one, into the verdict line.
-    void IndicaProducto(int posicion, int fila, int length);
+    /// Writes that hint into the verdict line. Says whether there is one.
+    bool IndicaProducto(int posicion, int fila, int length);
 
 private:
     struct Exercise {

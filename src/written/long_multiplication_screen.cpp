@@ -4,8 +4,10 @@
 #include "ui/announcement.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
+#include "written/spoken.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using ui::SquaredBox;
@@ -92,6 +94,7 @@ void Form3::makeTexts()
     Text1 = verdictBox(u"Text1"_s,
         {ColumnLeft, verdictTop(m_board.resultTop()), ColumnWidth, VerdictHeight},
         u"Comprobación"_s);
+    Text1->setJudged({m_board.TBResultado});
     Text2 = displayBox(u"Text2"_s,
         {Margin, m_board.bottom() + CountersGap, MultiplicationBoard::right() - Margin,
             CountersHeight},
@@ -112,8 +115,14 @@ void Form3::connectRow(SquaredBox* row, int fila)
         TbParcial_KeyDown(fila, KeyCode);
         return ui::KeyResult::Pass;
     });
-    onKeyUp(row,
-        [this, fila](int KeyCode, Qt::KeyboardModifiers) { TbParcial_KeyUp(fila, KeyCode); });
+    onKeyUp(row, [this, row, fila](int KeyCode, Qt::KeyboardModifiers) {
+        TbParcial_KeyUp(fila, KeyCode);
+        sayPlace(*row);
+    });
+    onGotFocus(row, [this, row] {
+        m_said = {}; // the box is named anew, and so is its place
+        sayPlace(*row);
+    });
     on(row, &QLineEdit::textChanged, [this, fila] { TbParcial_Change(fila); });
 }
 
@@ -122,7 +131,14 @@ void Form3::connectResult()
 {
     SquaredBox* result = m_board.TBResultado;
     enterChecks(result);
-    onKeyUp(result, [this](int KeyCode, Qt::KeyboardModifiers) { TBResultado_KeyUp(KeyCode); });
+    onKeyUp(result, [this, result](int KeyCode, Qt::KeyboardModifiers) {
+        TBResultado_KeyUp(KeyCode);
+        sayPlace(*result);
+    });
+    onGotFocus(result, [this, result] {
+        m_said = {};
+        sayPlace(*result);
+    });
     on(result, &QLineEdit::textChanged, [this] { TBResultado_Change(); });
 }
 
@@ -189,8 +205,7 @@ void Form3::showFactors()
 {
     m_board.showFactors(m_model.factor1Text(), m_model.factor2Text());
     fitSquares();
-    ui::announce(*m_board.TbFactor[1],
-        (m_model.factor1Text() + u' ' + m_model.factor2Text()).simplified());
+    ui::announce(*this, m_model.spokenExercise());
 }
 
 void Form3::check()
@@ -205,6 +220,7 @@ void Form3::check()
         m_board.showWrongResult();
         for (const int row : m_model.wrongRows())
             m_board.showWrongRow(row);
+        ui::announce(*this, m_model.spokenWrongRows());
     }
     Text2->setText(m_model.counters().FormatoAlineado());
 }
@@ -226,6 +242,7 @@ void Form3::showSolution()
 {
     const QString result = m_model.showSolution();
     m_board.showSolution(m_model.expectedRows(), result);
+    ui::announce(*this, m_model.spokenSolution());
     Command2[0]->setEnabled(true);
     Command2[0]->setFocus();
 }
@@ -251,8 +268,20 @@ void Form3::TbParcial_KeyDown(int Index, int KeyCode)
 void Form3::IndicaProducto(int posicion, int fila)
 {
     const qsizetype length = m_board.row(fila)->text().size();
-    m_model.IndicaProducto(posicion, fila, static_cast<int>(length));
-    showVerdict(*Text1, m_model.verdict());
+    if (!m_model.IndicaProducto(posicion, fila, static_cast<int>(length)))
+        return;
+    Text1->setPlainText(m_model.verdict().text());
+    ui::announce(*this, spokenOperation(m_model.verdict().text()));
+}
+
+/// Says which place the next digit takes, where that is another one than before: the box has
+/// been named by its reader.
+void Form3::sayPlace(const SquaredBox& box)
+{
+    const auto length = static_cast<int>(box.text().size());
+    const QString place = LongMultiplication::spokenCaret(caretOf(box), length);
+    if (std::exchange(m_said, {&box, place}) != std::pair(&box, place))
+        ui::announce(*this, place);
 }
 
 void Form3::TbParcial_Change(int Index)

@@ -47,6 +47,7 @@ private:
     void NuevaMultiplicacion();
     void PreparaFilas();
     void IndicaProducto(int posicion, int fila);
+    void sayPlace(const ui::SquaredBox& box);
     void placeWindow();
     void fitSquares();
     void chainTabs();
@@ -60,6 +61,7 @@ private:
     ui::MenuList MnuOpcSelLis; ///< any digit, or chosen ones
     QAction* MnuOpcOcu = nullptr; ///< leaves out the rows of zeros
     MultiplicationBoard m_board;
+    std::pair<const ui::SquaredBox*, QString> m_said; ///< the place that was said last
     ui::VerdictBox* Text1 = nullptr; ///< the verdict, or the hint of a product of digits
     ui::TextBox* Text2 = nullptr; ///< the counters
 };

@@ -62,22 +62,22 @@ shell::Verdict MultiplesDivisors::judge(const Answer& answers)
 {
     if (std::any_of(answers.begin(), answers.end(), [](double answer) { return answer < 1; }))
         return Verdict::NotJudged;
-    const auto wrong = firstWrong(answers);
-    m_wrongAnswer = wrong.value_or(0);
-    if (wrong)
+    m_wrongAnswers = findWrong(answers);
+    if (!m_wrongAnswers.empty())
         m_verdict.tell(Verdict::Wrong, u"Resultado incorrecto"_s, shell::Repeat::BlankBehind);
     else
         m_verdict.tell(Verdict::Right, u"Resultado correcto"_s, shell::Repeat::BlankBehind);
     return *m_verdict.verdict();
 }
 
-std::optional<int> MultiplesDivisors::firstWrong(const Answer& answers) const
+std::vector<int> MultiplesDivisors::findWrong(const Answer& answers) const
 {
+    std::vector<int> wrong;
     for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
         if (!isRight(*answer) || std::find(answers.begin(), answer, *answer) != answer)
-            return static_cast<int>(answer - answers.begin());
+            wrong.push_back(static_cast<int>(answer - answers.begin()));
     }
-    return std::nullopt;
+    return wrong;
 }
 
 bool MultiplesDivisors::isRight(double answer) const

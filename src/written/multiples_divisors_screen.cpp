@@ -73,7 +73,7 @@ void FrmMultidivi::makeBoxes()
     Text1->setToolTip(u"No debes introducir el mismo número indicado"_s);
 
     Text2 =
-        displayBox(u"Text2"_s, centred(1080, FullWidth, 1440), NumberFont, u"Número indicado"_s);
+        displayBox(u"Text2"_s, centred(1040, FullWidth, 1560), NumberFont, u"Número indicado"_s);
     Text2->setAlignment(Qt::AlignCenter);
 
     for (int i = 0; i < MultiplesDivisors::Answers; ++i) {
@@ -87,6 +87,7 @@ void FrmMultidivi::makeBoxes()
 
     TBMensajes = verdictBox(u"TBMensajes"_s,
         centred(AnswerTop + AnswerHeight + TrayMargin / 2, VerdictWidth, 640), u"Comprobación"_s);
+    TBMensajes->setJudged({Text3.begin(), Text3.end()});
     // Nothing is counted here: the line stays as it is.
     displayBox(u"TbResultados"_s, {Margin, CountersTop, FullWidth, CountersHeight},
         ui::look::Counters, u"Ejercicios y errores"_s, u"Ejercicios: 0; Errores: 0"_s);
@@ -105,7 +106,7 @@ void FrmMultidivi::newExercise()
     TBMensajes->retire();
     Text1->setPlainText(m_model.instruction());
     Text2->setText(QString::number(m_model.number()));
-    ui::announce(*Text2, m_model.instruction() + u' ' + Text2->text());
+    ui::announce(*this, m_model.spokenExercise());
 }
 
 void FrmMultidivi::check()
@@ -122,9 +123,20 @@ void FrmMultidivi::check()
     if (verdict == shell::Verdict::Right) {
         Command2[0]->setFocus();
     } else {
-        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(m_model.wrongAnswer()));
+        edgeWrongAnswers();
+        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(m_model.wrongAnswers().front()));
         wrong->setFocus();
         wrong->selectAll();
+    }
+}
+
+/// Of a wrong verdict the edges tell which answers are meant.
+void FrmMultidivi::edgeWrongAnswers()
+{
+    const std::vector<int>& wrong = m_model.wrongAnswers();
+    for (std::size_t i = 0; i < Text3.size(); ++i) {
+        if (std::find(wrong.begin(), wrong.end(), static_cast<int>(i)) == wrong.end())
+            Text3.at(i)->setEdge({});
     }
 }
 
@@ -145,6 +157,7 @@ void FrmMultidivi::showSolution()
     const auto solution = m_model.showSolution();
     for (std::size_t i = 0; i < solution.size(); ++i)
         Text3.at(i)->setText(QString::number(solution.at(i)));
+    ui::announce(*this, m_model.spokenSolution());
 }
 
 } // namespace written

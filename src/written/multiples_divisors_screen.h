@@ -22,6 +22,7 @@ protected:
 
 private:
     void makeBoxes();
+    void edgeWrongAnswers();
 
     ui::Memo* Text1 = nullptr; ///< the instruction
     ui::TextBox* Text2 = nullptr; ///< the given number

@@ -201,6 +201,7 @@ void MultiplicationBoard::removeRow()
 {
     SquaredBox* row = TbParcial.back();
     TbParcial.pop_back();
+    m_crosses.back()->hide();
     m_crosses.back()->deleteLater();
     m_crosses.pop_back();
     if (row->window()->focusWidget() == row)

@@ -1,6 +1,6 @@
 #include "written/wrong_mark.h"
 
-#include "ui/look.h"
+#include "ui/marks.h"
 
 #include <QPainter>
 
@@ -15,9 +15,7 @@ WrongMark::WrongMark(QWidget* parent)
 void WrongMark::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setPen(QPen(QColor(ui::look::Wrong), width() / 6.0, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(rect().topLeft(), rect().bottomRight());
-    painter.drawLine(rect().topRight(), rect().bottomLeft());
+    ui::drawWrongDisc(painter, rect());
 }
 
 } // namespace written

@@ -283,6 +283,27 @@ private slots:
         QCOMPARE(bench->text(u"Text2"_s), u"9"_s);
     }
 
+    void onlyWrongAnswersGetARedEdge()
+    {
+        const auto edges = [this] {
+            QList<QColor> colours;
+            for (int i = 0; i < 3; ++i)
+                colours << bench->control<ui::TextBox>(box(i)).edge().value_or(QColor());
+            return colours;
+        };
+        const QColor wrong(ui::look::Wrong);
+        const QColor right(ui::look::Right);
+        typeAnswers({u"8"_s, u"9"_s, u"8"_s});
+        bench->click(u"Command1"_s);
+        QCOMPARE(edges(), (QList{QColor(), wrong, wrong}));
+        typeAnswers({u"8"_s, u"12"_s, u"16"_s});
+        bench->click(u"Command1"_s);
+        QCOMPARE(edges(), (QList{right, right, right}));
+        scriptMultiples(7);
+        bench->click(u"Command2(0)"_s);
+        QCOMPARE(edges(), (QList{QColor(), QColor(), QColor()}));
+    }
+
     void escapeDoesNothing()
     {
         bench->type(box(0), u"8"_s);
