@@ -5,11 +5,26 @@
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
 
 namespace written {
+
+namespace {
+
+/// What a line of text really takes, which no measure of the font need be.
+int lineHeight(const QFont& font)
+{
+    QTextLayout sample(QStringLiteral("0"), font);
+    sample.beginLayout();
+    sample.createLine();
+    sample.endLayout();
+    return static_cast<int>(std::ceil(sample.lineAt(0).height()));
+}
+
+} // namespace
 
 ScratchArea::ScratchArea(QWidget* parent)
     : Memo(Kind::Entry, parent)
@@ -21,7 +36,7 @@ void ScratchArea::setFactor(double factor)
     Memo::setFactor(factor);
     QFont squared = font();
     const QFontMetricsF metrics(squared);
-    m_square = static_cast<int>(std::ceil(metrics.lineSpacing()));
+    m_square = lineHeight(squared);
     m_pen = std::max(1, static_cast<int>(factor));
     m_corner = qRound(ui::look::CornerMargin * factor);
     const double gap = m_square - metrics.horizontalAdvance(u'0');

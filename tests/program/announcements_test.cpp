@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QDialog>
+#include <QMenuBar>
 
 #include <utility>
 
@@ -103,8 +104,8 @@ private slots:
     void exercisesAreSpokenAgainByKey_data()
     {
         QTest::addColumn<QString>("name");
-        for (const QString& name :
-            {u"Form2"_s, u"Form4"_s, u"FrmMultHuecos"_s, u"FRMCombi"_s, u"FrmMultidivi"_s})
+        for (const QString& name : {u"Form2"_s, u"Form4"_s, u"FormProblemas"_s,
+                 u"FrmMultHuecos"_s, u"FRMCombi"_s, u"FrmMultidivi"_s})
             QTest::newRow(qPrintable(name)) << name;
     }
     void exercisesAreSpokenAgainByKey()
@@ -199,6 +200,30 @@ private slots:
         auto& answer = ScreenBench::find<QLineEdit>(screen, u"TBResultado"_s);
         QTest::keyClick(&answer, Qt::Key_Return);
         QCOMPARE(heard().size(), 1);
+    }
+
+    void problemsSpeakTheirStatementAndUnitAndTheSolution()
+    {
+        ui::Screen& screen = open(u"FormProblemas"_s);
+        const QString unit = ScreenBench::find<QLabel>(screen, u"LBUnidad"_s).text();
+        QCOMPARE(heard(),
+            {ScreenBench::find<QTextEdit>(screen, u"TBEnunciado"_s).toPlainText()
+                + u" Respuesta en "_s + unit});
+        click(screen, u"Command2(2)"_s);
+        QCOMPARE(heard(),
+            {ScreenBench::find<QLineEdit>(screen, u"TBRespuesta"_s).text() + u' ' + unit});
+    }
+
+    void altAloneLeavesTheFocusWhereItIs()
+    {
+        // A reader has the releases of keys come late: behind the next press of Alt, the one
+        // of the Alt before would lead to the menu bar.
+        ui::Screen& screen = open(u"Form2"_s);
+        QWidget* focused = QApplication::focusWidget();
+        QTest::keyPress(focused, Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(focused, Qt::Key_Alt);
+        QCOMPARE(QApplication::focusWidget(), focused);
+        QVERIFY(!screen.findChild<QMenuBar*>()->hasFocus());
     }
 
     void textsWaitForTheirWindow()
