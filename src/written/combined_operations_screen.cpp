@@ -2,7 +2,6 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "written/scratch_area.h"
 
@@ -114,7 +113,7 @@ void FRMCombi::newExercise()
     Text1->retire();
     showAnswerAsPast(true);
     TBOperacion->setText(m_model.text());
-    ui::announce(*this, m_model.spokenExercise());
+    sayExercise();
     TBCalculos->setPlainText(m_model.text());
     TBCalculos->moveCursor(QTextCursor::End);
     TBResultado->setFocus();
@@ -155,7 +154,7 @@ void FRMCombi::clearAnswer()
 void FRMCombi::showSolution()
 {
     TBResultado->setText(QString::number(m_model.showSolution()));
-    ui::announce(*this, m_model.spokenSolution());
+    say(m_model.spokenSolution());
 }
 
 } // namespace written

@@ -56,11 +56,11 @@ private slots:
     void everyNewExerciseIsSpoken()
     {
         ui::Screen& screen = open();
-        QCOMPARE(heard().size(), 1); // once, though it was drawn before the screen came up
+        QCOMPARE(exercisesIn(heard(), screen), 1); // once, though drawn before the screen came up
         click(screen, u"Command2(2)"_s); // some screens go on only from the solution
         heard();
         click(screen, u"Command2(0)"_s);
-        QCOMPARE(heard().size(), 1);
+        QCOMPARE(exercisesIn(heard(), screen), 1);
     }
 
     void everyVerdictIsSpokenAgainAndAgain_data()
@@ -83,9 +83,10 @@ private slots:
             for (auto* box : screen.findChildren<QLineEdit*>())
                 if (!box->isReadOnly())
                     typeInto(box, u"-"_s); // wrong, whatever was asked
+            heard(); // where the caret is
             click(screen, u"Command1"_s);
-            QStringList told = heard();
-            QCOMPARE(told.size(), 1);
+            const QStringList told = heard();
+            QCOMPARE(told.filter(verdict).size(), 1);
             QCOMPARE(told.first().trimmed(), verdict);
         }
     }
@@ -103,8 +104,8 @@ private slots:
     void exercisesAreSpokenAgainByKey_data()
     {
         QTest::addColumn<QString>("name");
-        for (const QString& name :
-            {u"Form2"_s, u"Form4"_s, u"FormProblemas"_s, u"FrmMultHuecos"_s})
+        for (const QString& name : {u"Form2"_s, u"Form4"_s, u"FormProblemas"_s,
+                 u"FrmMultHuecos"_s, u"FRMCombi"_s, u"FrmMultidivi"_s})
             QTest::newRow(qPrintable(name)) << name;
     }
     void exercisesAreSpokenAgainByKey()
@@ -264,6 +265,13 @@ private:
     static void click(const ui::Screen& screen, const QString& button)
     {
         QTest::mouseClick(&ScreenBench::find<QPushButton>(screen, button), Qt::LeftButton);
+    }
+    /// How often the exercise of a screen is among what was said; where it has no words of its
+    /// own for one, whatever was said.
+    static qsizetype exercisesIn(const QStringList& told, const ui::Screen& screen)
+    {
+        const QString exercise = screen.spokenExercise();
+        return exercise.isEmpty() ? told.size() : told.count(exercise);
     }
     /// What was to be read aloud since the last call.
     static QStringList heard()
