@@ -16,6 +16,7 @@ QString aloud(QStringView expression)
         {u'×', u"por"_s},
         {u'·', u"por"_s},
         {u':', u"entre"_s},
+        {u'÷', u"entre"_s},
         {u'/', u"entre"_s},
         {u'=', u"igual a"_s},
         {u'(', u"abre paréntesis"_s},

@@ -32,6 +32,9 @@ constexpr double LongestLine = 600;
 constexpr double ShortestLine = 220; // so that the title can be read
 constexpr double BoxFrame = 110; // what a box needs beside its text, icon included
 
+const QString TextLabel = u"qt_msgbox_label"_s; // the toolkit's names
+const QString NotesLabel = u"qt_msgbox_informativelabel"_s;
+
 /// A message box that is left only by one of its buttons when it asks a question: a stray
 /// Escape must not answer "No".
 class Box final : public QMessageBox {
@@ -51,6 +54,7 @@ protected:
     void showEvent(QShowEvent* event) override
     {
         dropIconGap();
+        keepNotesClear();
         QMessageBox::showEvent(event);
     }
     void keyPressEvent(QKeyEvent* event) override
@@ -75,6 +79,18 @@ private:
         const int needed = layout()->totalMinimumSize().width();
         if (isVisible() && layout()->hasHeightForWidth() && needed > width())
             setFixedSize(needed, layout()->totalHeightForWidth(needed));
+    }
+
+    /// Of the strip under the buttons; the toolkit has set margins of its own meanwhile, for
+    /// the text too, whose lines they would break.
+    void keepNotesClear()
+    {
+        auto* notes = findChild<QLabel*>(NotesLabel);
+        if (notes == nullptr)
+            return;
+        notes->setContentsMargins(0, 0, 0, fontMetrics().height());
+        if (auto* text = findChild<QLabel*>(TextLabel))
+            text->setContentsMargins({});
     }
 
     /// Without an icon the text begins where the margin ends.
@@ -139,7 +155,7 @@ double largestWidth(const QWidget& owner)
 void widen(const Box& box, const QWidget& owner)
 {
     const double factor = factorOf(&owner);
-    auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    auto* label = box.findChild<QLabel*>(TextLabel);
     if (label == nullptr)
         return;
     const QFontMetrics metrics(box.font());
@@ -156,14 +172,9 @@ void addNotes(Box& box, const QString& notes)
 {
     if (notes.isEmpty())
         return;
-    box.setInformativeText(notes); // gives the text a margin, which would break its lines
-    if (auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s))
-        label->setContentsMargins({});
-    if (auto* label = box.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s)) {
+    box.setInformativeText(notes);
+    if (auto* label = box.findChild<QLabel*>(NotesLabel))
         label->setTextFormat(Qt::PlainText);
-        const int gap = QFontMetrics(box.font()).height() / 2; // clear of the buttons' strip
-        label->setContentsMargins(0, 0, 0, gap);
-    }
 }
 
 QPointer<Box> makeBox(HandlerGuard& owner, const QString& text, const QString& title,

@@ -7,6 +7,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -27,6 +28,17 @@ constexpr double CaretGapShare = 0.2; // of a square, at most
 constexpr int InnerMarginX = 2;
 constexpr int InnerMarginY = 1;
 constexpr int AlignedGap = 2;
+
+/// Where a line edit lays the baseline under the top of its text, which no measure of the font
+/// need be.
+int layoutAscent(const QFont& font)
+{
+    QTextLayout sample(u"0"_s, font);
+    sample.beginLayout();
+    sample.createLine();
+    sample.endLayout();
+    return static_cast<int>(std::ceil(sample.lineAt(0).ascent()));
+}
 
 } // namespace
 
@@ -83,6 +95,7 @@ void SquaredBox::setFactor(double factor)
     QFont type = font();
     type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
         std::max(1, static_cast<int>(LargestType * factor))));
+    type.setHintingPreference(QFont::PreferNoHinting); // else a blank is as wide as it likes
     type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
     constexpr int Sample = 10; // laid out together, as they will stand
     const double advance = QFontMetricsF(type).horizontalAdvance(QString(Sample, u'0')) / Sample;
@@ -98,7 +111,7 @@ void SquaredBox::setFactor(double factor)
     const double baseline = m_top * pixels + (m_height * pixels + digit) / 2;
     // The spacing stands behind each digit: half of it goes in front of the first one.
     const int left = qRound(m_indent * pixels + spacing / 2) - InnerMarginX - inner.left();
-    const int top = qRound(baseline) - fontMetrics().ascent() - InnerMarginY - inner.top();
+    const int top = static_cast<int>(baseline) - layoutAscent(type) - InnerMarginY - inner.top();
     const int right =
         inner.right() + 1 - InnerMarginX - AlignedGap - width() - qRound(spacing / 2);
     setTextMargins(left, top, right, inner.bottom() + 1 - height());

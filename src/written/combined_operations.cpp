@@ -1,7 +1,7 @@
 #include "written/combined_operations.h"
 
+#include "core/aloud.h"
 #include "core/random.h"
-#include "written/spoken.h"
 
 #include <utility>
 
@@ -80,7 +80,7 @@ QString CombinedOperations::text() const
 
 QString CombinedOperations::spokenExercise() const
 {
-    return spokenOperation(text());
+    return core::aloud(text());
 }
 
 QString CombinedOperations::spokenSolution() const

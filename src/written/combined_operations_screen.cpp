@@ -2,7 +2,6 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "written/scratch_area.h"
 
@@ -42,7 +41,7 @@ ui::TwipRect commandPlace(int position)
 }
 
 constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
-constexpr ui::look::Font ScratchFont{Family::CourierNew, 20};
+constexpr ui::look::Font ScratchFont{Family::CourierNew, 18};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 26, true};
 constexpr ui::look::Font LabelFont{Family::Andika, 18, true};
 
@@ -114,7 +113,7 @@ void FRMCombi::newExercise()
     Text1->retire();
     showAnswerAsPast(true);
     TBOperacion->setText(m_model.text());
-    ui::announce(*this, m_model.spokenExercise());
+    sayExercise();
     TBCalculos->setPlainText(m_model.text());
     TBCalculos->moveCursor(QTextCursor::End);
     TBResultado->setFocus();
@@ -155,7 +154,7 @@ void FRMCombi::clearAnswer()
 void FRMCombi::showSolution()
 {
     TBResultado->setText(QString::number(m_model.showSolution()));
-    ui::announce(*this, m_model.spokenSolution());
+    say(m_model.spokenSolution());
 }
 
 } // namespace written

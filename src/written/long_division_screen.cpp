@@ -1,7 +1,6 @@
 #include "written/long_division_screen.h"
 
 #include "core/clock.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
 #include "written/division_sheet.h"
@@ -158,7 +157,7 @@ void Form6::showOperation()
     setControlFont(
         Text4, operation.size() > LongOperation ? LongOperationFont : ui::look::Verdict);
     Text4->setPlainText(operation);
-    ui::announce(*this, m_model.spokenExercise());
+    sayExercise();
 }
 
 // --- commands
@@ -197,7 +196,7 @@ void Form6::showSolution()
     showVerdict(*Text4, m_model.verdict());
     m_board.Text3->setText(worked.quotient);
     m_board.Text1->setGrid(worked.work);
-    ui::announce(*this, LongDivision::spokenSolution(worked));
+    say(LongDivision::spokenSolution(worked));
 }
 
 // --- boxes
@@ -238,7 +237,7 @@ void Form6::saySquare()
 {
     const WorkArea& work = *m_board.Text1;
     if (work.hasFocus())
-        ui::announce(*this, LongDivision::spokenSquare(work.grid(), work.cursorPosition()));
+        say(LongDivision::spokenSquare(work.grid(), work.cursorPosition()));
 }
 
 void Form6::Text2_GotFocus()

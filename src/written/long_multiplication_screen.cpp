@@ -1,10 +1,9 @@
 #include "written/long_multiplication_screen.h"
 
+#include "core/aloud.h"
 #include "core/clock.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
-#include "written/spoken.h"
 
 #include <algorithm>
 #include <utility>
@@ -205,7 +204,7 @@ void Form3::showFactors()
 {
     m_board.showFactors(m_model.factor1Text(), m_model.factor2Text());
     fitSquares();
-    ui::announce(*this, m_model.spokenExercise());
+    sayExercise();
 }
 
 void Form3::check()
@@ -220,7 +219,7 @@ void Form3::check()
         m_board.showWrongResult();
         for (const int row : m_model.wrongRows())
             m_board.showWrongRow(row);
-        ui::announce(*this, m_model.spokenWrongRows());
+        say(m_model.spokenWrongRows());
     }
     Text2->setText(m_model.counters().FormatoAlineado());
 }
@@ -242,7 +241,7 @@ void Form3::showSolution()
 {
     const QString result = m_model.showSolution();
     m_board.showSolution(m_model.expectedRows(), result);
-    ui::announce(*this, m_model.spokenSolution());
+    say(m_model.spokenSolution());
     Command2[0]->setEnabled(true);
     Command2[0]->setFocus();
 }
@@ -271,7 +270,7 @@ void Form3::IndicaProducto(int posicion, int fila)
     if (!m_model.IndicaProducto(posicion, fila, static_cast<int>(length)))
         return;
     Text1->setPlainText(m_model.verdict().text());
-    ui::announce(*this, spokenOperation(m_model.verdict().text()));
+    say(core::aloud(m_model.verdict().text()));
 }
 
 /// Says which place the next digit takes, where that is another one than before: the box has
@@ -281,7 +280,7 @@ void Form3::sayPlace(const SquaredBox& box)
     const auto length = static_cast<int>(box.text().size());
     const QString place = LongMultiplication::spokenCaret(caretOf(box), length);
     if (std::exchange(m_said, {&box, place}) != std::pair(&box, place))
-        ui::announce(*this, place);
+        say(place);
 }
 
 void Form3::TbParcial_Change(int Index)

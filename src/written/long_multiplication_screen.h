@@ -15,6 +15,8 @@ public:
 
     explicit Form3(ui::Screens& screens);
 
+    QString spokenExercise() const override { return m_model.spokenExercise(); }
+
 protected:
     void Form_Load() override;
     void newExercise() override { NuevaMultiplicacion(); }

@@ -2,7 +2,6 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <algorithm>
@@ -106,7 +105,7 @@ void FrmMultidivi::newExercise()
     TBMensajes->retire();
     Text1->setPlainText(m_model.instruction());
     Text2->setText(QString::number(m_model.number()));
-    ui::announce(*this, m_model.spokenExercise());
+    sayExercise();
 }
 
 void FrmMultidivi::check()
@@ -157,7 +156,7 @@ void FrmMultidivi::showSolution()
     const auto solution = m_model.showSolution();
     for (std::size_t i = 0; i < solution.size(); ++i)
         Text3.at(i)->setText(QString::number(solution.at(i)));
-    ui::announce(*this, m_model.spokenSolution());
+    say(m_model.spokenSolution());
 }
 
 } // namespace written

@@ -12,6 +12,8 @@ public:
 
     explicit FrmMultidivi(ui::Screens& screens);
 
+    QString spokenExercise() const override { return m_model.spokenExercise(); }
+
 protected:
     void Form_Load() override;
     void newExercise() override;

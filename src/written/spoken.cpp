@@ -1,23 +1,10 @@
 #include "written/spoken.h"
 
 #include <array>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace written {
-
-QString spokenOperation(const QString& operation)
-{
-    static const std::array Words{std::pair(u"("_s, u" abre paréntesis "_s),
-        std::pair(u")"_s, u" cierra paréntesis "_s), std::pair(u"+"_s, u" más "_s),
-        std::pair(u"-"_s, u" menos "_s), std::pair(u"x"_s, u" por "_s),
-        std::pair(u"×"_s, u" por "_s), std::pair(u"÷"_s, u" entre "_s)};
-    QString spoken = operation;
-    for (const auto& [sign, word] : Words)
-        spoken.replace(sign, word);
-    return spoken.simplified();
-}
 
 QString spokenPlace(int place)
 {

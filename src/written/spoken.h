@@ -6,9 +6,6 @@ namespace written {
 
 // Words for what a screen reader has no words for, or the wrong ones.
 
-/// An operation with its signs and brackets in words: "5 más 3".
-QString spokenOperation(const QString& operation);
-
 /// The place of a digit, 0 at the units: "unidades", "decenas" and so on.
 QString spokenPlace(int place);
 

@@ -15,7 +15,7 @@ import time
 import tty
 from pathlib import Path
 
-LIMIT = 30  # seconds: far more than a busy machine takes, so that only real silence ends it
+LIMIT = 90  # seconds: far more than a busy machine takes, so that only real silence ends it
 
 SPEECH = """LogLevel 0
 LogDir "{folder}"

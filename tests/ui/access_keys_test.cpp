@@ -1,6 +1,9 @@
 #include "support/sample_screen.h"
 #include "support/screen_bench.h"
 
+#include <QAccessible>
+#include <QMenuBar>
+
 using namespace Qt::StringLiterals;
 
 class AccessKeysTest : public QObject {
@@ -45,6 +48,14 @@ private slots:
         QEvent deactivated(QEvent::WindowDeactivate);
         QApplication::sendEvent(screen, &deactivated); // Alt+Tab: the release goes elsewhere
         QCOMPARE(screen->grab().toImage(), plain);
+    }
+
+    void leadToTheMenuBarWithAltAloneUnlessAReaderListens()
+    {
+        screen->entry->setFocus();
+        QTest::keyPress(screen->entry, Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(screen->entry, Qt::Key_Alt);
+        QCOMPARE(screen->findChild<QMenuBar*>()->hasFocus(), !QAccessible::isActive());
     }
 
     void workWithoutBeingSeen()

@@ -8,23 +8,6 @@ class SpokenTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void operationsAreReadInWords_data()
-    {
-        QTest::addColumn<QString>("operation");
-        QTest::addColumn<QString>("spoken");
-        QTest::newRow("every sign and brackets")
-            << u"(5 + 3) + 4 x 2 - 18 ÷ 3"_s
-            << u"abre paréntesis 5 más 3 cierra paréntesis más 4 por 2 menos 18 entre 3"_s;
-        QTest::newRow("the times sign of a hint") << u"7 × 3"_s << u"7 por 3"_s;
-        QTest::newRow("no blanks") << u"-12÷3"_s << u"menos 12 entre 3"_s;
-        QTest::newRow("number") << u"84"_s << u"84"_s;
-    }
-    void operationsAreReadInWords()
-    {
-        QFETCH(QString, operation);
-        QTEST(written::spokenOperation(operation), "spoken");
-    }
-
     void placesHaveNames()
     {
         QCOMPARE(written::spokenPlace(0), u"unidades"_s);
