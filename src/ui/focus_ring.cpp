@@ -19,6 +19,7 @@ namespace ui {
 namespace {
 
 constexpr double Radius = 12; // pixels at factor 1
+constexpr const char* LeftOut = "pizarrinNoFocusRing";
 
 bool isOnlyRead(const QWidget* widget)
 {
@@ -41,6 +42,11 @@ FocusRing::FocusRing(QWidget* canvas)
         qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow(now); });
 }
 
+void FocusRing::leaveOut(QWidget& control)
+{
+    control.setProperty(LeftOut, true);
+}
+
 void FocusRing::follow(QWidget* focused)
 {
     // No focus at all: a box is open or the window is not the active one; the ring stays.
@@ -48,7 +54,8 @@ void FocusRing::follow(QWidget* focused)
         return;
     if (m_focused)
         m_focused->removeEventFilter(this);
-    m_focused = parentWidget()->isAncestorOf(focused) ? focused : nullptr;
+    const bool mine = parentWidget()->isAncestorOf(focused);
+    m_focused = mine && !focused->property(LeftOut).toBool() ? focused : nullptr;
     if (m_focused)
         m_focused->installEventFilter(this);
     surround();

@@ -14,6 +14,9 @@ class FocusRing : public QWidget, public Scalable {
 public:
     explicit FocusRing(QWidget* canvas);
 
+    /// Leaves out a control whose focus is marked by other means.
+    static void leaveOut(QWidget& control);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
