@@ -5,7 +5,8 @@ Usage: bench/start.py [build folder] [rounds, 25 or more]
 
 Each round starts one of the two programs, waits until its window is painted (its middle is
 no longer the root window's black), and reads the time and, half a second later, the memory
-(PSS). Prints the medians and the ratios. Runs Xvfb by itself (package xvfb).
+(PSS) and the time that it has spent on a processor, which a busy machine changes least. Prints
+the medians and the ratios. Runs Xvfb by itself (package xvfb).
 """
 import os
 import pathlib
@@ -47,6 +48,12 @@ def command(build, program):
     return ["wine", for_windows] if for_windows.exists() else [build / "bin" / program]
 
 
+def processor_time(pid):
+    """Seconds that all threads of a process have run."""
+    files = pathlib.Path(f"/proc/{pid}/task").glob("*/schedstat")
+    return sum(int(file.read_text().split()[0]) for file in files) / 1e9
+
+
 def measure(program, directory, environment):
     begin = time.perf_counter()
     process = subprocess.Popen(program, env=environment, stderr=subprocess.DEVNULL)
@@ -57,11 +64,12 @@ def measure(program, directory, environment):
     elapsed = time.perf_counter() - begin
     time.sleep(0.5)
     memory = pss(process.pid)
+    processor = processor_time(process.pid)
     process.send_signal(signal.SIGKILL)
     process.wait()
     while painted(directory):
         time.sleep(0.01)
-    return elapsed, memory
+    return elapsed, memory, processor
 
 
 def main():
@@ -91,12 +99,14 @@ def main():
         subprocess.run(["rm", "-rf", str(directory)], check=False)
     medians = {}
     for name, values in results.items():
-        seconds = statistics.median(value[0] for value in values)
-        memory = statistics.median(value[1] for value in values)
-        medians[name] = (seconds, memory)
-        print(f"{name:9} start {seconds * 1000:7.1f} ms   memory {memory / 1024:6.2f} MiB (PSS)")
-    print(f"ratio     start {medians['pizarrin'][0] / medians['floor'][0]:7.3f}      "
-          f"memory {medians['pizarrin'][1] / medians['floor'][1]:6.3f}")
+        seconds, memory, processor = (statistics.median(column) for column in zip(*values))
+        medians[name] = (seconds, memory, processor)
+        print(f"{name:9} start {seconds * 1000:7.1f} ms   memory {memory / 1024:6.2f} MiB (PSS)   "
+              f"processor {processor * 1000:6.1f} ms")
+    start, memory, processor = (
+        ours / floor for ours, floor in zip(medians["pizarrin"], medians["floor"]))
+    print(f"ratio     start {start:7.3f}      memory {memory:6.3f}             "
+          f"processor {processor:6.3f}")
 
 
 if __name__ == "__main__":

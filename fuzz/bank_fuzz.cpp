@@ -4,6 +4,8 @@
 #include "problems/bank_editor.h"
 #include "problems/expression.h"
 #include "problems/problem_template.h"
+#include "problems/template_faults.h"
+#include "problems/used_operations.h"
 #include "problems/windows1252.h"
 
 #include <QFile>
@@ -38,6 +40,9 @@ void checkLine(const QString& line, QByteArrayView file)
     require(file.indexOf(written(line)) >= 0);
     const QString again = problems::joinLine(problems::splitLine(line));
     require(problems::joinLine(problems::splitLine(again)) == again);
+    for (const auto& fault : problems::faultsOf(problems::splitLine(line)))
+        require(!fault.text.isEmpty());
+    require(problems::usedOperations(line) < 16);
 }
 
 void instantiate(const QString& line)

@@ -32,6 +32,11 @@ void gallery::addProblemsEditor(Gallery& gallery)
         choose(stage, 3);
         stage.photographBox([&] { stage.click(u"CBProbar"_s); }, u"Aceptar"_s);
     });
+    gallery.add(u"editor-avisos"_s, Form, [](Stage& stage) {
+        stage.type(u"Text1"_s, u"Reparto [20_60] cromos entre [3_9] amigos y sobran [2_5"_s);
+        stage.type(u"Text2"_s, u"{&1/&2-&3}"_s);
+        stage.photographBox([&] { stage.click(u"CBProbar"_s); }, u"Aceptar"_s);
+    });
     gallery.add(u"editor-insertar"_s, Form, [](Stage& stage) {
         choose(stage, 3);
         stage.photographBox([&] { stage.click(u"Command2"_s); }, u"Cancelar"_s);

@@ -19,7 +19,8 @@ check_imports() {
 gather_fonts() {
   local file
   mkdir -p "$windows_build/fonts"
-  for file in /usr/share/fonts/truetype/{liberation,dejavu,andika}*/*.ttf; do
+  for file in /usr/share/fonts/truetype/{liberation,dejavu,andika}*/*.ttf \
+      /usr/share/fonts/opentype/urw-base35/NimbusMonoPS-*.otf; do
     ln -sf "$file" "$windows_build/fonts"
   done
 }
@@ -29,7 +30,8 @@ summarise() { # log
 }
 
 configure_windows wine wine64 unzip xvfb openbox dbus-daemon dbus-bin at-spi2-core xdotool \
-  x11-xkb-utils imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika
+  x11-xkb-utils imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika \
+  fonts-urw-base35
 build_windows all
 check_imports
 gather_fonts

@@ -4,7 +4,6 @@
 #include "games/night_sky.h"
 #include "games/rain_field.h"
 #include "games/token_row.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <QApplication>
@@ -102,7 +101,7 @@ void Form5::show(const RainStep& step)
     if (step.phasePrepared) {
         Text1->setText(m_model.instruction());
         Text1->showSelected();
-        ui::announce(*Text1, spokenExercise());
+        sayExercise();
     }
     for (const RainEvent& event : step.events) {
         m_field->splash(event);
@@ -164,10 +163,10 @@ void Form5::tell(const RainEvent& event)
 {
     switch (event.kind) {
     case RainEvent::Kind::Hit:
-        ui::announce(*Text2[0], u"Acierto %1"_s.arg(m_model.state().Aciertos.value()));
+        say(u"Acierto %1"_s.arg(m_model.state().Aciertos.value()));
         break;
     case RainEvent::Kind::Miss:
-        ui::announce(*Text2[0], u"Error"_s);
+        say(u"Error"_s);
         break;
     case RainEvent::Kind::Escape:
         break; // the beep tells
@@ -179,7 +178,7 @@ void Form5::tellLives()
     if (m_model.state().Vidas == m_toldLives)
         return;
     m_toldLives = m_model.state().Vidas;
-    ui::announce(*Text2[1], u"Vidas: %1"_s.arg(m_toldLives.value()));
+    say(u"Vidas: %1"_s.arg(m_toldLives.value()));
 }
 
 ui::KeyResult Form5::CbNave_KeyDown(int KeyCode) const

@@ -19,8 +19,7 @@ public:
 
     explicit Form5(ui::Screens& screens);
 
-    /// The rule of the phase.
-    QString spokenExercise() const { return m_model.instruction(); }
+    QString spokenExercise() const override { return m_model.instruction(); }
 
 protected:
     void Form_Load() override;

@@ -1,5 +1,6 @@
 #include "games/race.h"
 
+#include "core/aloud.h"
 #include "core/random.h"
 
 using namespace Qt::StringLiterals;
@@ -181,12 +182,7 @@ double Race::rivalLeft() const
 
 QString Race::spokenOperation() const
 {
-    QString words = m_operation;
-    return words.replace(u'×', u"por"_s)
-        .replace(u'÷', u"entre"_s)
-        .replace(u'+', u"más"_s)
-        .replace(u'-', u"menos"_s)
-        .remove(u" ="_s);
+    return core::aloud(QString(m_operation).remove(u" ="_s));
 }
 
 QString Race::spokenStandings() const

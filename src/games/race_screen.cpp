@@ -5,7 +5,6 @@
 #include "games/car_picture.h"
 #include "games/race_keypad.h"
 #include "games/race_options_screen.h"
-#include "ui/announcement.h"
 #include "ui/picture.h"
 #include "ui/screens.h"
 
@@ -86,9 +85,9 @@ QImage FrmCarrera::carPicture(core::Int16 position) const
 void FrmCarrera::NuevaOperacion()
 {
     TBOperacion->setText(m_race.operation());
-    ui::announce(*TBOperacion, spokenExercise());
     TBResultado->clear();
     TBResultado->setFocus();
+    sayExercise();
 }
 
 ui::KeyResult FrmCarrera::TBResultado_KeyPress(QChar character)
@@ -139,7 +138,7 @@ ui::KeyResult FrmCarrera::Text2_KeyPress(int Index, QChar character)
 void FrmCarrera::showVerdict()
 {
     Text4->setVerdict(m_race.verdict().text(), markOf(m_race.verdict()));
-    ui::announce(*Text4, m_race.spokenStandings());
+    say(m_race.spokenStandings());
 }
 
 void FrmCarrera::showWrongAnswer()

@@ -18,8 +18,7 @@ public:
 
     explicit FrmCarrera(ui::Screens& screens);
 
-    /// The operation in words.
-    QString spokenExercise() const { return m_race.spokenOperation(); }
+    QString spokenExercise() const override { return m_race.spokenOperation(); }
 
 protected:
     void Form_Load() override;

@@ -41,6 +41,8 @@ QString singularBeforePlural(const QString& text)
 {
     static const QRegularExpression one(
         u"(?<![\\d.,:])1 (\\p{L}+)"_s, QRegularExpression::UseUnicodePropertiesOption);
+    if (!text.contains(u"1 "_s))
+        return {};
     for (const auto& match : one.globalMatch(text)) {
         if (looksPlural(match.captured(1)))
             return match.captured();
@@ -85,11 +87,10 @@ QString readAloud(const Problem& problem)
 
 void addDraw(Faults& faults, const WorkedOutText& draw, const QString& shown)
 {
-    const QString data = dataText(draw);
-    const QString example = data.isEmpty() ? QString() : u" Por ejemplo, con %1."_s.arg(data);
     for (TemplateFault& fault : faultsOf(draw)) {
-        if (fault.kind == Fault::Rounded || fault.kind == Fault::Negative)
-            fault.text += example;
+        const bool dependsOnDraw = fault.kind == Fault::Rounded || fault.kind == Fault::Negative;
+        if (dependsOnDraw && !draw.dataMarkers.isEmpty())
+            fault.text += u" Por ejemplo, con %1."_s.arg(dataText(draw));
         addNew(faults, fault);
     }
     if (const QString found = singularBeforePlural(shown); !found.isEmpty())

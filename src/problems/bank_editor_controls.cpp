@@ -26,7 +26,7 @@ constexpr double LabelHeight = 330;
 constexpr double BoxHeight = 510;
 constexpr double CommandHeight = 510;
 constexpr double InsertWidth = 2880;
-constexpr double UnsavedWidth = 4200;
+constexpr double UnsavedWidth = 4800;
 
 constexpr ui::look::Font FieldFont{ui::look::Family::Arial, 15};
 constexpr ui::look::Font ListFont{ui::look::Family::Arial, 14};

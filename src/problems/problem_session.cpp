@@ -162,4 +162,16 @@ qint32 ProblemSession::showSolution()
     return m_problem.answer;
 }
 
+QString ProblemSession::spokenExercise() const
+{
+    if (m_problem.unit.isEmpty())
+        return m_problem.statement;
+    return u"%1 Respuesta en %2"_s.arg(m_problem.statement, m_problem.unit);
+}
+
+QString ProblemSession::spokenSolution() const
+{
+    return u"%1 %2"_s.arg(QString::number(m_problem.answer), m_problem.unit).trimmed();
+}
+
 } // namespace problems

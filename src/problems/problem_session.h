@@ -40,6 +40,10 @@ public:
 
     /// The problem that is shown; with an empty statement and the answer 0 before the first.
     const Problem& problem() const { return m_problem; }
+    /// The problem as it is said aloud, with the unit of its answer; empty before the first.
+    QString spokenExercise() const;
+    /// Its answer, in its unit.
+    QString spokenSolution() const;
 
     /// Judges and counts the answer: each wrong one an exercise and an error, a right one an
     /// exercise unless the problem has been counted or its solution shown.

@@ -6,7 +6,6 @@
 #include "problems/bank_editor_screen.h"
 #include "problems/selection_screen.h"
 #include "problems/statement_box.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <QAction>
@@ -123,8 +122,13 @@ void FormProblemas::NuevoProblema()
     });
     TBEnunciado->setStatement(m_model.problem().statement);
     LBUnidad->setText(m_model.problem().unit);
-    ui::announce(*TBEnunciado, m_model.problem().statement);
     showVerdict(*TBCorrecto, m_model.verdict());
+    sayExercise();
+}
+
+QString FormProblemas::spokenExercise() const
+{
+    return m_model.spokenExercise();
 }
 
 void FormProblemas::check()
@@ -156,6 +160,7 @@ void FormProblemas::clearAnswer()
 void FormProblemas::showSolution()
 {
     TBRespuesta->setText(QString::number(m_model.showSolution()));
+    say(m_model.spokenSolution());
 }
 
 void FormProblemas::MnuOpcGes_Click()
@@ -166,7 +171,7 @@ void FormProblemas::MnuOpcGes_Click()
         set.load<FormProblemas>().TBRespuesta->setFocus(); // hiding has moved the focus on
     };
     hide();
-    screens().show(DLGProblemas::screenName());
+    screens().show(DLGProblemas::screenName(), this);
     m_model.setBank({});
     if (auto bank = LeerBanco(screens().bankFolder().toRead()))
         m_model.setBank(*std::move(bank));

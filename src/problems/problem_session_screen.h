@@ -18,6 +18,8 @@ public:
     /// any of the operations of MaskOpera, 2 for those with all of them.
     void CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera);
 
+    QString spokenExercise() const override;
+
 protected:
     void Form_Load() override;
     void Form_Activate() override;

@@ -69,6 +69,8 @@ void addLooseParenthesis(std::vector<TemplateFault>& faults, const QString& text
 void addLooseData(std::vector<TemplateFault>& faults, const QString& text)
 {
     static const QRegularExpression loose(u"&[1-9]"_s);
+    if (!text.contains(u'&'))
+        return;
     if (const auto match = loose.match(text); match.hasMatch())
         faults.push_back({Fault::Unreadable,
             u"%1 está fuera de unas llaves y no se cambia por el dato."_s.arg(match.captured())});

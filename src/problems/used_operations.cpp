@@ -30,7 +30,7 @@ QString withNumberedData(QString line)
 /// The answer, with N for what the statement shows worked out.
 QString asThePupilSeesIt(const TemplateFields& fields)
 {
-    static const QRegularExpression marker(u"\\{([^}]*)\\}"_s);
+    static const QRegularExpression marker(u"\\{([^}]+)\\}"_s);
     static const QRegularExpression roundedUp(u"\\((.+)\\+(.+)-1\\)\\\\\\2(?![0-9])"_s);
     QString answer = fields.answer;
     for (const auto& shown : marker.globalMatch(fields.statement)) {

@@ -23,8 +23,11 @@ void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& so
         on(Command2.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
             &ExerciseScreen::Command2_Click, i);
     new ui::Tray({Command1, Command2[0], Command2[1], Command2[2]});
-    if (places.clear.left < places.next.left)
-        setTabOrder(Command2[1], Command2[0]); // as they stand, from left to right
+    const auto inReadingOrder = [](const ui::TwipRect& place) {
+        return std::pair(place.top, place.left);
+    };
+    if (inReadingOrder(places.clear) < inReadingOrder(places.next))
+        setTabOrder(Command2[1], Command2[0]);
 }
 
 void ExerciseScreen::Command1_Click()

@@ -15,7 +15,8 @@ namespace shell {
 namespace {
 
 constexpr double MenuBarTwips = ui::look::MenuBarHeight * ui::TwipsPerPixel;
-constexpr double ClientHeight = ui::Screens::MainWindowHeight - MenuBarTwips;
+constexpr double WindowHeight = 8700; // with the menu bar
+constexpr double ClientHeight = WindowHeight - MenuBarTwips;
 // The right margin equals the left one.
 constexpr double ClientWidth = 2 * (MainMenuLayout::ButtonWidth + MainMenuLayout::LeftMargin);
 constexpr ui::look::Font ButtonFont{Family::Arial, 16, true}; // 12 points

@@ -45,4 +45,14 @@ shell::Verdict FillTheGap::judge(double answer)
     return verdict;
 }
 
+QString FillTheGap::spokenExercise() const
+{
+    return u"hueco: %1 por … igual a %2"_s.arg(shownFactor()).arg(product());
+}
+
+QString FillTheGap::spokenSolution() const
+{
+    return u"%1 por %2 igual a %3"_s.arg(shownFactor()).arg(hiddenFactor()).arg(product());
+}
+
 } // namespace tables

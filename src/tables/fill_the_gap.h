@@ -34,6 +34,10 @@ public:
     /// The missing factor. A right answer to it still counts: meant.
     int showSolution() const { return hiddenFactor(); }
 
+    /// In words: "hueco: 6 por … igual a 42", and "6 por 7 igual a 42".
+    QString spokenExercise() const;
+    QString spokenSolution() const;
+
 private:
     core::RandomSource& m_random;
     core::Int16 FactorA;

@@ -3,7 +3,6 @@
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "tables/blackboard.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -91,8 +90,12 @@ void FrmMultHuecos::NuevoHueco()
     TbTermin[2]->setText(QString::number(m_model.product()));
     for (ui::TextBox* shown : {TbTermin[0], TbSignos[0], TbSignos[1], TbTermin[2]})
         shown->showSelected();
-    ui::announce(
-        *TbTermin[2], u"%1 x … = %2"_s.arg(m_model.shownFactor()).arg(m_model.product()));
+    sayExercise();
+}
+
+QString FrmMultHuecos::spokenExercise() const
+{
+    return m_model.spokenExercise();
 }
 
 void FrmMultHuecos::check()
@@ -122,6 +125,7 @@ void FrmMultHuecos::clearAnswer()
 void FrmMultHuecos::showSolution()
 {
     TbTermin[1]->setText(QString::number(m_model.showSolution()));
+    say(m_model.spokenSolution());
     Command2[0]->setFocus();
 }
 

@@ -12,6 +12,8 @@ public:
 
     explicit FrmMultHuecos(ui::Screens& screens);
 
+    QString spokenExercise() const override;
+
 protected:
     void Form_Load() override;
     void newExercise() override { NuevoHueco(); }

@@ -2,6 +2,8 @@
 
 #include "core/random.h"
 
+#include <QStringList>
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -110,6 +112,24 @@ shell::Verdict MultiplicationTables::judge(double answer)
     ++Pregunta;
     m_verdict.tell(Verdict::Right, u"Resultado correcto"_s);
     return Verdict::Right;
+}
+
+QString MultiplicationTables::spokenTable() const
+{
+    QStringList rows;
+    for (int k = 1; k <= 10; ++k)
+        rows << u"%1 por %2, %3"_s.arg(table()).arg(k).arg(table() * k);
+    return u"Tabla del %1: "_s.arg(table()) + rows.join(u"; "_s);
+}
+
+QString MultiplicationTables::spokenQuestion() const
+{
+    return isSeriesOver() ? QString() : u"%1 por %2"_s.arg(table()).arg(multiplier());
+}
+
+QString MultiplicationTables::spokenSolution() const
+{
+    return isSeriesOver() ? QString() : spokenQuestion() + u" igual a %1"_s.arg(product());
 }
 
 } // namespace tables

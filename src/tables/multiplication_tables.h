@@ -66,6 +66,13 @@ public:
     /// The product; the pupil still confirms it, and it counts as a right answer.
     int showSolution() const { return product(); }
 
+    /// The table in words: "Tabla del 7: 7 por 1, 7; 7 por 2, 14 …".
+    QString spokenTable() const;
+    /// The question in words, "7 por 4", and its solution, "7 por 4 igual a 28"; empty once
+    /// the series is over.
+    QString spokenQuestion() const;
+    QString spokenSolution() const;
+
 private:
     static constexpr int Over = 11;
 

@@ -2,7 +2,6 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -54,10 +53,12 @@ void Form2::MnuOpcActLis_Click(int Index)
 void Form2::takeUpActivity()
 {
     setWindowTitle(m_model.caption());
-    if (m_model.isReview())
+    if (m_model.isReview()) {
         newExercise();
-    else
+    } else {
         TbTabla1->setFocus();
+        sayExercise();
+    }
 }
 
 void Form2::placeForActivity()
@@ -94,7 +95,12 @@ void Form2::showQuestion()
     TbOperacion[4]->setFocus();
     showSigns();
     Command2[2]->setEnabled(false);
-    ui::announce(*TbOperacion[2], u"%1 × %2"_s.arg(m_model.table()).arg(m_model.multiplier()));
+    sayExercise();
+}
+
+QString Form2::spokenExercise() const
+{
+    return m_model.isReview() ? m_model.spokenQuestion() : m_model.spokenTable();
 }
 
 void Form2::showSigns()
@@ -149,6 +155,7 @@ void Form2::showSolution()
     TbOperacion[4]->setText(QString::number(m_model.showSolution()));
     TbOperacion[4]->selectAll();
     TbOperacion[4]->setFocus();
+    say(m_model.spokenSolution());
 }
 
 void Form2::Command3_Click(int Index)

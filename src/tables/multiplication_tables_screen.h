@@ -12,6 +12,8 @@ public:
 
     explicit Form2(ui::Screens& screens);
 
+    QString spokenExercise() const override;
+
 protected:
     void Form_Load() override;
     void newExercise() override { EmpiezaRepaso(); }

@@ -207,6 +207,11 @@ QString QuickTables::operationText() const
     return u"%1 x %2 = "_s.arg(m_state.FactorA.value()).arg(m_state.FactorB.value());
 }
 
+QString QuickTables::spokenOperation() const
+{
+    return u"%1 por %2"_s.arg(m_state.FactorA.value()).arg(m_state.FactorB.value());
+}
+
 QString QuickTables::timeText() const
 {
     return u"%1/"_s.arg(m_state.Restantes.value());

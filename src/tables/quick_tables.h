@@ -96,6 +96,9 @@ public:
     /// The operation as one line: "7 x 8 = ".
     QString operationText() const;
 
+    /// The operation in words: "7 por 8".
+    QString spokenOperation() const;
+
     /// The seconds left, as shown: "10/".
     QString timeText() const;
 

@@ -3,7 +3,6 @@
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "tables/quick_tables_widgets.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <QApplication>
@@ -177,6 +176,8 @@ void Form8::TbDatos_KeyPress()
 void Form8::Timer1_Timer()
 {
     const QuickTables::Events events = m_model.tickOperation();
+    if (events.verdict)
+        say(u"Tiempo agotado"_s);
     play(events);
     if (events.ended)
         return;
@@ -218,8 +219,13 @@ void Form8::showOperation()
     TbDatos[2]->setText(QString::number(m_model.state().FactorB.value()));
     TbDatos[4]->clear();
     LBOperacion->setText(m_model.operationText());
-    ui::announce(*LBOperacion, m_model.operationText());
     showRemaining(); // the label keeps its colour until the next second
+    sayExercise();
+}
+
+QString Form8::spokenExercise() const
+{
+    return m_model.isRunning() ? m_model.spokenOperation() : QString();
 }
 
 void Form8::showTime()

@@ -20,6 +20,8 @@ public:
 
     explicit Form8(ui::Screens& screens);
 
+    QString spokenExercise() const override;
+
 protected:
     void Form_Load() override;
 

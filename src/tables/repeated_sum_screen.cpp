@@ -1,9 +1,9 @@
 #include "tables/repeated_sum_screen.h"
 
+#include "core/aloud.h"
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "tables/blackboard.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -98,10 +98,15 @@ void Form4::NuevaSuma()
     m_model.newExercise();
     Command2[0]->setEnabled(m_model.canContinue());
     TbSuma->setPlainText(m_model.sumText());
-    ui::announce(*TbSuma, m_model.sumText());
     showVerdict(*Text1, m_model.verdict());
     emptyFactors();
     TbSuma->setFocus();
+    sayExercise();
+}
+
+QString Form4::spokenExercise() const
+{
+    return core::aloud(m_model.sumText());
 }
 
 void Form4::emptyFactors()

@@ -14,6 +14,8 @@ public:
 
     explicit Form4(ui::Screens& screens);
 
+    QString spokenExercise() const override;
+
 protected:
     void Form_Load() override;
     void newExercise() override { NuevaSuma(); }

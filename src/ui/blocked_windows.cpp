@@ -1,6 +1,7 @@
 #include "ui/blocked_windows.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -11,6 +12,7 @@ namespace ui {
 namespace {
 
 constexpr qint64 HandingOn = 500; // milliseconds that a window manager may take
+constexpr int Settling = 100; // milliseconds until a window knows that it is minimised
 
 /// What the display tells of a window.
 struct DisplayEvent {
@@ -114,10 +116,21 @@ bool BlockedWindows::nativeEventFilter(const QByteArray&, void* message, qintptr
         m_sinceLoss.invalidate();
         if (!isBlocked)
             m_sinceLoss.start();
-    } else if (isBlocked && (event.kind == DisplayEvent::Kind::Press || !isHandedOn())) {
+    } else if (isBlocked && event.kind == DisplayEvent::Kind::Press) {
         bringBack(*blocking);
+    } else if (isBlocked) {
+        QTimer::singleShot(
+            Settling, this, [this, handedOn = isHandedOn()] { activated(handedOn); });
+        return true; // else the toolkit would undo a minimising that it has not heard of yet
     }
     return false;
+}
+
+void BlockedWindows::activated(bool handedOn)
+{
+    QWidget* blocking = QApplication::activeModalWidget();
+    if (blocking != nullptr && !(handedOn && blocking->isMinimized()))
+        bringBack(*blocking);
 }
 
 // A window manager that minimises a window hands the focus on: then nobody has activated the

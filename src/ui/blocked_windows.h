@@ -20,6 +20,7 @@ public:
 
 private:
     bool isHandedOn() const;
+    void activated(bool handedOn);
 
     QElapsedTimer m_sinceLoss; ///< of the focus by the blocking window; invalid: by another
 };

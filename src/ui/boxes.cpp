@@ -26,11 +26,14 @@ namespace ui {
 
 namespace {
 
-constexpr double InputWidth = 420; // pixels at factor 1
-constexpr double LongestLine = 500;
+constexpr double LargestShare = 0.7; // of the display's width, for a box
+constexpr double InputWidth = 500; // pixels at factor 1
+constexpr double LongestLine = 600;
 constexpr double ShortestLine = 220; // so that the title can be read
-constexpr double LargestShare = 0.7; // of the width of the display
-constexpr int BoxFrame = 160; // what a box needs beside its text
+constexpr double BoxFrame = 110; // what a box needs beside its text, icon included
+
+const QString TextLabel = u"qt_msgbox_label"_s; // the toolkit's names
+const QString NotesLabel = u"qt_msgbox_informativelabel"_s;
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
 /// Escape must not answer "No".
@@ -51,6 +54,7 @@ protected:
     void showEvent(QShowEvent* event) override
     {
         dropIconGap();
+        keepNotesClear();
         QMessageBox::showEvent(event);
     }
     void keyPressEvent(QKeyEvent* event) override
@@ -75,6 +79,18 @@ private:
         const int needed = layout()->totalMinimumSize().width();
         if (isVisible() && layout()->hasHeightForWidth() && needed > width())
             setFixedSize(needed, layout()->totalHeightForWidth(needed));
+    }
+
+    /// Of the strip under the buttons; the toolkit has set margins of its own meanwhile, for
+    /// the text too, whose lines they would break.
+    void keepNotesClear()
+    {
+        auto* notes = findChild<QLabel*>(NotesLabel);
+        if (notes == nullptr)
+            return;
+        notes->setContentsMargins(0, 0, 0, fontMetrics().height());
+        if (auto* text = findChild<QLabel*>(TextLabel))
+            text->setContentsMargins({});
     }
 
     /// Without an icon the text begins where the margin ends.
@@ -129,26 +145,40 @@ void run(HandlerGuard& owner, const QPointer<QDialog>& box)
     });
 }
 
+double largestWidth(const QWidget& owner)
+{
+    return LargestShare * owner.screen()->availableGeometry().width();
+}
+
 /// Lets the text be as wide as its longest line, up to a measure that grows with the font.
 /// Left alone, the box would wrap at the same number of pixels at every factor.
 void widen(const Box& box, const QWidget& owner)
 {
     const double factor = factorOf(&owner);
-    auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    auto* label = box.findChild<QLabel*>(TextLabel);
     if (label == nullptr)
         return;
     const QFontMetrics metrics(box.font());
     label->setIndent(0);
     int longest = qRound(ShortestLine * factor);
-    for (const QString& line : box.text().split(u'\n'))
+    for (const QString& line : (box.text() + u'\n' + box.informativeText()).split(u'\n'))
         longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
-    const int display = owner.screen()->availableGeometry().width();
-    const int room = static_cast<int>(LargestShare * display) - BoxFrame;
-    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), room}));
+    const double room = largestWidth(owner) - BoxFrame * factor;
+    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), qRound(room)}));
 }
 
-QPointer<Box> makeBox(
-    HandlerGuard& owner, const QString& text, const QString& title, bool question)
+/// The toolkit would take what looks like mark-up in them for it, whatever the box is told.
+void addNotes(Box& box, const QString& notes)
+{
+    if (notes.isEmpty())
+        return;
+    box.setInformativeText(notes);
+    if (auto* label = box.findChild<QLabel*>(NotesLabel))
+        label->setTextFormat(Qt::PlainText);
+}
+
+QPointer<Box> makeBox(HandlerGuard& owner, const QString& text, const QString& title,
+    bool question, const QString& notes = {})
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
@@ -156,6 +186,7 @@ QPointer<Box> makeBox(
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
+    addNotes(*box, notes);
     widen(*box, owner.guardedWindow());
     return box;
 }
@@ -177,8 +208,7 @@ QString MessageBox::programTitle()
 void MessageBox::show(HandlerGuard& owner, const QString& text, const QString& title, Icon icon,
     const QString& notes)
 {
-    const QPointer<Box> box = makeBox(owner, text, title, false);
-    box->setInformativeText(notes);
+    const QPointer<Box> box = makeBox(owner, text, title, false, notes);
     box->setIcon(toQtIcon(icon));
     box->setDefaultButton(addButton(*box, u"Aceptar"_s, QMessageBox::AcceptRole));
     run(owner, box.data());
@@ -205,7 +235,8 @@ QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString&
     box->setOkButtonText(u"Aceptar"_s);
     box->setCancelButtonText(u"Cancelar"_s);
     box->setLabelText(prompt);
-    box->resize(qRound(InputWidth * factor), box->height());
+    const double width = std::min(InputWidth * factor, largestWidth(owner.guardedWindow()));
+    box->resize(qRound(width), box->height());
     if (auto* label = box->findChild<QLabel*>()) {
         label->setBuddy(nullptr); // else an "&1" in the prompt would be an access key
         label->setTextFormat(Qt::PlainText);

@@ -19,7 +19,7 @@ namespace ui {
 namespace {
 
 constexpr double Radius = 12; // pixels at factor 1
-constexpr const char* LeftOut = "pizarrinNoFocusRing";
+constexpr const char* MarksItself = "marksItself"; // the property of a control that is left out
 
 bool isOnlyRead(const QWidget* widget)
 {
@@ -33,6 +33,11 @@ bool isOnlyRead(const QWidget* widget)
 
 } // namespace
 
+void FocusRing::leaveOut(QWidget& control)
+{
+    control.setProperty(MarksItself, true);
+}
+
 FocusRing::FocusRing(QWidget* canvas)
     : QWidget(canvas)
 {
@@ -42,11 +47,6 @@ FocusRing::FocusRing(QWidget* canvas)
         qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow(now); });
 }
 
-void FocusRing::leaveOut(QWidget& control)
-{
-    control.setProperty(LeftOut, true);
-}
-
 void FocusRing::follow(QWidget* focused)
 {
     // No focus at all: a box is open or the window is not the active one; the ring stays.
@@ -54,8 +54,7 @@ void FocusRing::follow(QWidget* focused)
         return;
     if (m_focused)
         m_focused->removeEventFilter(this);
-    const bool mine = parentWidget()->isAncestorOf(focused);
-    m_focused = mine && !focused->property(LeftOut).toBool() ? focused : nullptr;
+    m_focused = parentWidget()->isAncestorOf(focused) ? focused : nullptr;
     if (m_focused)
         m_focused->installEventFilter(this);
     surround();
@@ -63,7 +62,8 @@ void FocusRing::follow(QWidget* focused)
 
 void FocusRing::surround()
 {
-    if (!m_focused || !m_focused->isVisibleTo(parentWidget())) {
+    if (!m_focused || !m_focused->isVisibleTo(parentWidget())
+        || m_focused->property(MarksItself).toBool()) {
         hide();
         return;
     }

@@ -14,7 +14,8 @@ class FocusRing : public QWidget, public Scalable {
 public:
     explicit FocusRing(QWidget* canvas);
 
-    /// Leaves out a control whose focus is marked by other means.
+    /// A control that marks its place by itself gets no ring: on squared paper one would lie on
+    /// rules and digits.
     static void leaveOut(QWidget& control);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -14,7 +14,7 @@ namespace {
 [[noreturn]] void fail(const QString& fileName, const QString& folder, const QString& reason)
 {
     throw core::FileError(
-        u"No se puede mostrar la imagen «%1»: %2. Copie de nuevo el archivo en "
+        u"No se puede mostrar la imagen «%1»: %2. Hay que copiar de nuevo el archivo en "
         "la carpeta «%3»."_s.arg(fileName, reason, QDir::toNativeSeparators(folder)));
 }
 

@@ -16,8 +16,13 @@ Rule::Rule(QWidget* parent)
 
 void Rule::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.fillRect(0, 0, width(), std::max(1, qRound(2 * factor())), QColor(look::Ink));
+    const int thickness = std::max(1, qRound(2 * factor()));
+    QRect line = rect();
+    if (width() < height())
+        line.setWidth(thickness);
+    else
+        line.setHeight(thickness);
+    QPainter(this).fillRect(line, QColor(look::Ink));
 }
 
 } // namespace ui

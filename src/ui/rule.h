@@ -6,11 +6,11 @@
 
 namespace ui {
 
-/// A level ink line of an operation, along the top edge of its place; two pixels thick at
-/// factor 1, and crisp at every factor.
+/// An ink line of an operation: along the top edge of its place, or, where that is higher than
+/// wide, along its left edge. Two pixels thick at factor 1, and crisp at every factor.
 class Rule : public QWidget, public Scalable {
 public:
-    static constexpr double Height = 45; ///< of its place, in twips; room for the line
+    static constexpr double Room = 45; ///< that a place leaves for the line, in twips
 
     explicit Rule(QWidget* parent);
 

@@ -2,7 +2,7 @@
 
 #include "ui/focus_ring.h"
 #include "ui/ground.h"
-#include "ui/screens.h"
+#include "ui/opening_factor.h"
 
 #include <QMenuBar>
 #include <QResizeEvent>
@@ -50,24 +50,28 @@ void ScaledWindow::keepOnDisplay()
         move(std::max(available.left(), x() - beside), std::max(available.top(), y() - below));
 }
 
-void ScaledWindow::comeUp()
+void ScaledWindow::comeUp(double atMost)
 {
     const QRect available = screen()->availableGeometry();
-    resizeToDesign(
-        Screens::initialFactor(Screens::MainWindowHeight / TwipsPerPixel, available.height()));
+    resizeToDesign(std::min(atMost, openingFactor(designPixels(), available.size())));
     // The window manager's frame stands above the canvas: it counts when centring.
-    const int frame = static_cast<int>(Screens::FrameHeight);
     move(available.x() + (available.width() - width()) / 2,
-        available.y() + std::max(0, (available.height() - height() - frame) / 2));
+        available.y() + std::max(0, (available.height() - height() - FrameHeight) / 2));
+}
+
+/// The size of the window at factor 1, without its frame.
+QSizeF ScaledWindow::designPixels() const
+{
+    return {m_designWidth / TwipsPerPixel, m_designHeight / TwipsPerPixel + menuBarHeight()};
 }
 
 void ScaledWindow::resizeToDesign(double factor)
 {
-    const double width = m_designWidth / TwipsPerPixel;
-    const double height = m_designHeight / TwipsPerPixel + menuBarHeight();
+    const double width = designPixels().width();
+    const double height = designPixels().height();
     const QSize available = screen()->availableGeometry().size();
-    const double fitting = std::min({factor, available.width() / width,
-        (available.height() - Screens::FrameHeight) / height});
+    const double fitting = std::min(
+        {factor, available.width() / width, (available.height() - FrameHeight) / height});
     const auto pixels = [](double length) { return static_cast<int>(std::ceil(length)); };
     const double smallest = std::min(SmallestFactor, fitting);
     setMinimumSize(pixels(width * smallest), pixels(height * smallest));
@@ -87,13 +91,13 @@ void ScaledWindow::resizeEvent(QResizeEvent* event)
 
 void ScaledWindow::layOut()
 {
-    const double designWidth = m_designWidth / TwipsPerPixel;
-    const double designHeight = m_designHeight / TwipsPerPixel + menuBarHeight();
+    const double designWidth = designPixels().width();
+    const double designHeight = designPixels().height();
     double factor = std::min(width() / designWidth, height() / designHeight);
     // Whole pixels hardly ever give a round factor: within a pixel of one, it is meant.
-    const double quarter = std::round(factor * 4) / 4;
-    if (std::abs(factor - quarter) * std::max(designWidth, designHeight) < 1.5)
-        factor = quarter;
+    const double twentieth = std::round(factor * 20) / 20;
+    if (std::abs(factor - twentieth) * std::max(designWidth, designHeight) < 1.5)
+        factor = twentieth;
     setFactor(factor);
 
     const int barHeight = static_cast<int>(std::lround(menuBarHeight() * factor));

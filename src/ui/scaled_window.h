@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <limits>
+
 namespace ui {
 
 class FocusRing;
@@ -27,13 +29,14 @@ protected:
     /// too small, the factor gives way.
     void setDesignSize(double width, double height);
 
-    /// Gives the window its first size, at the factor at which windows come up, and its place
-    /// in the middle of the display.
-    void comeUp();
+    /// Gives the window its first size, as large as its display allows but at most at this
+    /// factor, and its place in the middle of the display.
+    void comeUp(double atMost = std::numeric_limits<double>::infinity());
 
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QSizeF designPixels() const;
     void resizeToDesign(double factor);
     void keepOnDisplay();
     void layOut();

@@ -1,8 +1,10 @@
 #include "ui/screen.h"
 
+#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <QWindow>
 
@@ -45,6 +47,12 @@ void Screen::load()
     Form_Load();
     m_loading = false;
     comeUp();
+}
+
+void Screen::openOver(const Screen& below)
+{
+    if (!m_activated && !m_loading)
+        comeUp(below.factor());
 }
 
 void Screen::showModal(Screen& owner, std::function<void()> whenClosed)
@@ -94,8 +102,14 @@ void Screen::showEvent(QShowEvent* event)
     if (m_activated || event->spontaneous())
         return;
     m_activated = true;
-    QMetaObject::invokeMethod(
-        this, [this] { guarded([this] { Form_Activate(); }); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &Screen::takeUp, Qt::QueuedConnection);
+}
+
+void Screen::takeUp()
+{
+    guarded([this] { Form_Activate(); });
+    m_up = true;
+    sayExercise();
 }
 
 void Screen::hideEvent(QHideEvent* event)
@@ -130,6 +144,29 @@ void Screen::handlersEnded()
 void Screen::report(const QString& text)
 {
     MessageBox::show(*this, text);
+}
+
+// --- speech
+
+void Screen::say(const QString& text)
+{
+    if (!isUnloaded())
+        announce(*this, text);
+}
+
+void Screen::sayExercise()
+{
+    if (m_up)
+        say(spokenExercise());
+}
+
+void Screen::keyPressEvent(QKeyEvent* event)
+{
+    // Behind the handlers: whatever they do at any key, they do at this one too.
+    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier)
+        sayExercise();
+    else
+        ScaledWindow::keyPressEvent(event);
 }
 
 } // namespace ui

@@ -26,6 +26,9 @@ public:
 
     bool isUnloaded() const { return isShut(); }
 
+    /// The exercise as it is said aloud; empty while there is none.
+    virtual QString spokenExercise() const { return {}; }
+
     /// Closes the screen and drops its state.
     void unload();
 
@@ -34,6 +37,8 @@ public:
     /// Fills the screen, once, and gives it its first size. What Form_Load throws comes through.
     void load();
     bool isLoading() const { return m_loading; }
+    /// Before it is first shown: lets it open at most at the factor of the screen below it.
+    void openOver(const Screen& below);
     /// Shows the screen; it blocks all others until it is closed or hidden, then runs whenClosed.
     void showModal(Screen& owner, std::function<void()> whenClosed);
 
@@ -54,6 +59,12 @@ protected:
     virtual void Form_QueryUnload() { }
     /// What the window's close box and Alt+F4 do; unloads unless a dialog hides instead.
     virtual void closeRequested() { unload(); }
+
+    /// Has a screen reader say a text, behind what the running handler does to the focus.
+    void say(const QString& text);
+    /// Has it say the exercise: after each new one. The first one is said when the screen
+    /// has come up, and F2 says it again.
+    void sayExercise();
 
     Screens& screens() const { return m_screens; }
 
@@ -99,6 +110,7 @@ protected:
 
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -115,11 +127,13 @@ private:
             guarded(body, where);
     }
     void leave();
+    void takeUp();
     bool tellClosed();
 
     Screens& m_screens;
     std::function<void()> m_whenClosed; ///< set while the screen is shown modally
     bool m_activated = false;
+    bool m_up = false; ///< and Form_Activate has run
     bool m_loading = false; ///< Form_Load is running
 };
 

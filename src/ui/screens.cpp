@@ -6,16 +6,7 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <cmath>
-
 namespace ui {
-
-namespace {
-
-constexpr double LargestShare = 0.85; // of the display's free height, for the menu
-
-} // namespace
 
 Screens::Screens(core::RandomSource& random, const core::Clock& clock, const QString& resources,
     const QString& sharedBank)
@@ -73,9 +64,11 @@ Screen& Screens::load(const QString& name)
     return *screen;
 }
 
-void Screens::show(const QString& name)
+void Screens::show(const QString& name, const Screen* below)
 {
     Screen& screen = load(name);
+    if (below != nullptr)
+        screen.openOver(*below);
     if (screen.isLoading()) // whoever loads it will show it
         return;
     screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
@@ -88,6 +81,8 @@ void Screens::showModal(const QString& name, Screen& owner, std::function<void()
 {
     Screen& screen = load(name);
     const QPointer<Screen> waiter(&owner);
+    if (owner.objectName() != m_mainScreen)
+        screen.openOver(owner);
     screen.showModal(owner, [waiter, then = std::move(then)] {
         if (waiter && then)
             waiter->guarded(then);
@@ -117,16 +112,6 @@ void Screens::unloadRest()
         else
             m_loaded.pop_back();
     }
-}
-
-double Screens::initialFactor(double windowHeight, double freeHeight)
-{
-    const double quarters = std::floor(4 * LargestShare * freeHeight / windowHeight);
-    if (quarters >= 4)
-        return quarters / 4;
-    // Down in steps of 5 %, so that the fonts keep even sizes.
-    const double fitting = std::floor(20 * freeHeight / (windowHeight + FrameHeight)) / 20;
-    return std::clamp(fitting, 0.5, 1.0);
 }
 
 } // namespace ui

@@ -53,11 +53,13 @@ public:
     Screen& load(const QString& name);
     template <typename S> S& load() { return static_cast<S&>(load(S::screenName())); }
 
-    /// Shows a screen beside the others.
-    void show(const QString& name);
+    /// Shows a screen beside the others. below: as a dialog of that one, it opens at most at
+    /// the same factor; any other screen opens as large as its display allows.
+    void show(const QString& name, const Screen* below = nullptr);
 
     /// Shows a screen that blocks all others until it is closed or hidden; then runs `then`
-    /// as a handler of owner, unless owner is gone.
+    /// as a handler of owner, unless owner is gone. It is a dialog of owner unless that is the
+    /// main screen.
     void showModal(const QString& name, Screen& owner, std::function<void()> then = {});
 
     /// The same with a dialog: `then` is handed the dialog when it has closed, to read from it
@@ -73,18 +75,6 @@ public:
 
     /// Unloading this screen unloads all others and ends the program.
     void setMainScreen(const QString& name) { m_mainScreen = name; }
-
-    /// Height of the main screen's window, menu bar included, in twips: the factor of all
-    /// screens goes by it.
-    static constexpr int MainWindowHeight = 8700;
-
-    /// Room for a window manager's title bar and edges, in pixels.
-    static constexpr double FrameHeight = 40;
-
-    /// The factor at which screens come up: the largest multiple of a quarter, from 1, at
-    /// which a window of this height (pixels at factor 1) takes at most 85 % of the free
-    /// height; less than 1 only where 1 does not fit.
-    static double initialFactor(double windowHeight, double freeHeight);
 
 private:
     const Factory& factoryOf(const QString& name) const;

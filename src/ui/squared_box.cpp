@@ -1,11 +1,13 @@
 #include "ui/squared_box.h"
 
+#include "ui/focus_ring.h"
 #include "ui/look.h"
 #include "ui/marks.h"
 
 #include <QFocusEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -27,6 +29,17 @@ constexpr int InnerMarginX = 2;
 constexpr int InnerMarginY = 1;
 constexpr int AlignedGap = 2;
 
+/// Where a line edit lays the baseline under the top of its text, which no measure of the font
+/// need be.
+int layoutAscent(const QFont& font)
+{
+    QTextLayout sample(u"0"_s, font);
+    sample.beginLayout();
+    sample.createLine();
+    sample.endLayout();
+    return static_cast<int>(std::ceil(sample.lineAt(0).ascent()));
+}
+
 } // namespace
 
 int SquaredBox::fittingSize(QFont font, double width, double height)
@@ -44,6 +57,7 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
     : TextBox(kind, parent)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);
+    FocusRing::leaveOut(*this);
     QPalette onPaper = palette();
     m_highlight = onPaper.color(QPalette::Highlight);
     onPaper.setColor(QPalette::Base, Qt::transparent);
@@ -81,8 +95,10 @@ void SquaredBox::setFactor(double factor)
     QFont type = font();
     type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),
         std::max(1, static_cast<int>(LargestType * factor))));
+    type.setHintingPreference(QFont::PreferNoHinting); // else a blank is as wide as it likes
     type.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-    const double advance = QFontMetricsF(type).horizontalAdvance(u'0');
+    constexpr int Sample = 10; // laid out together, as they will stand
+    const double advance = QFontMetricsF(type).horizontalAdvance(QString(Sample, u'0')) / Sample;
     const double spacing = m_width * pixels - advance;
     type.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
     type.setWordSpacing((1 - m_blankRun) * m_width * pixels); // added once to a run
@@ -95,7 +111,7 @@ void SquaredBox::setFactor(double factor)
     const double baseline = m_top * pixels + (m_height * pixels + digit) / 2;
     // The spacing stands behind each digit: half of it goes in front of the first one.
     const int left = qRound(m_indent * pixels + spacing / 2) - InnerMarginX - inner.left();
-    const int top = qRound(baseline) - fontMetrics().ascent() - InnerMarginY - inner.top();
+    const int top = static_cast<int>(baseline) - layoutAscent(type) - InnerMarginY - inner.top();
     const int right =
         inner.right() + 1 - InnerMarginX - AlignedGap - width() - qRound(spacing / 2);
     setTextMargins(left, top, right, inner.bottom() + 1 - height());
@@ -124,6 +140,18 @@ void SquaredBox::paintEvent(QPaintEvent* event)
         drawHere(painter, hereSquare(), factor());
     }
     TextBox::paintEvent(event);
+    if (hasFocus() && isReadOnly())
+        frameFigures();
+}
+
+/// The focus of figures that are only read: a thin frame in their own squares.
+void SquaredBox::frameFigures()
+{
+    const double pen = look::QuietRingWidth * factor();
+    const QRectF figures = strip(lineBefore(0), lineBefore(static_cast<int>(text().size())));
+    QPainter painter(this);
+    painter.setPen(QPen(QColor(look::Focus), pen));
+    painter.drawRect(figures.adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2));
 }
 
 double SquaredBox::squarePixels() const

@@ -27,6 +27,9 @@ public:
 
     void setFactor(double factor) override;
 
+    /// How many squares the text takes up.
+    int columns() const { return columnsFrom(0); }
+
     /// Puts a text there, with the caret in front of it.
     void write(const QString& text);
 
@@ -35,6 +38,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void frameFigures();
     double squarePixels() const;
     int columnsFrom(int index) const;
     double lineBefore(int index) const;

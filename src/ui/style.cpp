@@ -7,6 +7,7 @@
 #include "ui/look.h"
 #include "ui/scaling.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
@@ -149,7 +150,8 @@ int Style::pixelMetric(
     case PM_MenuButtonIndicator:
         return qRound(plain * factorOf(widget));
     case PM_TextCursorWidth:
-        return qRound(look::CaretWidth * factorOf(widget));
+        // The boxes of screens paint their own caret, beside which their text must not give way.
+        return qRound((standsInBox(widget) ? look::CaretWidth : plain) * factorOf(widget));
     default:
         return plain;
     }
@@ -196,6 +198,10 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         return QDialogButtonBox::WinLayout;
     case SH_UnderlineShortcut:
         return m_accessKeys->areShown(widget) ? 1 : 0;
+    case SH_MenuBar_AltKeyNavigation:
+        // Beside a screen reader the toolkit hands keys on late: the release of one Alt comes
+        // behind the next press, as if nothing had been pressed in between.
+        return QAccessible::isActive() ? 0 : 1;
     case SH_MessageBox_CenterButtons: // at the right, as in every dialog
         return 0;
     case SH_BlinkCursorWhenTextSelected:

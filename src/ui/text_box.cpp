@@ -3,9 +3,7 @@
 #include "ui/look.h"
 #include "ui/text_box_accessible.h"
 
-#include <QContextMenuEvent>
 #include <QInputMethodEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -29,9 +27,16 @@ TextBox::TextBox(Kind kind, QWidget* parent)
         setReadOnly(true);
         setFrame(false);
         setFocusPolicy(Qt::NoFocus);
-        setCursor(Qt::ArrowCursor);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
         setPalette(look::displayed());
     }
+}
+
+void TextBox::allowFocus(Qt::FocusPolicy policy)
+{
+    setFocusPolicy(policy);
+    setAttribute(Qt::WA_TransparentForMouseEvents, policy == Qt::NoFocus);
+    setCursor(Qt::ArrowCursor);
 }
 
 void TextBox::setFactor(double factor)
@@ -77,38 +82,6 @@ void TextBox::focusOutEvent(QFocusEvent* event)
         setSelection(start + length, -length);
     else
         setSelection(start, length);
-}
-
-void TextBox::mousePressEvent(QMouseEvent* event)
-{
-    if (focusPolicy() == Qt::NoFocus)
-        event->ignore();
-    else
-        QLineEdit::mousePressEvent(event);
-}
-
-void TextBox::mouseMoveEvent(QMouseEvent* event)
-{
-    if (focusPolicy() == Qt::NoFocus)
-        event->ignore();
-    else
-        QLineEdit::mouseMoveEvent(event);
-}
-
-void TextBox::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (focusPolicy() == Qt::NoFocus)
-        event->ignore();
-    else
-        QLineEdit::mouseDoubleClickEvent(event);
-}
-
-void TextBox::contextMenuEvent(QContextMenuEvent* event)
-{
-    if (focusPolicy() == Qt::NoFocus)
-        event->ignore();
-    else
-        QLineEdit::contextMenuEvent(event);
 }
 
 void TextBox::inputMethodEvent(QInputMethodEvent* event)

@@ -24,6 +24,9 @@ public:
 
     void setFactor(double factor) override;
 
+    /// Lets a text that is only shown take the focus, and the mouse with it.
+    void allowFocus(Qt::FocusPolicy policy);
+
     /// Gives the box an edge of this colour, thick enough to be seen from afar; none: as ever.
     void setEdge(const std::optional<QColor>& colour);
     std::optional<QColor> edge() const { return m_edge; }
@@ -34,10 +37,6 @@ public:
 protected:
     bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

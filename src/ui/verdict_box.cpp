@@ -75,6 +75,13 @@ void VerdictBox::makeRoom()
 
 void VerdictBox::setVerdict(const QString& text, Mark mark)
 {
+    change(text, mark);
+    if (!text.isEmpty())
+        announce(*this, text);
+}
+
+void VerdictBox::change(const QString& text, Mark mark)
+{
     m_mark = mark;
     if (m_palette)
         setPalette(*std::exchange(m_palette, std::nullopt));
@@ -82,8 +89,6 @@ void VerdictBox::setVerdict(const QString& text, Mark mark)
     edgeJudged();
     Ground::pose(*this, poseFor(mark));
     update();
-    if (!text.isEmpty())
-        announce(*this, text);
 }
 
 void VerdictBox::retire()

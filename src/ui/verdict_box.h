@@ -23,6 +23,9 @@ public:
     void setJudged(const std::vector<TextBox*>& answers);
 
     void setVerdict(const QString& text, Mark mark);
+    /// Shows a text that is no verdict, and announces nothing: whoever shows it has words of its
+    /// own for it.
+    void setPlainText(const QString& text) { change(text, Mark::None); }
     /// What the verdict was about is gone: its text stays, quiet and without its mark, until
     /// the next verdict.
     void retire();
@@ -38,6 +41,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void change(const QString& text, Mark mark);
     double discSize() const;
     void makeRoom();
     void edgeJudged();

@@ -1,5 +1,6 @@
 #include "written/combined_operations.h"
 
+#include "core/aloud.h"
 #include "core/random.h"
 
 #include <utility>
@@ -75,6 +76,16 @@ void CombinedOperations::join()
 QString CombinedOperations::text() const
 {
     return groupText(0) + sign(Enlace1) + groupText(1) + sign(Enlace2) + groupText(2);
+}
+
+QString CombinedOperations::spokenExercise() const
+{
+    return core::aloud(text());
+}
+
+QString CombinedOperations::spokenSolution() const
+{
+    return u"Solución: %1"_s.arg(solution());
 }
 
 QString CombinedOperations::groupText(std::size_t group) const

@@ -31,6 +31,9 @@ public:
     /// from the first newExercise() on.
     QString text() const;
     static constexpr int LongestText = 27;
+    /// The expression, and the solution, as they are read aloud.
+    QString spokenExercise() const;
+    QString spokenSolution() const;
 
     /// The value of the expression, 0 to 162.
     int solution() const { return Solucion.value(); }

@@ -2,7 +2,6 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "written/scratch_area.h"
 
@@ -13,13 +12,38 @@ namespace written {
 
 namespace {
 
-constexpr double Width = 10500;
-constexpr double Height = 7290;
+// In twips. Everything stands on one axis, from the expression down to the buttons.
+constexpr double Width = 11400;
+constexpr double Margin = 240;
+constexpr double FullWidth = Width - 2 * Margin;
+constexpr double AnswerWidth = 2400;
+constexpr double AnswerTop = 3960;
+constexpr double AnswerHeight = 780;
+constexpr double LabelWidth = 2100;
+constexpr double VerdictWidth = 4200;
+constexpr double TrayMargin = 180; // around the buttons
+constexpr double CommandWidth = 2500;
+constexpr double CommandPitch = 2620;
+constexpr double CommandTop = 5760;
+constexpr double CommandHeight = 600;
+constexpr double Height = CommandTop + CommandHeight + 2 * TrayMargin;
+
+/// In the middle of the screen.
+ui::TwipRect centred(double top, double width, double height)
+{
+    return {(Width - width) / 2, top, width, height};
+}
+
+ui::TwipRect commandPlace(int position)
+{
+    constexpr double Left = (Width - 3 * CommandPitch - CommandWidth) / 2;
+    return {Left + position * CommandPitch, CommandTop, CommandWidth, CommandHeight};
+}
 
 constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
-constexpr ui::look::Font ScratchFont{Family::CourierNew, 20};
+constexpr ui::look::Font ScratchFont{Family::CourierNew, 18};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 26, true};
-constexpr ui::look::Font LabelFont{Family::Arial, 17, true};
+constexpr ui::look::Font LabelFont{Family::Andika, 18, true};
 
 } // namespace
 
@@ -28,31 +52,33 @@ QString FRMCombi::screenName()
     return u"FRMCombi"_s;
 }
 
+// The blank at the end of the caption is meant.
 FRMCombi::FRMCombi(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Operaciones combinadas "_s, Width, Height)
 {
     makeExpression();
     makeAnswer();
-    makeCommands({.check = {3660, 5460, 3180, 600},
-                     .next = {3660, 6420, 3180, 600},
-                     .clear = {240, 6420, 3180, 600},
-                     .solution = {7080, 6420, 3180, 600}},
-        u"&Ver Solución"_s);
+    makeCommands({.check = commandPlace(0),
+                     .next = commandPlace(2),
+                     .clear = commandPlace(1),
+                     .solution = commandPlace(3)},
+        u"&Ver Solución"_s); // with a capital here alone: meant
 }
 
 void FRMCombi::makeExpression()
 {
     const QString sample = u"2 x 8 + (5 * 9 - 2 -3)"_s;
-    displayBox(u"TBInfo"_s, {240, 180, 10020, 420}, ui::look::Instruction, u"Instrucción"_s,
-        u"Resuelva la operación siguiendo las reglas de precedencia"_s);
+    displayBox(u"TBInfo"_s, centred(180, FullWidth, 480), ui::look::Instruction, u"Instrucción"_s,
+        u"Resuelva la operación siguiendo las reglas de precedencia"_s)
+        ->setAlignment(Qt::AlignCenter);
 
     TBOperacion = displayBox(
-        u"TBOperación"_s, {240, 720, 10020, 840}, ExpressionFont, u"Operación"_s, sample);
+        u"TBOperación"_s, centred(720, FullWidth, 800), ExpressionFont, u"Operación"_s, sample);
     TBOperacion->setAlignment(Qt::AlignCenter);
     TBOperacion->setToolTip(u"Operación a realizar"_s);
 
-    TBCalculos =
-        add(new ScratchArea(canvas()), u"TBCálculos"_s, {240, 1680, 10020, 3420}, ScratchFont);
+    TBCalculos = add(
+        new ScratchArea(canvas()), u"TBCálculos"_s, centred(1620, FullWidth, 2220), ScratchFont);
     TBCalculos->setAccessibleName(u"Cálculos"_s);
     TBCalculos->setToolTip(u"Haga aquí sus cálculos"_s);
     TBCalculos->setPlainText(sample);
@@ -60,12 +86,19 @@ void FRMCombi::makeExpression()
 
 void FRMCombi::makeAnswer()
 {
-    TBResultado = entryBox(u"TBResultado"_s, {1680, 5400, 1740, 720}, AnswerFont, u"Resultado"_s);
+    TBResultado = entryBox(u"TBResultado"_s, centred(AnswerTop, AnswerWidth, AnswerHeight),
+        AnswerFont, u"Resultado"_s);
     TBResultado->setAlignment(Qt::AlignCenter);
     enterChecks(TBResultado);
     on(TBResultado, &QLineEdit::textChanged, [this] { showAnswerAsPast(false); });
-    label(u"Label1"_s, u"&Resultado"_s, {240, 5400, 1380, 720}, LabelFont, TBResultado);
-    Text1 = verdictBox(u"Text1"_s, {7080, 5400, 3180, 720}, u"Comprobación"_s);
+    const double answerLeft = (Width - AnswerWidth) / 2;
+    label(u"Label1"_s, u"&Resultado"_s,
+        {answerLeft - TrayMargin - LabelWidth, AnswerTop, LabelWidth, AnswerHeight}, LabelFont,
+        TBResultado)
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    Text1 = verdictBox(u"Text1"_s,
+        centred(AnswerTop + AnswerHeight + TrayMargin / 2, VerdictWidth, 640), u"Comprobación"_s);
+    Text1->setJudged({TBResultado});
 }
 
 void FRMCombi::Form_Load()
@@ -80,7 +113,7 @@ void FRMCombi::newExercise()
     Text1->retire();
     showAnswerAsPast(true);
     TBOperacion->setText(m_model.text());
-    ui::announce(*TBOperacion, m_model.text());
+    sayExercise();
     TBCalculos->setPlainText(m_model.text());
     TBCalculos->moveCursor(QTextCursor::End);
     TBResultado->setFocus();
@@ -121,6 +154,7 @@ void FRMCombi::clearAnswer()
 void FRMCombi::showSolution()
 {
     TBResultado->setText(QString::number(m_model.showSolution()));
+    say(m_model.spokenSolution());
 }
 
 } // namespace written

@@ -14,6 +14,8 @@ public:
 
     explicit FRMCombi(ui::Screens& screens);
 
+    QString spokenExercise() const override { return m_model.spokenExercise(); }
+
 protected:
     void Form_Load() override;
     void newExercise() override;

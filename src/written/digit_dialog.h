@@ -28,9 +28,9 @@ private:
     void CancelButton_Click();
 
     QString m_TablasSeleccionadas;
-    std::array<QCheckBox*, 9> Check1{};
-    ui::Button* OKButton = nullptr;
-    ui::Button* CancelButton = nullptr;
+    std::array<QCheckBox*, 9> Check1{}; ///< the digits, 1 first
+    ui::Button* OKButton = nullptr; ///< accepts the digits
+    ui::Button* CancelButton = nullptr; ///< keeps those accepted last
 };
 
 } // namespace written

@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 #include "core/random.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -69,9 +70,50 @@ LongDivision::LongDivision(core::RandomSource& random)
 {
 }
 
+int LongDivision::rightFigures() const
+{
+    const int decimals = m_settings.DecimalesCociente.value();
+    const auto quotient = QString::number(Dividendo()).size() + (decimals > 0 ? 1 + decimals : 0);
+    return static_cast<int>(std::max(QString::number(Divisor()).size(), quotient));
+}
+
 QString LongDivision::operationText() const
 {
     return u"%1 ÷ %2"_s.arg(Dividendo()).arg(Divisor());
+}
+
+QString LongDivision::spokenExercise() const
+{
+    const int decimals = m_settings.DecimalesCociente.value();
+    const QString division = u"%1 entre %2"_s.arg(Dividendo()).arg(Divisor());
+    if (decimals == 0)
+        return division;
+    return decimals == 1 ? division + u", con 1 decimal"_s
+                         : u"%1, con %2 decimales"_s.arg(division).arg(decimals);
+}
+
+QString LongDivision::spokenSolution(const WorkedDivision& worked)
+{
+    return u"Solución: cociente %1, resto %2"_s.arg(
+        worked.quotient, worked.work.lastWrittenLine());
+}
+
+QString LongDivision::spokenSquare(const GridText& work, int position)
+{
+    const int row = position / work.columns();
+    const int column = position % work.columns();
+    const auto figure = [&](int line) { return work.line(line).mid(column, 1).trimmed(); };
+    if (row == 0)
+        return u"dividendo"_s;
+    QStringList words{u"línea %1"_s.arg(row)};
+    int above = row - 1;
+    while (above > 0 && figure(above).isEmpty())
+        --above;
+    if (above > 0)
+        words << u"encima, %1"_s.arg(figure(above));
+    if (!figure(0).isEmpty())
+        words << u"del dividendo, %1"_s.arg(figure(0));
+    return words.join(u"; "_s);
 }
 
 GridText LongDivision::emptyWork() const
@@ -163,7 +205,7 @@ shell::Verdict LongDivision::judge(const Answer& answer)
         return Verdict::NotJudged;
     const bool right = isRight(core::readNumber(answer.quotient), remainder, decimals);
     countWhilePending(right ? Verdict::Right : Verdict::Wrong);
-    if (right)
+    if (right) // the capitals of the two differ: meant
         m_verdict.tell(Verdict::Right, u"resultado correcto"_s);
     else
         m_verdict.tell(Verdict::Wrong, u"Resultado incorrecto"_s);

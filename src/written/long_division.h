@@ -38,8 +38,17 @@ public:
     qint32 Divisor() const { return m_operands.Divisor; }
     core::Int16 AnchoLinea() const { return m_AnchoLinea; }
 
+    /// How many characters the divisor or a quotient may have, whichever is longer.
+    int rightFigures() const;
+
     /// "84 ÷ 7".
     QString operationText() const;
+
+    /// What is read aloud: the division, its solution, and a square of the work: its line, what
+    /// stands above it and, at the top of its column, the dividend's digit.
+    QString spokenExercise() const;
+    static QString spokenSolution(const WorkedDivision& worked);
+    static QString spokenSquare(const GridText& work, int position);
 
     /// The work area as the exercise starts: a blank, the dividend and blank room.
     GridText emptyWork() const;

@@ -9,15 +9,118 @@
 #include <QAction>
 
 using namespace Qt::StringLiterals;
-using Mark = ui::VerdictBox::Mark;
 
 namespace written {
+
+namespace {
+
+// In twips. At the right of the sheet stand the operation, at the height of the quotient, and
+// under it the buttons; they move with the sheet's edge.
+constexpr double Margin = 240;
+constexpr double TrayMargin = 180; // around the buttons
+constexpr double ColumnGap = 240;
+constexpr double ColumnWidth = 4260;
+constexpr double OperationHeight = 720;
+constexpr double CommandHeight = 640;
+constexpr double CommandPitch = 800;
+constexpr double CountersHeight = 330;
+
+constexpr qsizetype LongOperation = 18; // characters, with which it needs a smaller type
+constexpr ui::look::Font LongOperationFont{ui::look::Family::Andika, 14, true};
+
+double columnLeft()
+{
+    return DivisionBoard::firstPlace().right() + ColumnGap;
+}
+
+double countersTop()
+{
+    return DivisionBoard::firstPlace().bottom() + Margin / 2;
+}
+
+double designWidthAtFirst()
+{
+    return columnLeft() + ColumnWidth + Margin;
+}
+
+ui::TwipRect operationPlace()
+{
+    return {columnLeft(), DivisionBoard::quotientMiddle() - OperationHeight / 2, ColumnWidth,
+        OperationHeight};
+}
+
+/// The tray of the four ends where the sheet does.
+ui::TwipRect commandPlace(int position)
+{
+    const double bottom = DivisionBoard::firstPlace().bottom() - TrayMargin;
+    return {columnLeft() + TrayMargin, bottom - CommandHeight - (3 - position) * CommandPitch,
+        ColumnWidth - 2 * TrayMargin, CommandHeight};
+}
+
+} // namespace
+
+QString Form6::screenName()
+{
+    return u"Form6"_s;
+}
+
+Form6::Form6(ui::Screens& screens)
+    : DrillScreen(screens, screenName(), u"DIVISIONES"_s, designWidthAtFirst(),
+        countersTop() + CountersHeight + Margin / 2)
+    , m_board(*this)
+{
+    makeMenu();
+    connectBoard();
+    makeTexts();
+    makeCommands({.check = commandPlace(0),
+                     .next = commandPlace(2),
+                     .clear = commandPlace(1),
+                     .solution = commandPlace(3)},
+        u"&Ver solucióm"_s); // misspelled: meant
+}
+
+void Form6::connectBoard()
+{
+    on(m_board.m_sheet, &DivisionSheet::pressed, &Form6::writeNear);
+    onKeyDown(m_board.Text1,
+        [this](int keyCode, Qt::KeyboardModifiers) { return Text1_KeyDown(keyCode); });
+    onKeyPress(m_board.Text1, [this](QChar character) { return Text1_KeyPress(character); });
+    onGotFocus(m_board.Text1, [this] { Text1_GotFocus(); });
+    on(m_board.Text1, &WorkArea::cursorPositionChanged, &Form6::saySquare);
+    onGotFocus(m_board.Text2, [this] { Text2_GotFocus(); });
+    enterChecks(m_board.Text3);
+    onGotFocus(m_board.Text3, [this] { Text3_GotFocus(); });
+}
+
+void Form6::makeTexts()
+{
+    Text4 = verdictBox(u"Text4"_s, operationPlace(), u"Operación y resultado"_s);
+    Text4->setJudged({m_board.Text3});
+    tbResultados = displayBox(u"tbResultados"_s,
+        {Margin, countersTop(), DivisionBoard::firstPlace().width, CountersHeight},
+        ui::look::Counters, u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
+}
+
+/// What stands at the right of the sheet moves with its edge.
+void Form6::fitSheet()
+{
+    m_board.fit(m_model.AnchoLinea().value(), m_model.rightFigures());
+    const double width =
+        designWidthAtFirst() + m_board.place().width - DivisionBoard::firstPlace().width;
+    const double moved = width - designWidth();
+    if (moved == 0)
+        return;
+    for (QWidget* control :
+        std::initializer_list<QWidget*>{Text4, Command1, Command2[0], Command2[1], Command2[2]})
+        moveTo(control, placeOf(control).left + moved, placeOf(control).top);
+    setDesignSize(width, designHeight());
+}
 
 void Form6::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
     newExercise();
-    Text1->setFocus();
+    m_board.Text1->setFocus();
 }
 
 // --- showing
@@ -31,34 +134,37 @@ void Form6::NuevaDivision()
 void Form6::showExercise()
 {
     showWork();
-    Text2->setText(QString::number(m_model.Divisor()));
-    Text3->clear();
+    m_board.Text2->setText(QString::number(m_model.Divisor()));
+    m_board.Text3->clear();
     showOperation();
 }
 
 void Form6::showWork()
 {
-    placeOperation();
+    fitSheet();
     clearWork();
 }
 
 /// The caret waits under the dividend's first digit: on its line nothing can be written.
 void Form6::clearWork()
 {
-    Text1->setGrid(m_model.emptyWork());
-    Text1->setCursorPosition(m_model.AnchoLinea().value() + 1);
+    m_board.Text1->setGrid(m_model.emptyWork(), m_model.AnchoLinea().value() + 1);
 }
 
 void Form6::showOperation()
 {
-    Text4->setVerdict(m_model.operationText(), Mark::None);
+    const QString operation = m_model.operationText();
+    setControlFont(
+        Text4, operation.size() > LongOperation ? LongOperationFont : ui::look::Verdict);
+    Text4->setPlainText(operation);
+    sayExercise();
 }
 
 // --- commands
 
 void Form6::check()
 {
-    const auto verdict = m_model.judge({Text3->text(), Text1->grid()});
+    const auto verdict = m_model.judge({m_board.Text3->text(), m_board.Text1->grid()});
     if (verdict == shell::Verdict::NotJudged) {
         ui::MessageBox::show(
             *this, m_model.tooFewDecimals(), u"Atención"_s, ui::Icon::Information);
@@ -74,29 +180,30 @@ void Form6::nextExercise()
 {
     m_model.nextExercise();
     showExercise();
-    Text1->setFocus();
+    m_board.Text1->setFocus();
 }
 
 void Form6::clearAnswer()
 {
-    Text3->clear();
+    m_board.Text3->clear();
     clearWork();
-    Text3->setFocus();
+    m_board.Text3->setFocus();
 }
 
 void Form6::showSolution()
 {
     const WorkedDivision worked = m_model.showSolution();
     showVerdict(*Text4, m_model.verdict());
-    Text3->setText(worked.quotient);
-    Text1->setGrid(worked.work);
+    m_board.Text3->setText(worked.quotient);
+    m_board.Text1->setGrid(worked.work);
+    say(LongDivision::spokenSolution(worked));
 }
 
 // --- boxes
 
 void Form6::writeNear(const QPoint& point)
 {
-    Text1->writeNear(Text1->mapFromGlobal(m_sheet->mapToGlobal(point)));
+    m_board.Text1->writeNear(m_board.Text1->mapFromGlobal(m_board.m_sheet->mapToGlobal(point)));
 }
 
 ui::KeyResult Form6::Text1_KeyDown(int KeyCode)
@@ -111,7 +218,7 @@ ui::KeyResult Form6::Text1_KeyPress(QChar KeyAscii)
         KeyAscii == QChar(ui::key::Enter) || KeyAscii == QChar(ui::key::Backspace);
     if (!blanks && !KeyAscii.isPrint())
         return ui::KeyResult::Pass; // Escape, and the shortcuts of a text box
-    Text1->overtype(KeyAscii);
+    m_board.Text1->overtype(KeyAscii);
     return ui::KeyResult::Swallow;
 }
 
@@ -119,22 +226,62 @@ void Form6::Text1_GotFocus()
 {
     if (!Text4->text().contains(u'÷')) {
         const bool isNamed = Text4->text() == u"Dividendo"_s;
-        Text4->setVerdict(isNamed ? u" Dividendo"_s : u"Dividendo"_s, Mark::None);
+        Text4->setPlainText(isNamed ? u" Dividendo"_s : u"Dividendo"_s);
     }
     Text4->showSelected();
+    saySquare();
+}
+
+/// Says the line of the caret and what stands above it.
+void Form6::saySquare()
+{
+    const WorkArea& work = *m_board.Text1;
+    if (work.hasFocus())
+        say(LongDivision::spokenSquare(work.grid(), work.cursorPosition()));
 }
 
 void Form6::Text2_GotFocus()
 {
-    Text4->setVerdict(u"Divisor"_s, Mark::None);
+    Text4->setPlainText(u"Divisor"_s);
 }
 
 void Form6::Text3_GotFocus()
 {
-    Text4->setVerdict(u"Cociente"_s, Mark::None);
+    Text4->setPlainText(u"Cociente"_s);
 }
 
 // --- menu
+
+void Form6::makeMenu()
+{
+    QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
+    makeSettings(options);
+    on(item(options, u"MnuOpcInt"_s, u"I&ntroducir dividendo"_s), &QAction::triggered,
+        &Form6::IntroduceDividendo);
+    on(item(options, u"MnuOpcInd"_s, u"In&troducir divisor"_s), &QAction::triggered,
+        &Form6::IntroduceDivisor);
+    on(item(options, u"MnuOpcSal"_s, u"&Salir (Alt - F4)"_s), &QAction::triggered,
+        [this] { unload(); });
+}
+
+void Form6::makeSettings(QMenu* options)
+{
+    MnuOpcDivLis = menuList(submenu(options, u"MnuOpcDiv"_s, u"&Cifras del dividendo"_s),
+        u"MnuOpcDivLis"_s, numberedCaptions(1, 6));
+    MnuOpcDisLis = menuList(submenu(options, u"MnuOpcDis"_s, u"C&ifras del divisor"_s),
+        u"MnuOpcDisLis"_s, numberedCaptions(1, 6));
+    MnuOpcDecLis = menuList(submenu(options, u"MnuOpcDec"_s, u"&Decimales del cociente"_s),
+        u"MnuOpcDecLis"_s, numberedCaptions(0, 5));
+    MnuOpcDivLis.check(1);
+    onList(MnuOpcDivLis, &Form6::MnuOpcDivLis_Click);
+    onList(MnuOpcDisLis, &Form6::MnuOpcDisLis_Click);
+    onList(MnuOpcDecLis, &Form6::MnuOpcDecLis_Click);
+
+    MnuOpcRes = checkItem(options, u"MnuOpcRes"_s, u"&Restas intermedias"_s);
+    MnuOpcFor = checkItem(options, u"MnuOpcFor"_s, u"&Forzar ceros en el cociente"_s);
+    on(MnuOpcRes, &QAction::triggered, &Form6::MnuOpcRes_Click);
+    on(MnuOpcFor, &QAction::triggered, &Form6::MnuOpcFor_Click);
+}
 
 void Form6::MnuOpcDivLis_Click(int Index)
 {
@@ -182,7 +329,8 @@ void Form6::IntroduceDivisor()
 {
     if (!m_model.typeDivisor(ui::InputBox::ask(*this, QString(), u"Introducir divisor"_s)))
         return;
-    Text2->setText(QString::number(m_model.Divisor()));
+    fitSheet();
+    m_board.Text2->setText(QString::number(m_model.Divisor()));
     MnuOpcDisLis.check(m_model.settings().CifrasDivisor.value() - 1);
     showOperation();
 }

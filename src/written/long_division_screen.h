@@ -1,16 +1,10 @@
 #pragma once
 
 #include "shell/exercise_screen.h"
+#include "written/division_board.h"
 #include "written/long_division.h"
 
-namespace ui {
-class SquaredBox;
-} // namespace ui
-
 namespace written {
-
-class DivisionSheet;
-class WorkArea;
 
 /// Long division on squared paper: the dividend with the work under it, the bracket, the
 /// divisor and, under that, the quotient.
@@ -19,6 +13,8 @@ public:
     static QString screenName();
 
     explicit Form6(ui::Screens& screens);
+
+    QString spokenExercise() const override { return m_model.spokenExercise(); }
 
 protected:
     void Form_Load() override;
@@ -30,14 +26,11 @@ protected:
 
 private:
     void makeMenu();
-    void makeSheet();
-    void makeWork();
-    void makeNumbers();
-    void makeLines();
+    void makeSettings(QMenu* options);
+    void connectBoard();
     void makeTexts();
-    ui::SquaredBox* squaredBox(const QString& name, ui::TextBox::Kind kind,
-        const QString& accessibleName, const ui::TwipRect& place);
 
+    void saySquare();
     void writeNear(const QPoint& point);
     ui::KeyResult Text1_KeyDown(int KeyCode);
     ui::KeyResult Text1_KeyPress(QChar KeyAscii);
@@ -57,19 +50,14 @@ private:
     void showWork();
     void clearWork();
     void showOperation();
-    void placeOperation();
+    void fitSheet();
 
     ui::MenuList MnuOpcDivLis; ///< digits of the dividend
     ui::MenuList MnuOpcDisLis; ///< digits of the divisor
     ui::MenuList MnuOpcDecLis; ///< decimals of the quotient
     QAction* MnuOpcRes = nullptr; ///< the solution writes the products too
     QAction* MnuOpcFor = nullptr; ///< the quotient must contain a zero
-    DivisionSheet* m_sheet = nullptr;
-    WorkArea* Text1 = nullptr; ///< the dividend with the work under it
-    ui::SquaredBox* Text2 = nullptr; ///< the divisor
-    ui::SquaredBox* Text3 = nullptr; ///< the quotient
-    QWidget* Line1 = nullptr; ///< the bracket's upright
-    QWidget* Line2 = nullptr; ///< the bracket's level line
+    DivisionBoard m_board;
     ui::VerdictBox* Text4 = nullptr; ///< the operation, the verdict, or the box being typed into
     ui::TextBox* tbResultados = nullptr; ///< the counters
 };

@@ -3,6 +3,7 @@
 #include "core/errors.h"
 #include "core/numbers.h"
 #include "core/random.h"
+#include "written/spoken.h"
 
 #include <algorithm>
 #include <cmath>
@@ -131,11 +132,12 @@ void LongMultiplication::chooseDigits(const QString& digits)
 
 QString LongMultiplication::digitsCaption() const
 {
-    return u"&Seleccionar (%1) ..."_s.arg(m_CifrasElegidas);
+    return u"&Seleccionar (%1) ..."_s.arg(m_CifrasElegidas); // at first without that blank: meant
 }
 
 QString LongMultiplication::zerosCaption() const
 {
+    // Without its accent, and not "(No)" as at first: both are meant.
     return u"&Ocultar ceros intermedios "_s + (m_OcultarCeros ? u"(Si)"_s : u"(no)"_s);
 }
 
@@ -169,7 +171,7 @@ shell::Verdict LongMultiplication::judge(const Answer& answer)
     const bool right = core::readNumber(answer.result) == Producto();
     countWhilePending(right ? Verdict::Right : Verdict::Wrong);
     if (right)
-        m_verdict.tell(Verdict::Right, u"Resultado correcto "_s);
+        m_verdict.tell(Verdict::Right, u"Resultado correcto "_s); // the last blank is meant
     else
         m_verdict.tell(Verdict::Wrong, u"resultado incorrecto"_s);
     m_wrongRows = right ? std::vector<int>() : compareRows(answer.rows);
@@ -186,10 +188,38 @@ std::vector<int> LongMultiplication::compareRows(const QStringList& rows) const
     return wrong;
 }
 
-void LongMultiplication::IndicaProducto(int posicion, int fila, int length)
+QString LongMultiplication::spokenExercise() const
 {
-    if (const auto hint = productHint(posicion, fila, length))
+    return u"%1 por %2"_s.arg(factor1Text(), core::wholeText(Factor2()));
+}
+
+QString LongMultiplication::spokenSolution() const
+{
+    return u"Solución: %1"_s.arg(resultText());
+}
+
+QString LongMultiplication::spokenWrongRows() const
+{
+    QStringList rows;
+    for (const int row : m_wrongRows)
+        rows << QString::number(row + 1);
+    if (rows.isEmpty())
+        return {};
+    return (rows.size() == 1 ? u"fila equivocada: %1"_s : u"filas equivocadas: %1"_s)
+        .arg(spokenList(rows));
+}
+
+QString LongMultiplication::spokenCaret(int posicion, int length)
+{
+    return spokenPlace(length - posicion);
+}
+
+bool LongMultiplication::IndicaProducto(int posicion, int fila, int length)
+{
+    const auto hint = productHint(posicion, fila, length);
+    if (hint)
         m_verdict.show(*hint);
+    return hint.has_value();
 }
 
 std::optional<QString> LongMultiplication::productHint(int posicion, int fila, int length) const

@@ -94,8 +94,16 @@ public:
     /// The product of digits that belongs to a caret place in a row whose text has length
     /// characters, such as "7 × 3"; nothing right of the units of factor 1.
     std::optional<QString> productHint(int posicion, int fila, int length) const;
-    /// Writes that hint, where there is one, into the verdict line.
-    void IndicaProducto(int posicion, int fila, int length);
+    /// What is read aloud: the factors, the solution, the rows that are wrong, if any are, and
+    /// the place that the next digit will have in a row or in the result, from the caret's place
+    /// in a text of length characters.
+    QString spokenExercise() const;
+    QString spokenSolution() const;
+    QString spokenWrongRows() const;
+    static QString spokenCaret(int posicion, int length);
+
+    /// Writes that hint into the verdict line. Says whether there is one.
+    bool IndicaProducto(int posicion, int fila, int length);
 
 private:
     struct Exercise {

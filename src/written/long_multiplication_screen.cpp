@@ -1,9 +1,12 @@
 #include "written/long_multiplication_screen.h"
 
+#include "core/aloud.h"
 #include "core/clock.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using ui::SquaredBox;
@@ -11,6 +14,44 @@ using ui::SquaredBox;
 namespace written {
 
 namespace {
+
+// In twips. Right of the sheet stand the buttons, two by two, and under them, beside the
+// result, the verdict.
+constexpr double Margin = 250;
+constexpr double TitleTop = 420;
+constexpr double TitleHeight = 480;
+constexpr double TrayMargin = 180; // around the buttons
+constexpr double ColumnLeft = 5000;
+constexpr double CommandWidth = 2440;
+constexpr double CommandHeight = 640;
+constexpr double CommandGap = 120;
+constexpr double ColumnWidth = 2 * TrayMargin + 2 * CommandWidth + CommandGap;
+constexpr double VerdictHeight = 640;
+constexpr double CountersGap = 100;
+constexpr double CountersHeight = 330;
+constexpr double Width = ColumnLeft + ColumnWidth + Margin;
+constexpr int MostRows = 40; // that the window grows for
+
+ui::TwipRect commandPlace(int position)
+{
+    const int column = position % 2;
+    const int row = position / 2;
+    return {ColumnLeft + TrayMargin + column * (CommandWidth + CommandGap),
+        MultiplicationBoard::top() + TrayMargin + row * (CommandHeight + CommandGap),
+        CommandWidth, CommandHeight};
+}
+
+/// Beside the result, and below the buttons where that stands high.
+double verdictTop(double resultTop)
+{
+    return std::max(resultTop, commandPlace(3).bottom() + 2 * TrayMargin);
+}
+
+double heightFor(int rows)
+{
+    return MultiplicationBoard::bottomFor(std::min(rows, MostRows)) + CountersGap + CountersHeight
+        + CountersGap;
+}
 
 /// The caret as the rules count it: the start of a selection, where there is one.
 int caretOf(const QLineEdit& box)
@@ -24,20 +65,81 @@ void stepLeft(QLineEdit& box)
         box.setCursorPosition(caret - 1);
 }
 
-void paint(SquaredBox& box, QRgb colour)
-{
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Text, QColor(colour));
-    box.setPalette(palette);
-}
-
-void empty(SquaredBox& box)
-{
-    box.write({});
-    paint(box, ui::look::Ink);
-}
-
 } // namespace
+
+QString Form3::screenName()
+{
+    return u"Form3"_s;
+}
+
+Form3::Form3(ui::Screens& screens)
+    : DrillScreen(screens, screenName(), u"Multiplicaciones"_s, Width, heightFor(0))
+    , m_board(*this, [this](SquaredBox* row, int fila) { connectRow(row, fila); })
+{
+    makeMenu();
+    connectFactors();
+    connectResult();
+    makeCommands({.check = commandPlace(0),
+        .next = commandPlace(2),
+        .clear = commandPlace(1),
+        .solution = commandPlace(3)});
+    makeTexts();
+}
+
+void Form3::makeTexts()
+{
+    displayBox(u"TbTítulo"_s, {Margin, TitleTop, Width - 2 * Margin, TitleHeight},
+        ui::look::Instruction, u"Instrucción"_s, u"Realiza la siguiente operación"_s);
+    Text1 = verdictBox(u"Text1"_s,
+        {ColumnLeft, verdictTop(m_board.resultTop()), ColumnWidth, VerdictHeight},
+        u"Comprobación"_s);
+    Text1->setJudged({m_board.TBResultado});
+    Text2 = displayBox(u"Text2"_s,
+        {Margin, m_board.bottom() + CountersGap, MultiplicationBoard::right() - Margin,
+            CountersHeight},
+        ui::look::Counters, u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
+    for (ui::TextBox* box : std::initializer_list<ui::TextBox*>{Text1, Text2})
+        box->allowFocus(Qt::TabFocus);
+}
+
+void Form3::connectFactors()
+{
+    for (SquaredBox* factor : m_board.TbFactor)
+        onKeyPress(factor, [this](QChar) { return TbFactor_KeyPress(); });
+}
+
+void Form3::connectRow(SquaredBox* row, int fila)
+{
+    onKeyDown(row, [this, fila](int KeyCode, Qt::KeyboardModifiers) {
+        TbParcial_KeyDown(fila, KeyCode);
+        return ui::KeyResult::Pass;
+    });
+    onKeyUp(row, [this, row, fila](int KeyCode, Qt::KeyboardModifiers) {
+        TbParcial_KeyUp(fila, KeyCode);
+        sayPlace(*row);
+    });
+    onGotFocus(row, [this, row] {
+        m_said = {}; // the box is named anew, and so is its place
+        sayPlace(*row);
+    });
+    on(row, &QLineEdit::textChanged, [this, fila] { TbParcial_Change(fila); });
+}
+
+/// Enter checks here alone: in a row, one that is half written would be judged.
+void Form3::connectResult()
+{
+    SquaredBox* result = m_board.TBResultado;
+    enterChecks(result);
+    onKeyUp(result, [this, result](int KeyCode, Qt::KeyboardModifiers) {
+        TBResultado_KeyUp(KeyCode);
+        sayPlace(*result);
+    });
+    onGotFocus(result, [this, result] {
+        m_said = {};
+        sayPlace(*result);
+    });
+    on(result, &QLineEdit::textChanged, [this] { TBResultado_Change(); });
+}
 
 void Form3::Form_Load()
 {
@@ -45,7 +147,7 @@ void Form3::Form_Load()
     MnuOpcCi2Lis.check(m_model.CifrasFactor2().value() - 1);
     core::seedByClock(screens().random(), screens().clock());
     NuevaMultiplicacion();
-    TbParcial[0]->setFocus();
+    m_board.row(0)->setFocus();
 }
 
 void Form3::NuevaMultiplicacion()
@@ -58,44 +160,66 @@ void Form3::NuevaMultiplicacion()
 
 void Form3::PreparaFilas()
 {
-    setRowCount(static_cast<int>(m_model.expectedRows().size()));
-    placeRows();
-    chooseSquares();
+    const auto rows = static_cast<int>(m_model.expectedRows().size());
+    m_board.setRowCount(rows);
+    // The first row always stays, even for a hidden zero, which needs none.
+    if (m_board.rowCount() != rows)
+        ui::MessageBox::show(*this, u"desajuste"_s);
+    m_board.placeRows();
+    placeWindow();
     chainTabs();
+}
+
+/// The verdict and the counters go down with the rows, and the window grows for them.
+void Form3::placeWindow()
+{
+    moveTo(Text1, ColumnLeft, verdictTop(m_board.resultTop()));
+    moveTo(Text2, Margin, m_board.bottom() + CountersGap);
+    const double height = heightFor(m_board.rowCount());
+    if (height != designHeight()) // a window that a person has sized stays as it is
+        setDesignSize(Width, height);
+}
+
+void Form3::fitSquares()
+{
+    QStringList texts = m_model.expectedRows();
+    texts << m_model.resultText();
+    const auto longest = std::max_element(texts.cbegin(), texts.cend(),
+        [](const QString& a, const QString& b) { return a.size() < b.size(); });
+    m_board.fitSquares(longest->size());
+}
+
+void Form3::chainTabs()
+{
+    std::vector<QWidget*> chain;
+    for (SquaredBox* box : m_board.answerBoxes())
+        chain.push_back(box);
+    chain.insert(chain.end(), {Command1, Text1});
+    chain.insert(chain.end(), {Command2[1], Command2[0], Command2[2], Text2});
+    for (std::size_t i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
 }
 
 void Form3::showFactors()
 {
-    TbFactor[0]->write(m_model.factor1Text());
-    TbFactor[1]->write(m_model.factor2Text());
-    for (SquaredBox* box : TbFactor)
-        box->showSelected();
-    ui::announce(
-        *TbFactor[1], (m_model.factor1Text() + u' ' + m_model.factor2Text()).simplified());
-}
-
-std::vector<SquaredBox*> Form3::answerBoxes() const
-{
-    std::vector<SquaredBox*> boxes = TbParcial;
-    boxes.push_back(TBResultado);
-    return boxes;
+    m_board.showFactors(m_model.factor1Text(), m_model.factor2Text());
+    fitSquares();
+    sayExercise();
 }
 
 void Form3::check()
 {
-    LongMultiplication::Answer answer{TBResultado->text(), {}};
-    for (const SquaredBox* row : TbParcial)
-        answer.rows << row->text();
-    const auto verdict = m_model.judge(answer);
+    const auto verdict = m_model.judge({m_board.TBResultado->text(), m_board.rowTexts()});
     showVerdict(*Text1, m_model.verdict());
     if (verdict == shell::Verdict::Right) {
         Command2[0]->setEnabled(true);
         Command2[0]->setFocus();
     } else {
         Command2[2]->setEnabled(true);
-        paint(*TBResultado, ui::look::Red);
+        m_board.showWrongResult();
         for (const int row : m_model.wrongRows())
-            paint(*TbParcial.at(static_cast<std::size_t>(row)), ui::look::Red);
+            m_board.showWrongRow(row);
+        say(m_model.spokenWrongRows());
     }
     Text2->setText(m_model.counters().FormatoAlineado());
 }
@@ -104,60 +228,66 @@ void Form3::nextExercise()
 {
     newExercise();
     m_model.setPending();
-    TbParcial[0]->setFocus();
-}
-
-void Form3::emptyRows()
-{
-    for (SquaredBox* box : answerBoxes())
-        empty(*box);
+    m_board.row(0)->setFocus();
 }
 
 void Form3::clearAnswer()
 {
-    emptyRows();
-    TbParcial[0]->setFocus();
+    m_board.empty();
+    m_board.row(0)->setFocus();
 }
 
 void Form3::showSolution()
 {
-    TBResultado->write(m_model.showSolution());
-    for (qsizetype row = 0; row < m_model.expectedRows().size(); ++row)
-        TbParcial.at(static_cast<std::size_t>(row))->write(m_model.expectedRows().at(row));
+    const QString result = m_model.showSolution();
+    m_board.showSolution(m_model.expectedRows(), result);
+    say(m_model.spokenSolution());
     Command2[0]->setEnabled(true);
     Command2[0]->setFocus();
 }
 
 ui::KeyResult Form3::TbFactor_KeyPress()
 {
-    TbParcial[0]->setFocus();
+    m_board.row(0)->setFocus();
     return ui::KeyResult::Pass; // the box is read-only: copying is all that it answers
 }
 
 void Form3::TbParcial_KeyUp(int Index, int KeyCode)
 {
     if (KeyCode == ui::key::Space || KeyCode >= ui::key::Digit0)
-        stepLeft(*TbParcial.at(static_cast<std::size_t>(Index)));
+        stepLeft(*m_board.row(Index));
 }
 
 void Form3::TbParcial_KeyDown(int Index, int KeyCode)
 {
     if (KeyCode == ui::key::Shift)
-        IndicaProducto(caretOf(*TbParcial.at(static_cast<std::size_t>(Index))), Index);
+        IndicaProducto(caretOf(*m_board.row(Index)), Index);
 }
 
 void Form3::IndicaProducto(int posicion, int fila)
 {
-    const qsizetype length = TbParcial.at(static_cast<std::size_t>(fila))->text().size();
-    m_model.IndicaProducto(posicion, fila, static_cast<int>(length));
-    showVerdict(*Text1, m_model.verdict());
+    const qsizetype length = m_board.row(fila)->text().size();
+    if (!m_model.IndicaProducto(posicion, fila, static_cast<int>(length)))
+        return;
+    Text1->setPlainText(m_model.verdict().text());
+    say(core::aloud(m_model.verdict().text()));
+}
+
+/// Says which place the next digit takes, where that is another one than before: the box has
+/// been named by its reader.
+void Form3::sayPlace(const SquaredBox& box)
+{
+    const auto length = static_cast<int>(box.text().size());
+    const QString place = LongMultiplication::spokenCaret(caretOf(box), length);
+    if (std::exchange(m_said, {&box, place}) != std::pair(&box, place))
+        say(place);
 }
 
 void Form3::TbParcial_Change(int Index)
 {
     if (Index == 0 && m_model.firstRowIsResult())
-        TBResultado->write(TbParcial[0]->text());
-    chooseSquares();
+        m_board.TBResultado->write(m_board.row(0)->text());
+    fitSquares();
 }
 
 void Form3::TBResultado_KeyUp(int KeyCode)
@@ -165,13 +295,13 @@ void Form3::TBResultado_KeyUp(int KeyCode)
     const bool digit = KeyCode >= ui::key::Digit0 && KeyCode <= ui::key::Digit9;
     const bool keypadDigit = KeyCode >= ui::key::Keypad0 && KeyCode <= ui::key::Keypad9;
     if (digit || keypadDigit || KeyCode == ui::key::Comma)
-        stepLeft(*TBResultado);
+        stepLeft(*m_board.TBResultado);
 }
 
 void Form3::TBResultado_Change()
 {
-    TBResultado->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    chooseSquares();
+    m_board.TBResultado->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    fitSquares();
 }
 
 } // namespace written

@@ -2,14 +2,7 @@
 
 #include "shell/exercise_screen.h"
 #include "written/long_multiplication.h"
-
-#include <vector>
-
-namespace ui {
-class Rule;
-class SquaredBox;
-class SquaredPaper;
-} // namespace ui
+#include "written/multiplication_board.h"
 
 namespace written {
 
@@ -22,6 +15,8 @@ public:
 
     explicit Form3(ui::Screens& screens);
 
+    QString spokenExercise() const override { return m_model.spokenExercise(); }
+
 protected:
     void Form_Load() override;
     void newExercise() override { NuevaMultiplicacion(); }
@@ -33,12 +28,10 @@ protected:
 private:
     void makeMenu();
     void makeSettings(QMenu* options);
-    void makeSheet();
-    void makeFactors();
     void makeTexts();
-    ui::SquaredBox* makeRow(int fila);
-    void connectResult();
+    void connectFactors();
     void connectRow(ui::SquaredBox* row, int fila);
+    void connectResult();
 
     ui::KeyResult TbFactor_KeyPress();
     void TbParcial_KeyUp(int Index, int KeyCode);
@@ -56,29 +49,21 @@ private:
     void NuevaMultiplicacion();
     void PreparaFilas();
     void IndicaProducto(int posicion, int fila);
-    void setRowCount(int rows);
-    void placeRows();
-    void chooseSquares();
-    qsizetype columnsNeeded() const;
+    void sayPlace(const ui::SquaredBox& box);
+    void placeWindow();
+    void fitSquares();
     void chainTabs();
     void showFactors();
-    void emptyRows();
     void takeChosenDigits(const Dialog& dialog);
     void showChoiceOfDigits();
     bool acceptFactor(TypedFactor outcome);
-    std::vector<ui::SquaredBox*> answerBoxes() const;
 
     ui::MenuList MnuOpcCi1Lis; ///< digits of factor 1
     ui::MenuList MnuOpcCi2Lis; ///< digits of factor 2
     ui::MenuList MnuOpcSelLis; ///< any digit, or chosen ones
     QAction* MnuOpcOcu = nullptr; ///< leaves out the rows of zeros
-    ui::SquaredPaper* m_paper = nullptr;
-    std::array<ui::SquaredBox*, 2> TbFactor{}; ///< the factors
-    QLabel* LabX = nullptr; ///< the times sign beside factor 2
-    std::vector<ui::SquaredBox*> TbParcial; ///< the partial products, row 0 at the top
-    ui::Rule* Line2 = nullptr; ///< the rule under the last row
-    ui::SquaredBox* TBResultado = nullptr; ///< the result
-    QLabel* labIgual = nullptr; ///< the equals sign beside the result
+    MultiplicationBoard m_board;
+    std::pair<const ui::SquaredBox*, QString> m_said; ///< the place that was said last
     ui::VerdictBox* Text1 = nullptr; ///< the verdict, or the hint of a product of digits
     ui::TextBox* Text2 = nullptr; ///< the counters
 };

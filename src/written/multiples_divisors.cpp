@@ -1,6 +1,7 @@
 #include "written/multiples_divisors.h"
 
 #include "core/random.h"
+#include "written/spoken.h"
 
 #include <algorithm>
 #include <cmath>
@@ -44,26 +45,39 @@ QString MultiplesDivisors::instruction() const
           "No puede usar el 1 ni el número que se proporciona"_s;
 }
 
+QString MultiplesDivisors::spokenExercise() const
+{
+    return u"%1: %2"_s.arg(instruction().simplified()).arg(number());
+}
+
+QString MultiplesDivisors::spokenSolution() const
+{
+    QStringList numbers;
+    for (const int number : showSolution())
+        numbers << QString::number(number);
+    return u"Solución: %1"_s.arg(spokenList(numbers));
+}
+
 shell::Verdict MultiplesDivisors::judge(const Answer& answers)
 {
     if (std::any_of(answers.begin(), answers.end(), [](double answer) { return answer < 1; }))
         return Verdict::NotJudged;
-    const auto wrong = firstWrong(answers);
-    m_wrongAnswer = wrong.value_or(0);
-    if (wrong)
+    m_wrongAnswers = findWrong(answers);
+    if (!m_wrongAnswers.empty())
         m_verdict.tell(Verdict::Wrong, u"Resultado incorrecto"_s, shell::Repeat::BlankBehind);
     else
         m_verdict.tell(Verdict::Right, u"Resultado correcto"_s, shell::Repeat::BlankBehind);
     return *m_verdict.verdict();
 }
 
-std::optional<int> MultiplesDivisors::firstWrong(const Answer& answers) const
+std::vector<int> MultiplesDivisors::findWrong(const Answer& answers) const
 {
+    std::vector<int> wrong;
     for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
         if (!isRight(*answer) || std::find(answers.begin(), answer, *answer) != answer)
-            return static_cast<int>(answer - answers.begin());
+            wrong.push_back(static_cast<int>(answer - answers.begin()));
     }
-    return std::nullopt;
+    return wrong;
 }
 
 bool MultiplesDivisors::isRight(double answer) const

@@ -6,7 +6,7 @@
 #include <QString>
 
 #include <array>
-#include <optional>
+#include <vector>
 
 namespace core {
 class RandomSource;
@@ -36,12 +36,16 @@ public:
     } ///< 2 to 10; where divisors are asked for, 6 to 720
     QString instruction() const; ///< two lines when divisors are asked for
 
+    /// What is asked of which number, and the solution, as they are read aloud.
+    QString spokenExercise() const;
+    QString spokenSolution() const;
+
     /// Judges three answers; nothing is judged while one is missing or below 1.
     shell::Verdict judge(const Answer& answers);
 
-    /// Index of the first answer that is wrong by itself or repeats an earlier one, after a
-    /// verdict of Wrong.
-    int wrongAnswer() const { return m_wrongAnswer; }
+    /// Indexes of the answers that are wrong by themselves or repeat an earlier one; none before
+    /// the first verdict and after a right one.
+    const std::vector<int>& wrongAnswers() const { return m_wrongAnswers; }
 
     /// Stands beside the next exercise too, until that is judged.
     const shell::VerdictLine& verdict() const { return m_verdict; }
@@ -52,14 +56,14 @@ public:
 
 private:
     bool isRight(double answer) const;
-    std::optional<int> firstWrong(const Answer& answers) const;
+    std::vector<int> findWrong(const Answer& answers) const;
     void drawFactors();
 
     core::RandomSource& m_random;
     Mode Modo = Mode::Multiples;
     core::Int16 Numero;
     std::array<core::Int16, Answers> Factores;
-    int m_wrongAnswer = 0;
+    std::vector<int> m_wrongAnswers;
     shell::VerdictLine m_verdict;
 };
 

@@ -2,7 +2,6 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
-#include "ui/announcement.h"
 #include "ui/screens.h"
 
 #include <algorithm>
@@ -14,10 +13,35 @@ namespace written {
 
 namespace {
 
-constexpr double Width = 10500;
-constexpr double Height = 6060;
-constexpr double ColumnWidth = 3180;
-constexpr double ColumnPitch = 3420;
+// In twips. Everything stands on one axis, from the instruction down to the buttons.
+constexpr double Width = 11000;
+constexpr double Margin = 240;
+constexpr double FullWidth = Width - 2 * Margin;
+constexpr double AnswerTop = 2640;
+constexpr double AnswerWidth = 2800;
+constexpr double AnswerHeight = 900;
+constexpr double VerdictWidth = 4200;
+constexpr double TrayMargin = 180; // around the buttons
+constexpr double CommandWidth = 2500;
+constexpr double CommandHeight = 600;
+constexpr double CommandTop = 4560;
+constexpr double CountersTop = CommandTop + CommandHeight + 2 * TrayMargin;
+constexpr double CountersHeight = 330;
+constexpr double Height = CountersTop + CountersHeight + Margin / 2;
+
+/// In the middle of the screen.
+ui::TwipRect centred(double top, double width, double height)
+{
+    return {(Width - width) / 2, top, width, height};
+}
+
+/// One of several things of the same size side by side, in the middle of the screen.
+ui::TwipRect inRow(int index, int count, double top, double width, double height)
+{
+    constexpr double Gap = 120;
+    const double all = count * width + (count - 1) * Gap;
+    return {(Width - all) / 2 + index * (width + Gap), top, width, height};
+}
 
 constexpr ui::look::Font NumberFont{Family::CourierNew, 72, true};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 30, true};
@@ -33,37 +57,39 @@ FrmMultidivi::FrmMultidivi(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Múltiplos y divisores"_s, Width, Height)
 {
     makeBoxes();
-    const auto column = [](int index, double top) {
-        return ui::TwipRect{240 + index * ColumnPitch, top, ColumnWidth, 600};
+    const auto command = [](int position) {
+        return inRow(position, 4, CommandTop, CommandWidth, CommandHeight);
     };
-    makeCommands({.check = column(1, 3900),
-        .next = column(1, 4740),
-        .clear = column(0, 4740),
-        .solution = column(2, 4740)});
+    makeCommands(
+        {.check = command(0), .next = command(2), .clear = command(1), .solution = command(3)});
 }
 
 void FrmMultidivi::makeBoxes()
 {
-    Text1 = displayMemo(u"Text1"_s, {240, 240, 10020, 660}, ui::look::Instruction,
+    Text1 = displayMemo(u"Text1"_s, centred(180, FullWidth, 800), ui::look::Instruction,
         u"Instrucción"_s, u"Calcula y escribe 3 múltiplos del número que se indica"_s);
+    Text1->document()->setDefaultTextOption(QTextOption(Qt::AlignHCenter));
     Text1->setToolTip(u"No debes introducir el mismo número indicado"_s);
 
-    Text2 = displayBox(u"Text2"_s, {240, 1020, 10020, 1440}, NumberFont, u"Número indicado"_s);
+    Text2 =
+        displayBox(u"Text2"_s, centred(1040, FullWidth, 1560), NumberFont, u"Número indicado"_s);
     Text2->setAlignment(Qt::AlignCenter);
 
     for (int i = 0; i < MultiplesDivisors::Answers; ++i) {
-        ui::TextBox* box =
-            entryBox(u"Text3(%1)"_s.arg(i), {240 + i * ColumnPitch, 2700, ColumnWidth, 900},
-                AnswerFont, u"Respuesta %1"_s.arg(i + 1));
+        ui::TextBox* box = entryBox(u"Text3(%1)"_s.arg(i),
+            inRow(i, MultiplesDivisors::Answers, AnswerTop, AnswerWidth, AnswerHeight),
+            AnswerFont, u"Respuesta %1"_s.arg(i + 1));
         box->setAlignment(Qt::AlignCenter);
         enterChecks(box);
         Text3.at(static_cast<std::size_t>(i)) = box;
     }
 
-    TBMensajes = verdictBox(
-        u"TBMensajes"_s, {240 + 2 * ColumnPitch, 3900, ColumnWidth, 600}, u"Comprobación"_s);
-    displayBox(u"TbResultados"_s, {240, 5520, 10020, 330}, ui::look::Counters, u"Ejercicios y errores"_s,
-        u"Ejercicios: 0; Errores: 0"_s);
+    TBMensajes = verdictBox(u"TBMensajes"_s,
+        centred(AnswerTop + AnswerHeight + TrayMargin / 2, VerdictWidth, 640), u"Comprobación"_s);
+    TBMensajes->setJudged({Text3.begin(), Text3.end()});
+    // Nothing is counted here: the line stays as it is.
+    displayBox(u"TbResultados"_s, {Margin, CountersTop, FullWidth, CountersHeight},
+        ui::look::Counters, u"Ejercicios y errores"_s, u"Ejercicios: 0; Errores: 0"_s);
 }
 
 void FrmMultidivi::Form_Load()
@@ -79,7 +105,7 @@ void FrmMultidivi::newExercise()
     TBMensajes->retire();
     Text1->setPlainText(m_model.instruction());
     Text2->setText(QString::number(m_model.number()));
-    ui::announce(*Text2, m_model.instruction() + u' ' + Text2->text());
+    sayExercise();
 }
 
 void FrmMultidivi::check()
@@ -96,9 +122,20 @@ void FrmMultidivi::check()
     if (verdict == shell::Verdict::Right) {
         Command2[0]->setFocus();
     } else {
-        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(m_model.wrongAnswer()));
+        edgeWrongAnswers();
+        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(m_model.wrongAnswers().front()));
         wrong->setFocus();
         wrong->selectAll();
+    }
+}
+
+/// Of a wrong verdict the edges tell which answers are meant.
+void FrmMultidivi::edgeWrongAnswers()
+{
+    const std::vector<int>& wrong = m_model.wrongAnswers();
+    for (std::size_t i = 0; i < Text3.size(); ++i) {
+        if (std::find(wrong.begin(), wrong.end(), static_cast<int>(i)) == wrong.end())
+            Text3.at(i)->setEdge({});
     }
 }
 
@@ -119,6 +156,7 @@ void FrmMultidivi::showSolution()
     const auto solution = m_model.showSolution();
     for (std::size_t i = 0; i < solution.size(); ++i)
         Text3.at(i)->setText(QString::number(solution.at(i)));
+    say(m_model.spokenSolution());
 }
 
 } // namespace written

@@ -12,6 +12,8 @@ public:
 
     explicit FrmMultidivi(ui::Screens& screens);
 
+    QString spokenExercise() const override { return m_model.spokenExercise(); }
+
 protected:
     void Form_Load() override;
     void newExercise() override;
@@ -22,6 +24,7 @@ protected:
 
 private:
     void makeBoxes();
+    void edgeWrongAnswers();
 
     ui::Memo* Text1 = nullptr; ///< the instruction
     ui::TextBox* Text2 = nullptr; ///< the given number

@@ -5,11 +5,26 @@
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
 
 namespace written {
+
+namespace {
+
+/// What a line of text really takes, which no measure of the font need be.
+int lineHeight(const QFont& font)
+{
+    QTextLayout sample(QStringLiteral("0"), font);
+    sample.beginLayout();
+    sample.createLine();
+    sample.endLayout();
+    return static_cast<int>(std::ceil(sample.lineAt(0).height()));
+}
+
+} // namespace
 
 ScratchArea::ScratchArea(QWidget* parent)
     : Memo(Kind::Entry, parent)
@@ -21,14 +36,15 @@ void ScratchArea::setFactor(double factor)
     Memo::setFactor(factor);
     QFont squared = font();
     const QFontMetricsF metrics(squared);
-    m_square = static_cast<int>(std::ceil(metrics.lineSpacing()));
+    m_square = lineHeight(squared);
     m_pen = std::max(1, static_cast<int>(factor));
     m_corner = qRound(ui::look::CornerMargin * factor);
     const double gap = m_square - metrics.horizontalAdvance(u'0');
     squared.setLetterSpacing(QFont::AbsoluteSpacing, gap);
     setFont(squared);
     // The gap comes behind a character: half of it in front puts it in the middle.
-    document()->setDocumentMargin(gap / 2);
+    // Whole pixels, so that the lines of text and of squares begin at the same one.
+    document()->setDocumentMargin(qRound(gap / 2));
     fitWholeSquares();
 }
 
@@ -68,7 +84,7 @@ void ScratchArea::paintSquares()
     const QColor grid(ui::look::Grid);
     const double line =
         blockBoundingGeometry(firstVisibleBlock()).translated(contentOffset()).top();
-    const auto top = static_cast<int>(std::fmod(line, m_square));
+    const int top = qRound(std::fmod(line, m_square)); // as the text is placed
     const int rows = (viewport()->height() - m_pen - top) / m_square;
     const int columns = (viewport()->width() - m_pen) / m_square;
     for (int column = 0; column <= columns; ++column)

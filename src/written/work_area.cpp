@@ -1,5 +1,6 @@
 #include "written/work_area.h"
 
+#include "ui/focus_ring.h"
 #include "ui/look.h"
 #include "ui/marks.h"
 #include "ui/squared_box.h"
@@ -25,11 +26,12 @@ WorkArea::WorkArea(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::IBeamCursor);
     setAttribute(Qt::WA_InputMethodEnabled);
+    ui::FocusRing::leaveOut(*this);
 }
 
 // --- text
 
-void WorkArea::setGrid(const GridText& grid)
+void WorkArea::setGrid(const GridText& grid, int caret)
 {
     const GridText before = m_grid;
     m_grid = grid;
@@ -38,7 +40,7 @@ void WorkArea::setGrid(const GridText& grid)
     m_cells.scrollTo(0);
     m_caret.setText(grid.columns(), grid.size());
     changed(before, 0);
-    setCursorPosition(0);
+    setCursorPosition(caret);
 }
 
 void WorkArea::overtypeText(const QString& typed)
@@ -259,10 +261,14 @@ void WorkArea::paintEvent(QPaintEvent*)
     QPainter painter(this);
     for (int position = m_cells.firstInSight(); position < m_cells.endOfSight(); ++position)
         paintCell(painter, position);
-    if (!hasFocus())
-        return;
+    if (hasFocus() && !m_grid.isWritable(cursorPosition())) // no square to be marked
+        paintBar(painter);
+}
+
+void WorkArea::paintBar(QPainter& painter) const
+{
     QRect bar = cellRect(cursorPosition());
-    bar.setWidth(std::max(2, qRound(2 * factor())));
+    bar.setWidth(std::max(2, qRound(ui::look::CaretWidth * factor())));
     painter.fillRect(bar, QColor(ui::look::Focus));
 }
 
@@ -277,13 +283,13 @@ void WorkArea::paintCell(QPainter& painter, int position) const
     const QRect cell = cellRect(position);
     const bool selected = m_caret.selects(position);
     const bool composed = isComposedAt(position);
-    const bool written = position == cursorPosition() && m_grid.isWritable(position);
+    const bool next = position == cursorPosition() && m_grid.isWritable(position);
     if (selected && hasFocus())
         painter.fillRect(cell, QColor(ui::look::Focus));
+    else if (next && hasFocus())
+        ui::drawHere(painter, cell, factor());
     else if (selected || composed)
         painter.fillRect(cell, QColor(ui::look::Marker));
-    else if (written && hasFocus())
-        ui::drawHere(painter, cell, factor());
     painter.setPen(QColor(selected && hasFocus() ? ui::look::Card : ui::look::Ink));
     paintCharacter(painter, cell,
         composed ? m_composed.at(position - cursorPosition()) : m_grid.text().at(position));

@@ -24,8 +24,8 @@ public:
     explicit WorkArea(QWidget* parent);
 
     const GridText& grid() const { return m_grid; }
-    /// Replaces the text; the caret goes to its start.
-    void setGrid(const GridText& grid);
+    /// Replaces the text and takes the caret somewhere in it.
+    void setGrid(const GridText& grid, int caret = 0);
     QString toPlainText() const { return m_grid.text(); }
 
     /// Where the first cell lies on the parent, in twips; all others line up with it. The
@@ -81,6 +81,7 @@ private:
     void changed(const GridText& before, int from);
     void setCaret(const GridCaret& caret);
     bool isComposedAt(int position) const;
+    void paintBar(QPainter& painter) const;
     void paintCell(QPainter& painter, int position) const;
     void paintCharacter(QPainter& painter, const QRect& cell, QChar character) const;
 

@@ -731,6 +731,7 @@ private:
 
     void accept()
     {
+        makeActive(*dialog); // nobody presses a button before the window manager shows it
         QTest::mouseClick(
             &ScreenBench::find<QPushButton>(*dialog, u"OKButton"_s), Qt::LeftButton);
         makeActive(*screen);

@@ -136,6 +136,7 @@ private slots:
         QTest::newRow("whole division") << u"[2_3]|{&1\\2}||"_s << 2;
         QTest::newRow("remainder") << u"[2_3]|{&1 mod 2}||"_s << 2;
         QTest::newRow("rounded up") << u"[2_3] [4_5]|{(&1+&2-1)\\&2}||"_s << 2;
+        QTest::newRow("empty braces") << u"{}"_s.repeated(60) + u"[2_3]|{&1+1}||"_s << 4;
         QTest::newRow("hidden datum") << u"{&1*&2} [2_3]|[4_5]||"_s << 15;
     }
     void tellsTheOperationsThatAreUsed()

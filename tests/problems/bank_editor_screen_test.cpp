@@ -605,18 +605,25 @@ private slots:
     void notesWhatIsWrongBelowTheTextThatItShows()
     {
         open();
-        writeStatement(u"Hay [7_9] de"_s);
+        writeStatement(u"Hay [7_9] de [<b>3</b>]"_s);
         focus(u"Text2"_s);
         QTest::keyClicks(&answer(), u"{&1/2}"_s);
         bench->random.appendInteger(7, 3, 7);
+        bench->random.append({0});
         BoxAnswerer boxes(u"Aceptar"_s);
         QString notes;
         boxes.whileOpen = [&](QDialog& box) {
             notes = dynamic_cast<QMessageBox&>(box).informativeText();
+            for (const QLabel* label : box.findChildren<QLabel*>()) {
+                if (label->text() == notes)
+                    QCOMPARE(label->textFormat(), Qt::PlainText);
+            }
         };
         bench->click(u"CBProbar"_s);
-        QCOMPARE(boxes.texts, QStringList{u"Enunciado \r\nHay 7 de\r\nRespuesta\r\n4\r\n"_s});
-        QCOMPARE(notes, u"{&1/2} da 3,5 y se redondea a 4.\nDatos: &1 = 7."_s);
+        QCOMPARE(boxes.texts, QStringList{u"Enunciado \r\nHay 7 de 0\r\nRespuesta\r\n4\r\n"_s});
+        QCOMPARE(notes,
+            u"[<b>3</b>] no se entiende: un dato se escribe [mínimo_máximo].\n"
+            "{&1/2} da 3,5 y se redondea a 4.\nDatos: &1 = 7, &2 = 0."_s);
     }
 
     void notesNothingOnACleanDraw()

@@ -81,6 +81,25 @@ private slots:
         QCOMPARE(session->problem().data[1], 8);
     }
 
+    void saysTheProblemWithItsUnit()
+    {
+        QCOMPARE(session->spokenExercise(), QString());
+        session->setBank({{u"x|0||*"_s, u"¿2 por 8?|16|manzanas|*"_s}, {}});
+        random->append({0.0f});
+        next();
+        QCOMPARE(session->spokenExercise(), u"¿2 por 8? Respuesta en manzanas"_s);
+        QCOMPARE(session->spokenSolution(), u"16 manzanas"_s);
+    }
+
+    void saysNoUnitWhereThereIsNone()
+    {
+        session->setBank({{u"x|0||*"_s, u"¿2 por 8?|16||*"_s}, {}});
+        random->append({0.0f});
+        next();
+        QCOMPARE(session->spokenExercise(), u"¿2 por 8?"_s);
+        QCOMPARE(session->spokenSolution(), u"16"_s);
+    }
+
     void callsBackBeforeEachDraw()
     {
         session->setBank(bankOfSize(5));

@@ -141,8 +141,8 @@ private slots:
         qsizetype next = 0;
         for (const auto& match : row.globalMatch(text(PIZARRIN_CLASSROOM_PAGE))) {
             QString operations = match.captured(1);
-            if (!operations.contains(u' ') && operations.size() > 1)
-                continue; // the last row adds up
+            if (operations == u"en total"_s)
+                continue;
             operations.remove(u' ').replace(u'×', u'*').replace(u'÷', u'/').replace(u'−', u'-');
             const qsizetype before = next;
             for (const auto& range : cell.globalMatch(match.captured(2))) {

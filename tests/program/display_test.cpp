@@ -2,6 +2,7 @@
 #include "support/program_bench.h"
 #include "support/screen_bench.h"
 #include "support/text_fit.h"
+#include "ui/opening_factor.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,19 +32,16 @@ private slots:
         QVERIFY2(std::abs(above - below) <= 1, qPrintable(u"%1, %2"_s.arg(above).arg(below)));
     }
 
-    void allScreensHaveOneFactorUnlessTheDisplayIsTooSmall_data() { addScreenRows(); }
-    void allScreensHaveOneFactorUnlessTheDisplayIsTooSmall()
+    void everyScreenIsAsLargeAsItsDisplayAllows_data() { addScreenRows(); }
+    void everyScreenIsAsLargeAsItsDisplayAllows()
     {
         const ui::Screen& screen = open();
-        constexpr double MenuHeight = 580; // pixels at factor 1
-        const double meant = ui::Screens::initialFactor(MenuHeight, display().height());
-        const double aPixel = 2.0 / std::min(screen.width(), screen.height());
-        QVERIFY(screen.factor() <= meant + aPixel);
-        if (screen.factor() >= meant - aPixel)
-            return;
-        // It gave way: then there is no room left in one direction.
+        const double twentieths = 20 * screen.factor();
+        QVERIFY2(std::abs(twentieths - std::round(twentieths)) < 1e-6,
+            qPrintable(QString::number(screen.factor())));
+        const QSizeF larger = QSizeF(screen.size()) * (screen.factor() + 0.05) / screen.factor();
         const QSize room = display().size() - QSize(0, Frame);
-        QVERIFY(room.width() - screen.width() <= 1 || room.height() - screen.height() <= 1);
+        QVERIFY(larger.width() > room.width() || larger.height() > room.height());
     }
 
     void nothingIsCutOff_data()
@@ -81,6 +79,11 @@ private slots:
             constexpr int FrameGuess = 12; // the toolkit leaves room for the box's frame
             QVERIFY2(std::abs(aside) <= FrameGuess, qPrintable(QString::number(aside)));
             QVERIFY2(display().contains(box.frameGeometry()), qPrintable(box.windowTitle()));
+            QVERIFY2(box.width() <= 0.7 * display().width(), qPrintable(box.windowTitle()));
+            for (const QPushButton* button : box.findChildren<QPushButton*>()) {
+                QVERIFY(button->height() >= qRound(44 * owner.factor()));
+                QCOMPARE(button->font().pixelSize(), static_cast<int>(18 * owner.factor()));
+            }
             for (const QWidget* part : box.findChildren<QWidget*>())
                 QVERIFY2(!part->isVisible() || box.rect().contains(placeIn(box, *part)),
                     part->metaObject()->className());
@@ -92,7 +95,7 @@ private slots:
     }
 
 private:
-    static constexpr int Frame = ui::Screens::FrameHeight;
+    static constexpr int Frame = ui::FrameHeight;
 
     static QRect display() { return QGuiApplication::primaryScreen()->availableGeometry(); }
 

@@ -23,12 +23,13 @@ public:
     {
     }
 
-    /// Loads, shows and activates a screen.
+    /// Loads, shows and activates a screen, at factor 1 on whatever display.
     template <typename S> S& open()
     {
         screens.add<S>();
+        auto& screen = screens.load(S::screenName());
+        screen.resize((QSizeF(screen.size()) / screen.factor()).toSize());
         screens.show(S::screenName());
-        auto& screen = *screens.loaded(S::screenName());
         makeActive(screen);
         m_screen = &screen;
         return static_cast<S&>(screen);

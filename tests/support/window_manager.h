@@ -20,8 +20,10 @@
 /// the focus: the display forgets a request that is older than the last change of the focus.
 inline void settleWindows()
 {
-    if (QGuiApplication::platformName() == u"offscreen")
+    if (QGuiApplication::platformName() == u"offscreen") {
+        QCoreApplication::processEvents();
         return;
+    }
     QWindow probe;
     probe.setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     probe.setProperty("_q_showWithoutActivating", true);
@@ -36,7 +38,9 @@ inline void makeActive(QWidget& window)
 {
     settleWindows(); // a window that closes may still hold the focus
     window.activateWindow();
-    if (!QTest::qWaitForWindowActive(&window))
+    // A window counts as active while one of its dialogs is.
+    const auto hasFocus = [&] { return QGuiApplication::focusWindow() == window.windowHandle(); };
+    if (!QTest::qWaitFor(hasFocus))
         giveUp("did not become active:", window.objectName());
     settleWindows();
 }

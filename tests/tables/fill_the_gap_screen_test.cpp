@@ -150,8 +150,8 @@ private slots:
     {
         bench->type(u"TbTermin(1)"_s, u"7"_s);
         bench->key(u"TbTermin(1)"_s, Qt::Key_Return);
-        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-        QCoreApplication::sendEvent(QApplication::focusWidget(), &repeat);
+        QTest::simulateEvent(QGuiApplication::focusWindow(), true, Qt::Key_Return, Qt::NoModifier,
+            u"\r"_s, true); // to the window, as the display sends keys
         QCOMPARE(row(), u"4 x 7 = 28"_s);
     }
 

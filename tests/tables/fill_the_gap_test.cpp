@@ -48,6 +48,12 @@ private slots:
         QVERIFY(!gap->Contado());
     }
 
+    void saysTheExerciseAndItsSolution()
+    {
+        QCOMPARE(gap->spokenExercise(), u"hueco: 4 por … igual a 28"_s);
+        QCOMPARE(gap->spokenSolution(), u"4 por 7 igual a 28"_s);
+    }
+
     void drawsTwoFactorsAndHidesTheLarger_data()
     {
         QTest::addColumn<float>("first");

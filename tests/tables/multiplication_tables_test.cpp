@@ -50,6 +50,22 @@ private slots:
         QCOMPARE(model->nextActivity(), 0);
     }
 
+    void saysTableQuestionAndSolution()
+    {
+        model->chooseTable(7);
+        QCOMPARE(model->spokenTable(),
+            u"Tabla del 7: 7 por 1, 7; 7 por 2, 14; 7 por 3, 21; 7 por 4, 28; 7 por 5, 35; "
+            "7 por 6, 42; 7 por 7, 49; 7 por 8, 56; 7 por 9, 63; 7 por 10, 70"_s);
+        model->chooseActivity(1);
+        model->newExercise();
+        QCOMPARE(model->spokenQuestion(), u"7 por 1"_s);
+        QCOMPARE(model->spokenSolution(), u"7 por 1 igual a 7"_s);
+        for (int k = 1; k <= 10; ++k)
+            model->judge(7 * k);
+        QCOMPARE(model->spokenQuestion(), QString());
+        QCOMPARE(model->spokenSolution(), QString());
+    }
+
     void captionNamesTableAndActivity()
     {
         model->chooseTable(7);

@@ -100,6 +100,7 @@ private slots:
         QCOMPARE(drill->state().Producto.value(), 56);
         QCOMPARE(drill->state().Restantes.value(), 10);
         QCOMPARE(drill->operationText(), u"7 x 8 = "_s);
+        QCOMPARE(drill->spokenOperation(), u"7 por 8"_s);
         QCOMPARE(drill->timeText(), u"10/"_s);
         QVERIFY(events.newOperation && !events.ended && !events.verdict);
         QCOMPARE(random.left(), 0u);

@@ -40,7 +40,12 @@ private slots:
     {
         QFETCH(double, factor);
         screen->resize((QSizeF(screen->size()) * factor / screen->factor()).toSize());
-        const QString line = u"Número de operaciones: 100. Número total de errores: 100."_s;
+        // As long as 70 % of the display allow, beside margins and icon.
+        const double room = 0.7 * screen->screen()->availableGeometry().width() - 110 * factor;
+        const QFontMetrics metrics(ui::look::scaled(ui::look::BoxText, factor));
+        QString line = u"errores"_s;
+        while (metrics.horizontalAdvance(line + u" errores"_s) < room)
+            line += u" errores"_s;
         BoxAnswerer boxes(u"Aceptar"_s);
         boxes.whileOpen = [&](QDialog& box) {
             const auto& label = ScreenBench::find<QLabel>(box, u"qt_msgbox_label"_s);

@@ -76,7 +76,7 @@ private slots:
     }
 
 private:
-    void widen() { screen->resize(screen->width() * 2, screen->height()); }
+    void widen() { screen->resize(screen->width() * 4, screen->height() * 2); }
 
     std::unique_ptr<ScreenBench> bench;
     SampleScreen* screen = nullptr;

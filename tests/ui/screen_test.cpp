@@ -166,10 +166,10 @@ private slots:
             QVERIFY(screen->clock->isActive());
             for (int i = 0; i < 3; ++i)
                 bench->tick(u"Timer1"_s);
+            screen->clock->stop();
         };
         screen->clock->start();
         QTRY_VERIFY(!boxes.texts.isEmpty());
-        screen->clock->stop();
         runPendingEvents();
         QCOMPARE(ticks, 1);
         QCOMPARE(boxes.texts.size(), 1);

@@ -298,27 +298,53 @@ private slots:
         QVERIFY(screen.isMaximized());
     }
 
-    void initialFactorGoesByTheMenuOnTheDisplay_data()
+    void aDialogOpensAtTheFactorOfTheScreenBelowIt()
     {
-        QTest::addColumn<double>("freeHeight");
-        QTest::addColumn<double>("factor");
-        QTest::newRow("very low") << 540.0 << 0.85;
-        QTest::newRow("1024x600") << 600.0 << 0.95;
-        QTest::newRow("just room for 1") << 620.0 << 1.0;
-        QTest::newRow("1366x768") << 768.0 << 1.0;
-        QTest::newRow("1.25 does not fit in 85 %") << 852.0 << 1.0;
-        QTest::newRow("1.25 fits in 85 %") << 853.0 << 1.25;
-        QTest::newRow("1920x1080") << 1080.0 << 1.5;
-        QTest::newRow("3840x2160") << 2160.0 << 3.0;
-        QTest::newRow("hardly any room") << 100.0 << 0.5;
+        openScreenAt(u"A"_s, 1.35);
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"A"_s));
+        QCOMPARE(bench->screens.loaded(u"B"_s)->factor(), 1.35);
+        bench->screens.show(u"Main"_s, bench->screens.loaded(u"A"_s));
+        QCOMPARE(bench->screens.loaded(u"Main"_s)->factor(), 1.35);
     }
-    void initialFactorGoesByTheMenuOnTheDisplay()
+
+    void whatTheMainScreenShowsModallyIsNoDialog()
     {
-        QFETCH(double, freeHeight);
-        QTEST(ui::Screens::initialFactor(580, freeHeight), "factor");
+        bench->screens.setMainScreen(u"Main"_s);
+        openScreenAt(u"Main"_s, 1.35);
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"Main"_s));
+        QVERIFY(bench->screens.loaded(u"B"_s)->factor() > 1.35); // 200 pixels on any display
+    }
+
+    void aDialogThatDoesNotFitOpensAtASmallerFactor()
+    {
+        addSample({});
+        auto& dialog = bench->screens.load<SampleScreen>();
+        const double largest = dialog.factor();
+        openScreenAt(u"A"_s, largest + 0.2);
+        bench->screens.showModal(u"Sample"_s, *bench->screens.loaded(u"A"_s));
+        QCOMPARE(dialog.factor(), largest);
+    }
+
+    void aDialogThatIsShownAgainKeepsTheSizeThatItWasGiven()
+    {
+        openScreenAt(u"A"_s, 1.35);
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"A"_s));
+        ui::Screen& dialog = *bench->screens.loaded(u"B"_s);
+        dialog.resize(300, 300);
+        dialog.hide();
+        bench->screens.showModal(u"B"_s, *bench->screens.loaded(u"A"_s));
+        QCOMPARE(dialog.size(), QSize(300, 300));
     }
 
 private:
+    void openScreenAt(const QString& name, double factor)
+    {
+        bench->screens.show(name);
+        ui::Screen& screen = *bench->screens.loaded(name);
+        screen.resize((QSizeF(screen.size()) * factor / screen.factor()).toSize());
+        QCOMPARE(screen.factor(), factor);
+    }
+
     /// Shows B as a dialog of A.
     void openDialog(const std::function<void()>& then)
     {

@@ -173,6 +173,7 @@ private slots:
         box->setText(u"0"_s + QString(14, u' '));
         box->setCursorPosition(0);
         QTest::keyClick(box, Qt::Key_Home);
+        box->setReadOnly(true); // no caret
         box->grab();
         const auto [first, last] = inkedColumns(box->grab().toImage(), ui::look::Ink);
         const double middle = (first + last + 1) / 2.0;

@@ -54,15 +54,16 @@ private slots:
             const auto next = lines.lower_bound(at - (pen - 1 - pen / 2));
             return next != lines.end() && *next - pen / 2 <= at;
         };
+        const int edge = qRound(ui::look::EdgeWidth * factor) + 1; // has a colour of its own
         int met = 0;
-        for (int x = pen; x < image.width() - pen; ++x) {
+        for (int x = edge; x < image.width() - edge; ++x) {
             const bool line = isLine(columns, area.left() + x);
             met += line ? 1 : 0;
             QCOMPARE(image.pixel(x, middle.top() - area.top()),
                 line ? ui::look::Grid : ui::look::Card);
         }
         QVERIFY(met > 10);
-        for (int y = pen; y < image.height() - pen; ++y)
+        for (int y = edge; y < image.height() - edge; ++y)
             QCOMPARE(image.pixel(middle.left() - area.left(), y),
                 isLine(rows, area.top() + y) ? ui::look::Grid : ui::look::Card);
     }

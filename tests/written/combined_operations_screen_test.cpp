@@ -309,7 +309,7 @@ private slots:
         script({9, 9, 9, 9, 9, 9}, {1, 1, 1});
         bench->click(u"Command2(0)"_s);
         answer(u"1"_s);
-        screen->resize((QSizeF(700, 486) * factor).toSize());
+        screen->resize((QSizeF(760, 448) * factor).toSize());
         for (const QLineEdit* box : screen->findChildren<QLineEdit*>())
             QVERIFY2(textFits(*box), qPrintable(box->objectName()));
         const auto& label = bench->control<QLabel>(u"Label1"_s);

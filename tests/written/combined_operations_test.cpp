@@ -125,6 +125,7 @@ private slots:
     void seededExpressionsKeepTheirPromises();
     void answersAreComparedAsNumbers();
     void verdictTexts();
+    void speaksInWords();
 };
 
 void CombinedOperationsTest::drawsNumbersFirstThenOperators()
@@ -305,6 +306,14 @@ void CombinedOperationsTest::verdictTexts()
     model.judge(11);
     QCOMPARE(model.verdict().text(), u"Resultado incorrecto"_s);
     QCOMPARE(model.showSolution(), 10);
+}
+
+void CombinedOperationsTest::speaksInWords()
+{
+    const CombinedOperations model = made({Group{5, 3, Plus}, {4, 2, Times}, {6, 3, DividedBy}});
+    QCOMPARE(model.spokenExercise(),
+        u"abre paréntesis 5 más 3 cierra paréntesis más 4 por 2 menos 18 entre 3"_s);
+    QCOMPARE(model.spokenSolution(), u"Solución: 10"_s);
 }
 
 QTEST_GUILESS_MAIN(CombinedOperationsTest)

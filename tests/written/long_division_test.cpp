@@ -45,6 +45,8 @@ private slots:
     void typedOperandsKeepTheExercisesState();
     void smallestNumberByMinusOne();
     void itsOwnSolutionsAreRight();
+    void speaksOfDivisionAndSquares();
+    void leavesRoomForDivisorAndQuotient();
 };
 
 namespace {
@@ -571,6 +573,34 @@ void LongDivisionTest::itsOwnSolutionsAreRight()
         QVERIFY2(division.judge({worked.quotient, worked.work}) == Verdict::Right,
             qPrintable(division.operationText() + u" = "_s + worked.quotient));
     }
+}
+
+void LongDivisionTest::speaksOfDivisionAndSquares()
+{
+    QCOMPARE(Drill(71, 3).division.spokenExercise(), u"71 entre 3"_s);
+    QCOMPARE(Drill(71, 3, 1).division.spokenExercise(), u"71 entre 3, con 1 decimal"_s);
+    Drill drill(71, 3, 2);
+    QCOMPARE(drill.division.spokenExercise(), u"71 entre 3, con 2 decimales"_s);
+    QCOMPARE(LongDivision::spokenSolution(drill.division.showSolution()),
+        u"Solución: cociente 23,66, resto 2"_s);
+
+    GridText work(u" 71"_s, 6);
+    work.EscribeLinea(u"11"_s, 1, 1);
+    work.EscribeLinea(u"2"_s, 2, 2);
+    QCOMPARE(LongDivision::spokenSquare(work, 1), u"dividendo"_s);
+    QCOMPARE(LongDivision::spokenSquare(work, 6 + 1), u"línea 1; del dividendo, 7"_s);
+    QCOMPARE(LongDivision::spokenSquare(work, 6 + 4), u"línea 1"_s);
+    QCOMPARE(LongDivision::spokenSquare(work, 12 + 1), u"línea 2; encima, 1; del dividendo, 7"_s);
+    QCOMPARE(LongDivision::spokenSquare(work, 18 + 2), u"línea 3; encima, 2; del dividendo, 1"_s);
+    QCOMPARE( // over a blank
+        LongDivision::spokenSquare(work, 18 + 1), u"línea 3; encima, 1; del dividendo, 7"_s);
+}
+
+void LongDivisionTest::leavesRoomForDivisorAndQuotient()
+{
+    QCOMPARE(Drill(71, 3).division.rightFigures(), 2);
+    QCOMPARE(Drill(71, 3, 2).division.rightFigures(), 5); // 23,66
+    QCOMPARE(Drill(7, 12345).division.rightFigures(), 5);
 }
 
 QTEST_GUILESS_MAIN(LongDivisionTest)

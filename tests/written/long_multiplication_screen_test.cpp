@@ -2,6 +2,7 @@
 
 #include "support/screen_bench.h"
 #include "written/digit_dialog.h"
+#include "written/wrong_mark.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -260,10 +261,10 @@ private slots:
     {
         for (const QString& name : {u"TbParcial(0)"_s, u"TbParcial(1)"_s})
             QCOMPARE(bench->control<QWidget>(name).toolTip(),
-                u"Escribe desde las unidades hacia la izquierda, pulses donde pulses en una fila "
-                "vacía; muévete con las flechas y deja un hueco con la barra espaciadora"_s);
+                u"Escriba desde las unidades hacia la izquierda, pulse donde pulse en una fila "
+                "vacía; muévase con las flechas y deje un hueco con la barra espaciadora"_s);
         QCOMPARE(bench->control<QWidget>(u"TBResultado"_s).toolTip(),
-            u"Escribe desde las unidades hacia la izquierda y pulsa Intro al terminar"_s);
+            u"Escriba desde las unidades hacia la izquierda y pulse Intro al terminar"_s);
     }
 
     void aWrongCheckTurnsWrongRowsRedUntilTheyAreCleared()
@@ -295,6 +296,20 @@ private slots:
         QCOMPARE(bench->text(u"TBResultado"_s), QString());
         QCOMPARE(bench->focusName(), u"TbParcial(0)"_s);
         QCOMPARE(bench->text(u"TbFactor(0)"_s), u"1234"_s);
+    }
+
+    void aCrossStandsBesideEveryRedRow()
+    {
+        type(u"4047"_s); // 7404, right; the second row stays empty
+        QCOMPARE(crosses(), QStringList());
+        bench->click(u"Command1"_s);
+        QCOMPARE(crosses(), (QStringList{u"TbParcial(1)"_s, u"TBResultado"_s}));
+        bench->click(u"Command2(1)"_s);
+        QCOMPARE(crosses(), QStringList());
+        bench->click(u"Command1"_s);
+        QCOMPARE(crosses().size(), 3);
+        nextExercise(1234, 7, 1); // fewer rows, with none of their crosses
+        QCOMPARE(crosses(), QStringList());
     }
 
     void aRightResultDoesNotLookAtTheRows()
@@ -489,7 +504,7 @@ private slots:
     void theTabOrderRunsDownTheBoardAndOverTheButtons()
     {
         const QStringList order{u"TbParcial(1)"_s, u"TBResultado"_s, u"Command1"_s, u"Text1"_s,
-            u"Command2(0)"_s, u"Command2(1)"_s, u"Command2(2)"_s, u"Text2"_s, u"TbParcial(0)"_s};
+            u"Command2(1)"_s, u"Command2(0)"_s, u"Command2(2)"_s, u"Text2"_s, u"TbParcial(0)"_s};
         for (const QString& name : order) {
             key(Qt::Key_Tab);
             QCOMPARE(bench->focusName(), name);
@@ -893,6 +908,30 @@ private:
                 == QColor(255, 0, 0))
                 red << name;
         return red;
+    }
+
+    /// The boxes beside which a cross stands.
+    QStringList crosses() const
+    {
+        QStringList names;
+        for (int i = 0; i < rowTexts().size(); ++i)
+            names << u"TbParcial(%1)"_s.arg(i);
+        names << u"TBResultado"_s;
+        QStringList crossed;
+        for (const auto* cross : screen->findChildren<written::WrongMark*>()) {
+            if (!cross->isVisible())
+                continue;
+            for (const QString& name : names) {
+                const QRect box = bench->control<QWidget>(name).geometry();
+                if (cross->x() > box.right() && box.top() < cross->geometry().center().y()
+                    && cross->geometry().center().y() < box.bottom())
+                    crossed << name;
+            }
+        }
+        std::sort(crossed.begin(), crossed.end(), [&](const QString& a, const QString& b) {
+            return names.indexOf(a) < names.indexOf(b);
+        });
+        return crossed;
     }
 
     written::Dialog& dialog() const

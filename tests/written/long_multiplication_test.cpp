@@ -389,6 +389,24 @@ private slots:
         QCOMPARE(model.wrongRows().size(), 0u);
     }
 
+    void speaksOfFactorsRowsAndPlaces()
+    {
+        LongMultiplication model = board(u"1234"_s, u"205"_s);
+        QCOMPARE(model.spokenExercise(), u"1234 por 205"_s);
+        QCOMPARE(model.spokenSolution(), u"Solución: 252970"_s);
+        model.judge({u"1"_s, {u"6170"_s, u"0 "_s, u"2468  "_s}});
+        QCOMPARE(model.spokenWrongRows(), QString());
+        model.judge({u"1"_s, {u"6170"_s, u"0"_s, u"2468  "_s}});
+        QCOMPARE(model.spokenWrongRows(), u"fila equivocada: 2"_s);
+        model.judge({u"1"_s, {u"617"_s, u"0 "_s, u"2468"_s}});
+        QCOMPARE(model.spokenWrongRows(), u"filas equivocadas: 1 y 3"_s);
+        model.judge({u"252970"_s, {}});
+        QCOMPARE(model.spokenWrongRows(), QString());
+        QCOMPARE(LongMultiplication::spokenCaret(0, 0), u"unidades"_s);
+        QCOMPARE(LongMultiplication::spokenCaret(0, 2), u"centenas"_s);
+        QCOMPARE(LongMultiplication::spokenCaret(2, 3), u"decenas"_s);
+    }
+
     void fullCountersAreReportedWithNothingCounted()
     {
         LongMultiplication model = board(u"12"_s, u"3"_s);

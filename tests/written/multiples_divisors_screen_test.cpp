@@ -283,6 +283,27 @@ private slots:
         QCOMPARE(bench->text(u"Text2"_s), u"9"_s);
     }
 
+    void onlyWrongAnswersGetARedEdge()
+    {
+        const auto edges = [this] {
+            QList<QColor> colours;
+            for (int i = 0; i < 3; ++i)
+                colours << bench->control<ui::TextBox>(box(i)).edge().value_or(QColor());
+            return colours;
+        };
+        const QColor wrong(ui::look::Wrong);
+        const QColor right(ui::look::Right);
+        typeAnswers({u"8"_s, u"9"_s, u"8"_s});
+        bench->click(u"Command1"_s);
+        QCOMPARE(edges(), (QList{QColor(), wrong, wrong}));
+        typeAnswers({u"8"_s, u"12"_s, u"16"_s});
+        bench->click(u"Command1"_s);
+        QCOMPARE(edges(), (QList{right, right, right}));
+        scriptMultiples(7);
+        bench->click(u"Command2(0)"_s);
+        QCOMPARE(edges(), (QList{QColor(), QColor(), QColor()}));
+    }
+
     void escapeDoesNothing()
     {
         bench->type(box(0), u"8"_s);
@@ -316,7 +337,7 @@ private slots:
         bench->click(u"Command2(0)"_s);
         typeAnswers({u"720"_s, u"360"_s, u"240"_s});
         bench->click(u"Command1"_s);
-        screen->resize((QSizeF(700, 404) * factor).toSize());
+        screen->resize((QSizeF(734, 399) * factor).toSize());
         for (const QLineEdit* line : screen->findChildren<QLineEdit*>())
             QVERIFY2(textFits(*line), qPrintable(line->objectName()));
         const auto& text = bench->control<QPlainTextEdit>(u"Text1"_s);

@@ -40,6 +40,12 @@ MultiplesDivisors divisorsOf(const std::array<int, 3>& factors)
     return model;
 }
 
+/// Index of the first wrong answer; 0 where there is none.
+int firstWrong(const MultiplesDivisors& model)
+{
+    return model.wrongAnswers().empty() ? 0 : model.wrongAnswers().front();
+}
+
 /// The divisors of a number other than 1 and itself, found without dividing.
 std::set<int> properDivisors(int number)
 {
@@ -86,6 +92,8 @@ private slots:
     void threeInTenShownDivisorsHoldA1();
     void eightNumbersHaveNoThreeDivisors();
     void aRepeatedVerdictChanges();
+    void speaksInOneLine();
+    void namesEveryWrongAnswer();
 };
 
 void MultiplesDivisorsTest::kindsAreDrawnWithEqualChance_data()
@@ -180,7 +188,7 @@ void MultiplesDivisorsTest::everyMultipleIsAccepted()
                 const auto verdict = model.judge(typed);
                 QCOMPARE(verdict, multiples.contains(answer) ? Verdict::Right : Verdict::Wrong);
                 if (verdict == Verdict::Wrong)
-                    QCOMPARE(model.wrongAnswer(), static_cast<int>(place));
+                    QCOMPARE(firstWrong(model), static_cast<int>(place));
             }
         }
     }
@@ -208,7 +216,7 @@ void MultiplesDivisorsTest::everyDivisorIsAccepted()
                 static_cast<double>(others[1]), static_cast<double>(answer)});
             QCOMPARE(verdict, divisors.contains(answer) ? Verdict::Right : Verdict::Wrong);
             if (verdict == Verdict::Wrong)
-                QCOMPARE(model.wrongAnswer(), 2);
+                QCOMPARE(firstWrong(model), 2);
         }
     }
     QVERIFY(withTooFew > 0); // 6, 8, 10, 14 …
@@ -267,7 +275,7 @@ void MultiplesDivisorsTest::answers()
     const auto verdict = model.judge(answers);
     QTEST(verdict, "verdict");
     if (verdict == Verdict::Wrong)
-        QTEST(model.wrongAnswer(), "wrongAnswer");
+        QTEST(firstWrong(model), "wrongAnswer");
 }
 
 void MultiplesDivisorsTest::shownMultiplesAreRight()
@@ -285,7 +293,7 @@ void MultiplesDivisorsTest::shownDivisorsAreWrongWhenOneOfThemIs1()
     const auto judge = [](MultiplesDivisors model) {
         const auto [a, b, c] = model.showSolution();
         const auto verdict = model.judge({double(a), double(b), double(c)});
-        return std::pair(verdict, model.wrongAnswer());
+        return std::pair(verdict, firstWrong(model));
     };
     QCOMPARE(divisorsOf({1, 2, 3}).number(), 6);
     QCOMPARE(judge(divisorsOf({1, 2, 3})).first, Verdict::Wrong);
@@ -336,6 +344,29 @@ void MultiplesDivisorsTest::aRepeatedVerdictChanges()
     QCOMPARE(textOf({0, 0, 0}), u"Resultado incorrecto "_s); // not judged: it stays
     QCOMPARE(textOf(wrong), u"Resultado incorrecto"_s);
     QCOMPARE(textOf(right), u"Resultado correcto"_s);
+}
+
+void MultiplesDivisorsTest::speaksInOneLine()
+{
+    QCOMPARE(multiplesOf(4).spokenExercise(),
+        u"Introduzca tres múltiplos diferentes del número indicado: 4"_s);
+    QCOMPARE(multiplesOf(4).spokenSolution(), u"Solución: 12, 16 y 20"_s);
+    QCOMPARE(divisorsOf({3, 4, 5}).spokenExercise(),
+        u"Introduzca tres divisores diferentes del número indicado. No puede usar el 1 ni el "
+        "número que se proporciona: 60"_s);
+    QCOMPARE(divisorsOf({3, 4, 5}).spokenSolution(), u"Solución: 3, 4 y 5"_s);
+}
+
+void MultiplesDivisorsTest::namesEveryWrongAnswer()
+{
+    auto model = multiplesOf(4);
+    QVERIFY(model.wrongAnswers().empty());
+    model.judge({5, 8, 8});
+    QCOMPARE(model.wrongAnswers(), (std::vector{0, 2}));
+    model.judge({8, 12, 4});
+    QCOMPARE(model.wrongAnswers(), (std::vector{2}));
+    model.judge({8, 12, 16});
+    QVERIFY(model.wrongAnswers().empty());
 }
 
 QTEST_GUILESS_MAIN(MultiplesDivisorsTest)

@@ -15,7 +15,7 @@ using written::ScratchArea;
 
 namespace {
 
-constexpr ui::look::Font Font{ui::look::Family::CourierNew, 20};
+constexpr ui::look::Font Font{ui::look::Family::CourierNew, 18};
 
 } // namespace
 

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QStringList>
+
+#include <array>
+#include <functional>
+#include <vector>
+
+class QLabel;
+
+namespace ui {
+class ControlFactory;
+class Rule;
+class SquaredBox;
+class SquaredPaper;
+} // namespace ui
+
+namespace written {
+
+class WrongMark;
+
+/// The squared sheet of a multiplication and what stands on it: the factors, a row for each
+/// partial product and the result, with their signs and rules. Its squares shrink for a number
+/// that needs more of them.
+class MultiplicationBoard {
+public:
+    /// Connects a row that has been made; 0 is at the top.
+    using RowMade = std::function<void(ui::SquaredBox* row, int fila)>;
+
+    /// Has one row at first.
+    MultiplicationBoard(ui::ControlFactory& controls, RowMade rowMade);
+
+    /// Makes or destroys rows until there are so many, though the first one always stays.
+    void setRowCount(int rows);
+    /// Places what stands below the rows, and empties all.
+    void placeRows();
+    int rowCount() const { return static_cast<int>(TbParcial.size()); }
+    ui::SquaredBox* row(int fila) const { return TbParcial.at(static_cast<std::size_t>(fila)); }
+    QStringList rowTexts() const;
+    /// The rows and the result.
+    std::vector<ui::SquaredBox*> answerBoxes() const;
+
+    /// Shows the factors selected.
+    void showFactors(const QString& factor1, const QString& factor2);
+    /// Writes the solution into the rows and the result.
+    void showSolution(const QStringList& rows, const QString& result);
+
+    /// Empties rows and result, in their normal colour.
+    void empty();
+    /// Turns a row or the result red, with a cross beside it.
+    void showWrongRow(int fila);
+    void showWrongResult();
+
+    /// Chooses the largest squares in which a text of so many characters has room, and
+    /// whatever stands on the sheet.
+    void fitSquares(qsizetype characters);
+
+    // Where the result and the sheet stand on the canvas, in twips.
+
+    double resultTop() const;
+    double bottom() const;
+    static double left();
+    static double top();
+    static double right();
+    /// The bottom of a sheet with so many rows; it never has room for fewer than FewestRows.
+    static double bottomFor(int rows);
+    static constexpr int FewestRows = 3;
+
+    std::array<ui::SquaredBox*, 2> TbFactor{}; ///< the factors
+    ui::SquaredBox* TBResultado = nullptr; ///< the result
+
+private:
+    void makeFactors();
+    void makeResult();
+    void makeSigns();
+    void makeRules();
+    void addRow();
+    void addCross();
+    void removeRow();
+    void showWrong(ui::SquaredBox& box, WrongMark& cross);
+
+    ui::ControlFactory& m_controls;
+    RowMade m_rowMade;
+    ui::SquaredPaper* m_paper = nullptr;
+    QLabel* LabX = nullptr; ///< the times sign beside factor 2, and the way to the first row
+    std::vector<ui::SquaredBox*> TbParcial; ///< the partial products, row 0 at the top
+    ui::Rule* Line2 = nullptr; ///< the rule under the last row
+    QLabel* labIgual = nullptr; ///< the equals sign beside the result
+    std::vector<WrongMark*> m_crosses; ///< the result's, then those of the rows
+};
+
+} // namespace written

@@ -1,0 +1,173 @@
+"""A pupil's desk: a display, a session and a screen reader of their own, keys to press and
+the words that the reader says. Nothing of the user's own session is touched."""
+
+import json
+import os
+import pty
+import queue
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import threading
+import time
+import tty
+from pathlib import Path
+
+LIMIT = 90  # seconds: far more than a busy machine takes, so that only real silence ends it
+
+SPEECH = """LogLevel 0
+LogDir "{folder}"
+AudioOutputMethod "libao"
+AddModule "dummy" "sd_dummy" "dummy.conf"
+DefaultModule dummy
+"""
+PROFILE = {"profile": ["Default", "default"], "enableKeyEcho": False, "enableEchoByWord": False}
+SETTINGS = {
+    "general": {"startingProfile": ["Default", "default"], "enableKeyEcho": False},
+    "profiles": {"default": PROFILE},
+    "pronunciations": {},
+    "keybindings": {},
+}
+
+
+class Silence(AssertionError):
+    """The reader did not say what it had to."""
+
+
+class Desk:
+    """Use as a context: everything that it has started ends with it."""
+
+    def __enter__(self):
+        self.folder = Path(tempfile.mkdtemp(prefix="desk-"))
+        self.processes = []
+        self.said = queue.Queue()
+        self.heard = []  # since the last step, in order
+        self.environment = dict(
+            os.environ,
+            HOME=str(self.folder),
+            XDG_RUNTIME_DIR=str(self.folder / "run"),
+            LC_ALL="C.UTF-8",
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            QT_QPA_PLATFORM="xcb",
+        )
+        for variable in ("AT_SPI_BUS_ADDRESS", "XDG_DATA_HOME", "XDG_CONFIG_HOME"):
+            self.environment.pop(variable, None)
+        (self.folder / "run").mkdir(mode=0o700)
+        try:
+            self._start_display()
+            self._start_reader()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self.processes):
+            try:
+                os.killpg(process.pid, signal.SIGTERM)
+            except ProcessLookupError:
+                pass
+            try:
+                process.wait(10)
+            except subprocess.TimeoutExpired:
+                os.killpg(process.pid, signal.SIGKILL)
+                process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def start(self, *command, **options):
+        options = {"stdout": subprocess.DEVNULL, **options}
+        process = subprocess.Popen(
+            command, env=self.environment, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+            start_new_session=True, **options)
+        self.processes.append(process)
+        return process
+
+    def _start_display(self):
+        reading, writing = os.pipe()
+        self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1366x768x24",
+                   "-nolisten", "tcp", pass_fds=[writing])
+        os.close(writing)
+        with os.fdopen(reading) as display:
+            self.environment["DISPLAY"] = ":" + display.readline().strip()
+        bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1",
+                         stdout=subprocess.PIPE, text=True)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        managed = self.folder / "managed"
+        os.mkfifo(managed)
+        self.start("openbox", "--startup", f"sh -c 'echo >{managed}'")
+        managed.read_text()
+
+    def _start_reader(self):
+        speech = self.folder / "speech"
+        shutil.copytree("/etc/speech-dispatcher", speech)
+        (speech / "speechd.conf").write_text(SPEECH.format(folder=self.folder))
+        settings = self.folder / ".local/share/orca/user-settings.conf"
+        settings.parent.mkdir(parents=True)
+        settings.write_text(json.dumps(SETTINGS))
+        # Asking where the accessibility bus is starts it.
+        subprocess.run(
+            ["dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
+             "org.a11y.Bus.GetAddress"],
+            env=self.environment, check=True, stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL)
+        self.start("speech-dispatcher", "-s", "-t", "0", "-C", str(speech), "-L",
+                   str(self.folder))
+        socket = self.folder / "run/speech-dispatcher/speechd.sock"
+        self._wait(socket.exists, "no speech server")
+        # It writes line by line to a terminal alone.
+        terminal, log = pty.openpty()
+        tty.setraw(log)
+        threading.Thread(target=self._listen, args=[terminal], daemon=True).start()
+        self.start("orca", f"--debug-file={os.ttyname(log)}", "--replace")
+        self.hear("Screen reader on")
+
+    @staticmethod
+    def _wait(condition, complaint):
+        end = time.monotonic() + LIMIT
+        while not condition():
+            if time.monotonic() > end:
+                raise Silence(complaint)
+            time.sleep(0.05)
+
+    def _listen(self, terminal):
+        with open(terminal, encoding="utf-8", errors="replace") as log:
+            try:
+                for line in log:
+                    words = re.search(r"SPEECH OUTPUT: '(.*)' *(?:\{.*)?$", line)
+                    if words:
+                        self.said.put(" ".join(words.group(1).split()).removesuffix("."))
+            except OSError:
+                pass  # the reader has gone
+
+    def press(self, *keys):
+        """Presses keys one after the other, by their X names: "Tab", "alt+v", "5"."""
+        subprocess.run(["xdotool", "key", "--delay", "30", *keys], env=self.environment,
+                       check=True)
+
+    def type(self, text):
+        self.press(*str(text))
+
+    def hear(self, *wanted):
+        """Waits until the reader has said each wanted regular expression, in this order, as
+        whole utterances. Returns the matches, and forgets what came before the last one."""
+        matches, at = [], 0
+        for pattern in wanted:
+            end = time.monotonic() + LIMIT
+            while True:
+                if at == len(self.heard):
+                    self._hear_on(pattern, end)
+                match = re.fullmatch(pattern, self.heard[at])
+                at += 1
+                if match:
+                    break
+            matches.append(match)
+        self.passed, self.heard = self.heard[:at], self.heard[at:]
+        return matches
+
+    def _hear_on(self, pattern, end):
+        try:
+            self.heard.append(self.said.get(timeout=max(0, end - time.monotonic())))
+        except queue.Empty:
+            raise Silence(f"waited for {pattern!r}, heard {self.heard}") from None

@@ -1,0 +1,110 @@
+#!/usr/bin/env python3
+"""walk.py PROGRAM [ACTIVITY...]: plays activities with a real screen reader."""
+
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+import activities
+from desk import Desk, Silence
+
+
+class Pupil:
+    """Plays by what is heard. Whatever the reader says must be waited for here, except what it
+    says by itself of the control and the window that have the focus."""
+
+    def __init__(self, desk):
+        self.desk = desk
+        self.names = []
+        self.heard_exercise = None
+        self.transcript = []
+
+    def at_the_menu(self):
+        """Hears which activity of the menu has the focus."""
+        self.at = self.desk.hear("PIZARRIN.*", r"(.*?) (?:push )?button.*")[-1].group(1)
+
+    def open(self, activity, names):
+        """Goes through the menu with Tab until an activity has the focus, and opens it."""
+        while self.at != activity:
+            self.desk.press("Tab")
+            self.at = self.desk.hear(r"(.*?) (?:push )?button.*")[0].group(1)
+        self.names = [activity, "PIZARRIN", *names]
+        self.desk.press("space")
+
+    def exercise(self, words):
+        """Hears the exercise, and hears it again at F2 with nothing in between."""
+        self.heard_exercise = self.desk.hear(words)[0]
+        self._note("")
+        self._again([words])
+        return self.heard_exercise
+
+    def goes_on(self, key, words, before=(), also=()):
+        """Presses a key that leads to another exercise."""
+        self.desk.press(key)
+        matches = self.desk.hear(*before, words)
+        self.heard_exercise = matches[-1]
+        self._note(key)
+        self._again([*before, words], also)
+        return self.heard_exercise
+
+    def does(self, *keys, says, also=()):
+        """Presses keys and hears what they bring about, and nothing else."""
+        self.desk.press(*keys)
+        matches = self.desk.hear(*says)
+        self._note(" ".join(keys))
+        self._again([*says], also)
+        return matches
+
+    def reads_the_tree(self):
+        """Every control that shows has its role, name and states, and Tab reads the screen."""
+        tree = subprocess.run([sys.executable, Path(__file__).with_name("tree.py"), "--order"],
+                              env=self.desk.environment, capture_output=True, text=True)
+        if tree.returncode != 0:
+            raise AssertionError(tree.stdout + tree.stderr)
+
+    def close(self):
+        self.desk.press("alt+F4")
+        self.at_the_menu()
+
+    def _note(self, keys):
+        self.transcript.append((keys, list(self.desk.passed)))
+
+    def _again(self, expected, also=()):
+        """F2 says the exercise again; what was said before it was all expected, but for a
+        character that the reader spells out."""
+        said = list(self.desk.passed)
+        self.desk.press("F2")
+        self.desk.hear(re.escape(self.heard_exercise.group()))
+        said += self.desk.passed[:-1]
+        for words in expected:
+            said.remove(next(one for one in said if re.fullmatch(words, one)))
+        own = [*self.names, *also]
+        chatter = [one for one in said if len(one) > 1 and not any(one.lower().startswith(name.lower())
+                                                  for name in own)]
+        if chatter:
+            raise Silence(f"heard {chatter} besides {expected}")
+
+
+def main():
+    program, wanted = sys.argv[1], sys.argv[2:]
+    with Desk() as desk:
+        pupil = Pupil(desk)
+        desk.start(program)
+        pupil.at_the_menu()
+        for activity in activities.ALL:
+            if wanted and activity.__name__ not in wanted:
+                continue
+            pupil.transcript.clear()
+            try:
+                activity(pupil)
+                pupil.reads_the_tree()
+                pupil.close()
+            finally:
+                print(f"== {activity.__name__}")
+                for keys, said in pupil.transcript:
+                    print(f"  {keys or 'opening'}: {' | '.join(said)}", flush=True)
+
+
+if __name__ == "__main__":
+    main()
