@@ -33,9 +33,11 @@ void Stage::zoom(ui::Screen& screen) const
 {
     if (!m_factor)
         return;
-    const double enlarge = *m_factor / screen.factor();
-    const QSizeF size = QSizeF(screen.size()) * enlarge;
-    screen.resize(qCeil(size.width()), qCeil(size.height()));
+    // The second time from a size that is a pixel off at most, not a pixel enlarged.
+    for (int i = 0; i < 2; ++i) {
+        const QSizeF size = QSizeF(screen.size()) * (*m_factor / screen.factor());
+        screen.resize(qCeil(size.width()), qCeil(size.height()));
+    }
     if (std::abs(screen.factor() - *m_factor) > 1e-6)
         qFatal("%s is at factor %f", qPrintable(screen.objectName()), screen.factor());
 }
