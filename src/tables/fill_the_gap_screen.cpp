@@ -54,16 +54,22 @@ void FrmMultHuecos::makeRow()
     TbTermin[1] = entryBox(u"TbTermin(1)"_s, Gap, RowFont, u"Segundo factor, el que falta"_s);
     TbSignos[1] = onBoard(u"TbSignos(1)"_s, {2925, Top, 465, BoxHeight}, u"Igual a"_s);
     TbTermin[2] = onBoard(u"TbTermin(2)"_s, {3360, Top, 915, BoxHeight}, u"Producto"_s);
-    for (ui::TextBox* box : TbTermin) {
-        box->setAlignment(Qt::AlignCenter);
+    alignRow();
+    for (ui::TextBox* box : TbTermin)
         enterChecks(box);
-    }
-    // Next to their signs, whether they have one digit or more.
-    TbTermin[0]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    TbTermin[2]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     using Kind = ui::MarkerStripe::Kind;
     new ui::MarkerStripe({TbTermin[0], TbSignos[0]}, Kind::Chalk);
     new ui::MarkerStripe({TbSignos[1], TbTermin[2]}, Kind::Chalk);
+}
+
+/// The outer numbers stand next to their signs, whether they have one digit or more.
+void FrmMultHuecos::alignRow()
+{
+    TbTermin[0]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    TbTermin[1]->setAlignment(Qt::AlignCenter);
+    TbTermin[2]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (ui::TextBox* sign : TbSignos)
+        sign->setAlignment(Qt::AlignCenter);
 }
 
 ui::TextBox* FrmMultHuecos::onBoard(
@@ -71,7 +77,6 @@ ui::TextBox* FrmMultHuecos::onBoard(
 {
     ui::TextBox* box = displayBox(name, place, RowFont, accessibleName);
     box->setPalette(chalk());
-    box->setAlignment(Qt::AlignCenter);
     return box;
 }
 

@@ -32,6 +32,7 @@ Form2::Form2(ui::Screens& screens)
     makeMenu();
     makeTables();
     makeQuestion();
+    makeVerdict();
     constexpr double Top = 2760;
     constexpr double ButtonHeight = 480;
     makeCommands({.check = {597, Top, 990, ButtonHeight},
@@ -109,13 +110,15 @@ void Form2::makeQuestion()
     enterChecks(TbOperacion[4]);
     onKeyDown(TbOperacion[4],
         [this](int keyCode, Qt::KeyboardModifiers) { return TbOperacion_KeyDown(keyCode); });
+    new ui::MarkerStripe({TbOperacion[0], TbOperacion[1], TbOperacion[2], TbOperacion[3]},
+        ui::MarkerStripe::Kind::Marker);
+}
 
+void Form2::makeVerdict()
+{
     Text1 = verdictBox(u"Text1"_s, {1150, 1500, 4650, 500}, u"Comprobación"_s);
     Text1->setJudged({TbOperacion[4]});
-    using Kind = ui::MarkerStripe::Kind;
-    new ui::MarkerStripe(
-        {TbOperacion[0], TbOperacion[1], TbOperacion[2], TbOperacion[3]}, Kind::Marker);
-    new ui::MarkerStripe({Text1}, Kind::Marker);
+    new ui::MarkerStripe({Text1}, ui::MarkerStripe::Kind::Marker);
 }
 
 } // namespace tables

@@ -29,6 +29,7 @@ private:
     void makeMenu();
     void makeTables();
     void makeQuestion();
+    void makeVerdict();
     void makeWayOn();
 
     void Command3_Click(int Index);

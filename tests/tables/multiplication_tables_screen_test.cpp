@@ -81,6 +81,8 @@ private slots:
         QCOMPARE(formats.first().start, 0);
         QCOMPARE(formats.first().length, 7);
         QCOMPARE(formats.first().format.foreground().color(), QColor(ui::look::Quiet));
+        QVERIFY(ui::look::contrast(QColor(ui::look::Quiet), QColor(ui::look::Grid))
+            >= ui::look::ReadableContrast);
     }
 
     void everyOtherRowIsTintedAcrossBothHalves()
