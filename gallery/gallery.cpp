@@ -44,7 +44,15 @@ void Stage::photographScreen(ui::Screen& other)
 {
     zoom(other);
     QTest::qWait(20);
-    picture = other.grab();
+    keep(other.grab());
+}
+
+void Stage::keep(const QPixmap& over)
+{
+    if (!m_factor)
+        picture = onDisplay(*m_screen, over);
+    else
+        picture = over.isNull() ? m_screen->grab() : over;
 }
 
 void Stage::click(const QString& button) const
@@ -98,7 +106,7 @@ void Stage::photographBox(
         camera.stop();
         if (auto* edit = box->findChild<QLineEdit*>())
             QTest::keyClicks(edit, typed);
-        picture = box->grab();
+        keep(box->grab()); // the answer may close the screen
         for (QPushButton* button : box->findChildren<QPushButton*>()) {
             if (button->text() == answer)
                 button->click();
@@ -134,12 +142,9 @@ void Gallery::save(
     if (state)
         state(stage);
     QTest::qWait(20); // fonts and animations come to rest
-    const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
-    const QString path = u"%1/%2.png"_s.arg(m_folder, file);
-    if (factor)
-        picture.save(path);
-    else
-        onDisplay(stage.screen(), stage.picture).save(path);
+    if (stage.picture.isNull())
+        stage.keep();
+    stage.picture.save(u"%1/%2.png"_s.arg(m_folder, file));
 }
 
 } // namespace gallery

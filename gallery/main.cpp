@@ -4,10 +4,27 @@
 #include "pictures.h"
 
 #include "ui/application.h"
+#include "ui/style.h"
 
 #include <QApplication>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Everything at its place at once: the same pictures in every run.
+class StillStyle final : public ui::Style {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+        QStyleHintReturn* returnData) const override
+    {
+        return hint == SH_Widget_Animation_Duration
+            ? 0
+            : ui::Style::styleHint(hint, option, widget, returnData);
+    }
+};
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -15,6 +32,7 @@ int main(int argc, char* argv[])
     ui::prepareApplication();
     QApplication application(argc, argv);
     ui::dress();
+    QApplication::setStyle(new StillStyle);
 
     const QStringList arguments = QApplication::arguments();
     gallery::Gallery gallery(arguments.value(1, u"pictures"_s),

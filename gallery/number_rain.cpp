@@ -46,7 +46,6 @@ public:
             tick();
         }
         m_boxes.stop();
-        QTest::qWait(200); // until all stand still
     }
 
     /// Hits right numbers only; closes the boxes.

@@ -17,6 +17,9 @@ struct Car {
 inline constexpr int Cars = 10;
 inline constexpr int RaceTypes = 4;
 
+/// What the operations of a race are, in the order of the list in the options.
+enum class RaceType { Products, Quotients, ProductsPlusMinus, QuotientsPlusMinus };
+
 /// The cars; a car's position is its identity throughout.
 const std::array<Car, Cars>& carCatalogue();
 
@@ -34,7 +37,7 @@ QString pictureName(const PictureNames& names, core::Int16 position);
 struct RaceOptions {
     core::Int16 Personaje; ///< the pupil's car
     core::Int16 Rival; ///< the rival's car
-    core::Int16 Tipo; ///< the race type
+    core::Int16 Tipo; ///< the race type: the position of a RaceType
 };
 
 } // namespace games

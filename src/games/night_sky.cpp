@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QPaintEvent>
 
 #include <cmath>
 #include <random>
@@ -13,6 +12,10 @@ namespace {
 
 constexpr int PixelsPerStar = 3600; // at factor 1
 constexpr unsigned StarSeed = 7; // the same sky every night
+constexpr QRgb Top = 0xFF1B2440;
+constexpr QRgb Bottom = 0xFF31406B;
+constexpr QRgb CloudTop = 0xFF333F69;
+constexpr QRgb CloudBottom = 0xFF566496; // as light as texts on it allow
 
 /// 0 to just under 1; the generator's raw numbers are the same on every system.
 double fraction(std::minstd_rand& engine)
@@ -53,59 +56,77 @@ void drawMoon(QPainter& painter, QPointF centre, double radius)
     painter.drawPath(disc.subtracted(shadow));
 }
 
-void drawHills(QPainter& painter, QSizeF size, double height, double phase, QRgb colour)
+/// A bank of cloud with puffs along its lower edge; depth: how far down it reaches.
+void drawCloud(QPainter& painter, double left, double right, double depth)
 {
-    QPainterPath path(QPointF(0, size.height()));
+    QLinearGradient fill(0, 0, 0, depth);
+    fill.setColorAt(0, QColor(CloudTop));
+    fill.setColorAt(1, QColor(CloudBottom));
+    QPainterPath cloud;
+    cloud.setFillRule(Qt::WindingFill);
+    const double radius = depth * 0.32;
+    cloud.addRoundedRect(
+        QRectF(left, -radius, right - left, depth), radius, radius); // its top is out of sight
+    int puff = 0;
+    for (double across = left + radius; across < right - radius / 2; across += 1.25 * radius) {
+        const double size = radius * (puff++ % 3 == 1 ? 1.15 : 0.85);
+        cloud.addEllipse(QPointF(across, depth - radius), size, size);
+    }
+    painter.setBrush(fill);
+    painter.drawPath(cloud);
+}
+
+/// Waves along the lower edge of an area, and all that lies below it.
+void drawHills(QPainter& painter, const QRectF& area, double height, double phase, QRgb colour)
+{
     constexpr int Steps = 60;
+    constexpr double Below = 4000; // pixels, more than any window has
+    QPainterPath path(area.bottomLeft() + QPointF(0, Below));
     for (int step = 0; step <= Steps; ++step) {
         const double across = static_cast<double>(step) / Steps;
         const double wave = 0.62 + 0.26 * std::sin(phase + 7.1 * across)
             + 0.12 * std::sin(2.3 * phase + 17.0 * across);
-        path.lineTo(across * size.width(), size.height() - height * wave);
+        path.lineTo(area.left() + across * area.width(), area.bottom() - height * wave);
     }
-    path.lineTo(size.width(), size.height());
+    path.lineTo(area.bottomRight() + QPointF(0, Below));
     painter.setBrush(QColor(colour));
     painter.drawPath(path);
-}
-
-void drawNight(QPainter& painter, QSizeF size, double factor)
-{
-    QLinearGradient sky(0, 0, 0, size.height());
-    sky.setColorAt(0, QColor(NightSky::Top));
-    sky.setColorAt(1, QColor(NightSky::Bottom));
-    painter.fillRect(QRectF(QPointF(0, 0), size), sky);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const double radius = 30 * factor;
-    const QPointF moon(size.width() - 82 * factor, 124 * factor);
-    drawStars(
-        painter, size, factor, {moon - QPointF(radius, radius), moon + QPointF(radius, radius)});
-    drawMoon(painter, moon, radius);
-    drawHills(painter, size, 92 * factor, 0.4, 0xFF2A3760);
-    drawHills(painter, size, 56 * factor, 2.6, 0xFF222D50);
 }
 
 } // namespace
 
 NightSky::NightSky(QWidget* parent)
-    : QWidget(parent)
+    : Backdrop(parent)
 {
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void NightSky::paintEvent(QPaintEvent* event)
+void NightSky::cover(const QRect& canvas, double cloud)
 {
-    const QSize pixels = size() * devicePixelRatioF();
-    if (m_picture.size() != pixels) {
-        m_picture = QPixmap(pixels);
-        m_picture.setDevicePixelRatio(devicePixelRatioF());
-        QPainter painter(&m_picture);
-        drawNight(painter, size(), factor());
-    }
-    const QRectF area = event->rect();
-    const double ratio = devicePixelRatioF();
-    QPainter(this).drawPixmap(
-        area, m_picture, QRectF(area.topLeft() * ratio, area.size() * ratio));
+    m_canvas = canvas;
+    m_cloud = cloud;
+    setGeometry(parentWidget()->rect());
+    redraw();
+}
+
+void NightSky::draw(QPainter& painter)
+{
+    QLinearGradient sky(0, 0, 0, m_canvas.bottom());
+    sky.setColorAt(0, QColor(Top));
+    sky.setColorAt(1, QColor(Bottom));
+    painter.fillRect(rect(), sky);
+    const double radius = 30 * factor();
+    const QPointF moon = m_canvas.topRight() + QPointF(-100, 150) * factor();
+    drawStars(painter, size(), factor(),
+        {moon - QPointF(radius, radius), moon + QPointF(radius, radius)});
+    drawMoon(painter, moon, radius);
+    painter.save();
+    painter.translate(m_canvas.topLeft());
+    drawCloud(painter, 8 * factor(), m_cloud, 84 * factor());
+    painter.restore();
+    const QRectF ground(0, 0, width(), m_canvas.bottom() + 1);
+    drawHills(painter, ground, 92 * factor(), 0.4, 0xFF2A3760);
+    drawHills(painter, ground, 56 * factor(), 2.6, 0xFF222D50);
 }
 
 } // namespace games

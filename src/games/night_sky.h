@@ -1,26 +1,25 @@
 #pragma once
 
-#include "ui/scaling.h"
-
-#include <QPixmap>
-#include <QWidget>
+#include "games/backdrop.h"
 
 namespace games {
 
-/// The night in which numbers fall: stars, a moon and hills, in colours on which every drop
-/// and every text of the scoreboard can be read.
-class NightSky : public QWidget, public ui::Scalable {
+/// The night over the whole window: stars and a moon, the cloud from which numbers fall, hills
+/// on which they splash. Darker than any text on it, so that all can be read.
+class NightSky : public Backdrop {
 public:
     explicit NightSky(QWidget* parent);
 
-    static constexpr QRgb Top = 0xFF1B2440;
-    static constexpr QRgb Bottom = 0xFF31406B;
+    /// Covers the window. canvas: its place there, in pixels; cloud: from its left edge, the end
+    /// of the cloud, in pixels.
+    void cover(const QRect& canvas, double cloud);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void draw(QPainter& painter) override;
 
 private:
-    QPixmap m_picture; ///< drawn once a size
+    QRect m_canvas;
+    double m_cloud = 0;
 };
 
 } // namespace games

@@ -1,6 +1,5 @@
 #include "games/number_rain.h"
 
-#include <algorithm>
 #include <utility>
 
 using core::Int16;
@@ -10,15 +9,20 @@ namespace games {
 
 namespace {
 
-constexpr int HitsToPass = 15;
+constexpr int HitPoints = 10; // for each step of the number's speed class
 
+/// What a difficulty decides. A penalty counts for each step of the number's speed class.
 struct Setting {
-    int interval; // ms
-    int penaEscape;
-    int penaError;
+    int interval; ///< milliseconds from tick to tick
+    int penaEscape; ///< points for a right number that escapes
+    int penaError; ///< points for a wrong number that is clicked
 };
 
-constexpr std::array Settings{Setting{800, 5, 1}, Setting{500, 5, 10}, Setting{300, 40, 10}};
+constexpr std::array Settings{
+    Setting{800, 5, 1}, // Facil
+    Setting{500, 5, 10}, // Normal
+    Setting{300, 40, 10}, // Dificil
+};
 
 const Setting& settingOf(Difficulty difficulty)
 {
@@ -28,10 +32,8 @@ const Setting& settingOf(Difficulty difficulty)
 } // namespace
 
 NumberRain::NumberRain(core::RandomSource& random, int height)
-    : m_random(random)
-    , m_height(height)
+    : m_fall(random, height)
 {
-    m_state.Libre.fill(true);
     chooseDifficulty(Difficulty::Facil);
 }
 
@@ -71,50 +73,99 @@ void NumberRain::enableClock()
         m_running = true;
 }
 
+RainStep NumberRain::tick()
+{
+    if (blocked())
+        return {};
+    m_fall.countTick();
+    runTick(0);
+    return take();
+}
+
+void NumberRain::runTick(int first)
+{
+    if (MueveNumeros(first))
+        launchWhenDue();
+}
+
+// False when a box has interrupted the round; answer() takes it up again.
+bool NumberRain::MueveNumeros(int first)
+{
+    for (int slot = first; slot < RainFall::Slots; ++slot) {
+        if (m_fall.Libre()[slot] || !m_fall.move(slot))
+            continue;
+        CompruebaPuntos(slot, false);
+        if (m_box) {
+            m_escaping = slot;
+            return false;
+        }
+        m_fall.release(slot);
+    }
+    return true;
+}
+
+void NumberRain::launchWhenDue()
+{
+    m_step.launched = m_fall.launchWhenDue(m_phase);
+    if (m_step.launched)
+        ++m_state.Lanzados;
+}
+
 RainStep NumberRain::click(int slot)
 {
-    if (blocked() || slot < 0 || slot >= RainState::Slots || m_state.Libre[slot])
+    if (blocked() || slot < 0 || slot >= RainFall::Slots || m_fall.Libre()[slot])
         return {};
-    const Gota& gota = m_state.Gotas[slot];
-    if (!EsObjetivo(gota.Valor))
-        m_state.Puntos -= m_state.PenaError * gota.Velocidad;
-    else if (hit(gota))
+    if (!m_phase.EsObjetivo(m_fall.Gotas()[slot].Valor))
+        miss(slot);
+    else if (hit(slot))
         return take();
     if (m_state.Puntos > 0) {
         showPoints();
-        m_step.focus = RainFocus::PbFoco;
-        release(slot);
+        m_step.cleared = true;
+        m_fall.release(slot);
     } else {
         CompruebaPuntos(slot, true);
     }
     return take();
 }
 
-bool NumberRain::hit(const Gota& gota)
+bool NumberRain::hit(int slot)
 {
     // Every sum before the first change: one that overflows leaves the game as it was.
-    const Int16 points = m_state.Puntos + 10 * gota.Velocidad;
+    const Int16 won = HitPoints * m_fall.Gotas()[slot].Velocidad;
+    const Int16 points = m_state.Puntos + won;
     const Int16 hits = m_state.Aciertos + 1;
     const bool passed = hits >= HitsToPass;
     const Int16 total = passed ? m_state.PuntosTotales + points : m_state.PuntosTotales;
     m_state.Puntos = points;
     m_state.Aciertos = hits;
+    report(RainEvent::Kind::Hit, slot, won);
     if (passed)
         FaseSuperada(total);
     return passed;
 }
 
-bool NumberRain::EsObjetivo(Int16 number) const
+void NumberRain::miss(int slot)
 {
-    return std::ranges::find(m_state.Objetivos, number) != m_state.Objetivos.end();
+    const Int16 lost = m_state.PenaError * m_fall.Gotas()[slot].Velocidad;
+    m_state.Puntos -= lost;
+    report(RainEvent::Kind::Miss, slot, -lost);
+}
+
+void NumberRain::report(RainEvent::Kind kind, int slot, Int16 points)
+{
+    m_step.events.push_back({kind, slot, m_fall.Gotas()[slot], points});
 }
 
 void NumberRain::CompruebaPuntos(int slot, bool porError)
 {
-    const Gota& gota = m_state.Gotas[slot];
-    if (!porError && EsObjetivo(gota.Valor)) {
-        m_state.Puntos -= m_state.PenaEscape * gota.Velocidad;
-        ++m_step.beeps;
+    const Gota& gota = m_fall.Gotas()[slot];
+    if (!porError) {
+        const bool target = m_phase.EsObjetivo(gota.Valor);
+        const Int16 lost = target ? m_state.PenaEscape * gota.Velocidad : Int16(0);
+        m_state.Puntos -= lost;
+        m_step.beeps += target ? 1 : 0;
+        report(RainEvent::Kind::Escape, slot, -lost);
     }
     if (m_state.Puntos >= 0)
         showPoints();
@@ -147,7 +198,7 @@ void NumberRain::FaseSuperada(Int16 total)
     m_running = false;
     ask(RainBox::Kind::PhasePassed, u"FASE SUPERADA"_s,
         u"Ha superado la fase %1.\nEn esta fase ha conseguido %2 puntos y en total lleva %3 "
-        "puntos acumulados."_s.arg(m_state.Fase.value())
+        "puntos acumulados."_s.arg(m_phase.Fase().value())
             .arg(m_state.Puntos.value())
             .arg(m_state.PuntosTotales.value()));
 }
@@ -181,15 +232,61 @@ RainStep NumberRain::answer(bool yes)
         break;
     }
     if (escaping) {
-        release(*escaping);
+        m_fall.release(*escaping);
         runTick(*escaping + 1);
     }
     return take();
 }
 
-void NumberRain::release(int slot)
+void NumberRain::PreparaFase(Int16 fase)
 {
-    m_state.Libre[slot] = true;
+    m_phase = RainPhase(fase);
+    m_step.phasePrepared = true;
+}
+
+void NumberRain::newGame()
+{
+    PreparaFase(1);
+    m_state.Puntos = RainState::FullPoints;
+    m_state.PuntosTotales = 0;
+    m_state.Vidas = RainState::FullLives;
+    m_state.Lanzados = 0;
+    showFullPoints();
+    showLives();
+    m_fall.resetFirstSlots();
+    wait();
+}
+
+void NumberRain::repeatPhase()
+{
+    m_state.Puntos = RainState::FullPoints;
+    m_fall.resetFirstSlots();
+    m_state.Lanzados = 0;
+    wait();
+    showPoints();
+}
+
+void NumberRain::nextPhase()
+{
+    PreparaFase(m_phase.Fase() + 1);
+    m_state.Puntos = RainState::FullPoints;
+    m_fall.resetFirstSlots();
+    m_state.Lanzados = 0;
+    showFullPoints();
+    m_livesText = u"Vidas: %1"_s.arg(m_state.Vidas.value()); // no blank before this colon: meant
+    wait();
+}
+
+void NumberRain::wait()
+{
+    m_running = false;
+    m_waiting = true;
+    m_step.waits = true;
+}
+
+void NumberRain::showFullPoints()
+{
+    m_pointsText = u"%1 puntos"_s.arg(RainState::FullPoints);
 }
 
 void NumberRain::showPoints()

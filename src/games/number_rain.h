@@ -1,51 +1,27 @@
 #pragma once
 
-#include "core/int16.h"
+#include "games/rain_fall.h"
+#include "games/rain_phase.h"
 
 #include <QString>
 
-#include <array>
 #include <optional>
 #include <vector>
 
-namespace core {
-class RandomSource;
-}
-
 namespace games {
 
-/// One falling number. A column and a row are both 500 twips.
-struct Gota {
-    core::Int16 Velocidad; ///< speed class 1 to 5, the fastest; also colour and multiplier
-    core::Int16 Espera; ///< ticks left before the next step down
-    core::Int16 Direccion; ///< sideways drift: -1 left, +1 right, 0 none
-    core::Int16 Deriva; ///< sideways steps left in the current drift
-    core::Int16 Columna;
-    core::Int16 Fila; ///< rows fallen
-    core::Int16 Valor; ///< the number shown
-
-    int left() const { return 500 * Columna.value(); } ///< in twips
-    int top() const { return 780 + 500 * Fila.value(); } ///< in twips
-};
-
-/// Everything that a game of number rain remembers.
+/// The score of a game of number rain.
 struct RainState {
-    static constexpr int Slots = 20;
     static constexpr int FullPoints = 100;
     static constexpr int FullLives = 3;
 
-    core::Int16 Fase = 1;
     core::Int16 Puntos = FullPoints; ///< of the current phase
     core::Int16 PuntosTotales; ///< kept from the phases passed in this game
     core::Int16 Vidas = FullLives;
-    core::Int16 Lanzados; ///< numbers launched in the current phase
-    core::Int16 Aciertos; ///< right clicks since the screen was made, whatever the game
+    core::Int16 Lanzados; ///< numbers launched in the current phase; read by nothing: meant
+    core::Int16 Aciertos; ///< right clicks since the screen was made, whatever the game: meant
     core::Int16 PenaEscape;
     core::Int16 PenaError;
-    std::array<bool, Slots> Libre; ///< the slot holds no number
-    std::array<Gota, Slots> Gotas; ///< meaningful where the slot is not free
-    std::vector<core::Int16> Objetivos; ///< to be eliminated in this phase
-    std::vector<core::Int16> Otros; ///< to be left alone in this phase
 };
 
 enum class Difficulty { Facil, Normal, Dificil };
@@ -58,15 +34,27 @@ struct RainBox {
     QString text;
 };
 
-/// Who takes the keyboard focus: the start button, nobody in particular, a launched number.
-enum class RainFocus { CbEmpezar, PbFoco, CbNave };
+/// What happened to a number.
+struct RainEvent {
+    enum class Kind {
+        Hit, ///< a right one was clicked
+        Miss, ///< a wrong one was clicked
+        Escape ///< it fell out of sight
+    };
+    Kind kind;
+    int slot;
+    Gota gota; ///< where and what it was
+    core::Int16 points; ///< that it brought; below 0 when it cost some
+};
 
 /// What a call asks of the screen besides showing the state: first the texts and the focus,
 /// then the beeps, then the box.
 struct RainStep {
     bool phasePrepared = false; ///< the instruction was written anew: select it whole
-    std::optional<int> launched; ///< the slot whose number is new
-    std::optional<RainFocus> focus;
+    bool cleared = false; ///< a clicked number is gone
+    bool waits = false; ///< the start button has come up
+    std::optional<int> launched; ///< the slot whose number is new, launched after all the rest
+    std::vector<RainEvent> events; ///< in the order in which they happened
     int beeps = 0;
     std::optional<RainBox> box;
 };
@@ -79,13 +67,17 @@ struct RainStep {
 /// box. Until then every other call does nothing.
 class NumberRain {
 public:
+    static constexpr int HitsToPass = 15;
+
     /// Ready to start phase 1 on Easy; draws nothing. random must outlive the model. A number
     /// whose top edge is below height (twips) has escaped.
     NumberRain(core::RandomSource& random, int height);
 
     const RainState& state() const { return m_state; }
-    QString caption() const { return m_caption; }
-    QString instruction() const { return m_instruction; }
+    const RainFall& fall() const { return m_fall; }
+    const RainPhase& phase() const { return m_phase; }
+    QString caption() const { return m_phase.caption(); }
+    QString instruction() const { return m_phase.instruction(); }
     QString pointsText() const { return m_pointsText; }
     QString livesText() const { return m_livesText; }
     bool running() const { return m_running; } ///< the clock is to tick
@@ -119,17 +111,15 @@ private:
     RainStep take();
 
     void PreparaFase(core::Int16 fase);
-    bool EsObjetivo(core::Int16 number) const;
     void CompruebaPuntos(int slot, bool porError);
     void FaseSuperada(core::Int16 total);
     bool MueveNumeros(int first);
     void runTick(int first);
 
-    bool hit(const Gota& gota); ///< true when it passes the phase
-    bool fallsOut(int slot);
-    void drift(Gota& gota);
+    bool hit(int slot); ///< true when it passes the phase
+    void miss(int slot);
+    void report(RainEvent::Kind kind, int slot, core::Int16 points);
     void launchWhenDue();
-    void launch(int slot);
 
     void ask(RainBox::Kind kind, const QString& title, const QString& text);
     void loseLife(bool porError);
@@ -137,19 +127,14 @@ private:
     void repeatPhase();
     void nextPhase();
     void wait();
-    void release(int slot);
-    void resetFirstSlots();
     void showPoints();
     void showFullPoints();
     void showLives();
 
-    core::RandomSource& m_random;
-    int m_height;
     RainState m_state;
-    int m_ticks = 0; ///< since the last launch was due
+    RainFall m_fall;
+    RainPhase m_phase{1};
     Difficulty m_difficulty = Difficulty::Facil;
-    QString m_caption;
-    QString m_instruction;
     QString m_pointsText;
     QString m_livesText;
     bool m_running = false;

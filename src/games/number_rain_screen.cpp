@@ -2,22 +2,17 @@
 
 #include "core/clock.h"
 #include "games/night_sky.h"
-#include "games/rain_drop.h"
-#include "ui/announcement.h"
-#include "ui/glide.h"
+#include "games/rain_field.h"
+#include "games/token_row.h"
 #include "ui/screens.h"
 
 #include <QApplication>
 
 using namespace Qt::StringLiterals;
-using ui::look::Family;
 
 namespace games {
 
 namespace {
-
-constexpr std::array<QRgb, 5> Colores{
-    0xFFFF0000, 0xFFFFFF00, 0xFFFFA500, 0xFF00FF00, 0xFF0000FF}; // classes 1 to 5
 
 /// A key pressed so soon after a launch has taken the focus was meant for the number before.
 constexpr std::chrono::milliseconds TimeToNotice{250};
@@ -31,7 +26,7 @@ QString Form5::screenName()
 
 void Form5::Form_Load()
 {
-    for (int slot = 1; slot < RainState::Slots; ++slot)
+    for (int slot = 1; slot < RainFall::Slots; ++slot)
         makeNumber(slot);
     CbEmpezar->raise(); // above numbers that wait with it
     MnuOpcMod_Click(0);
@@ -41,8 +36,9 @@ void Form5::Form_Load()
 void Form5::resizeEvent(QResizeEvent* event)
 {
     Screen::resizeEvent(event);
+    constexpr double CloudEnd = RainFall::Pitch * (RainFall::Columns + 1) + RainDrop::Width;
     m_sky->setFactor(factor());
-    m_sky->setGeometry(rect());
+    m_sky->cover(canvas()->geometry(), CloudEnd * factor() / ui::TwipsPerPixel);
 }
 
 void Form5::MnuOpcMod_Click(int Index)
@@ -55,7 +51,7 @@ void Form5::MnuOpcMod_Click(int Index)
 
 void Form5::CbEmpezar_Click()
 {
-    Text1->setSelection(0, 1);
+    Text1->setSelection(0, 1); // not even the first letter goes: meant
     play(m_model.start());
     Timer1->start();
 }
@@ -101,66 +97,88 @@ void Form5::show(const RainStep& step)
     if (!m_model.running())
         Timer1->stop();
     setWindowTitle(m_model.caption());
-    Text2[0]->setText(m_model.pointsText());
-    Text2[1]->setText(m_model.livesText());
+    showScore();
     if (step.phasePrepared) {
         Text1->setText(m_model.instruction());
         Text1->showSelected();
-        ui::announce(*Text1, m_model.instruction());
+        sayExercise();
     }
-    for (int slot = 0; slot < RainState::Slots; ++slot)
+    for (const RainEvent& event : step.events) {
+        m_field->splash(event);
+        tell(event);
+    }
+    tellLives();
+    for (int slot = 0; slot < RainFall::Slots; ++slot)
         showNumber(slot, step.launched == slot);
     if (!m_model.waiting())
         leaveWithFocus(CbEmpezar);
     CbEmpezar->setEnabled(m_model.waiting());
     CbEmpezar->setVisible(m_model.waiting());
-    if (step.focus)
-        giveFocus(*step.focus, step.launched);
+    giveFocus(step);
     for (int beeps = step.beeps; beeps > 0; --beeps)
         beep();
 }
 
-void Form5::showNumber(int slot, bool launched)
+void Form5::showScore()
 {
-    const auto index = static_cast<std::size_t>(slot);
-    RainDrop* drop = CbNave[index];
-    if (m_model.state().Libre[index]) {
-        leaveWithFocus(drop);
-        drop->hide();
-        drop->setEnabled(false);
-        return;
-    }
-    const Gota& gota = m_model.state().Gotas[index];
-    const QPointF place(gota.left(), gota.top());
-    if (!launched) {
-        const ui::TwipRect from = placeOf(drop);
-        m_glide->send(drop, {from.left, from.top}, place);
-        return;
-    }
-    drop->setText(QString::number(gota.Valor.value()));
-    drop->setFill(Colores[static_cast<std::size_t>(gota.Velocidad.value() - 1)]);
-    setControlFont(drop, {Family::CourierNew, RainDrop::digitPixels(drop->text()), true});
-    m_glide->put(drop, place);
-    drop->setEnabled(true);
-    drop->show();
+    Text2[0]->setText(m_model.pointsText());
+    Text2[1]->setText(m_model.livesText());
+    m_stars->setLit(m_model.state().Aciertos.value());
+    m_hearts->setLit(m_model.state().Vidas.value());
 }
 
-void Form5::giveFocus(RainFocus focus, std::optional<int> launched)
+void Form5::showNumber(int slot, bool launched)
 {
-    switch (focus) {
-    case RainFocus::CbEmpezar:
-        CbEmpezar->setFocus();
-        break;
-    case RainFocus::PbFoco:
-        PbFoco->setFocus();
-        break;
-    case RainFocus::CbNave:
-        m_focusTaken.reset();
-        if (dynamic_cast<RainDrop*>(focusWidget()) != nullptr)
-            m_focusTaken = clock().elapsed();
-        CbNave[static_cast<std::size_t>(launched.value())]->setFocus();
-        break;
+    const Gota& gota = m_model.fall().Gotas().at(static_cast<std::size_t>(slot));
+    if (m_model.fall().Libre().at(static_cast<std::size_t>(slot))) {
+        leaveWithFocus(m_field->drop(slot));
+        m_field->clear(slot);
+    } else if (launched) {
+        m_field->launch(slot, gota);
+    } else {
+        m_field->flow(slot, gota, std::chrono::milliseconds(m_model.interval()));
     }
+}
+
+void Form5::giveFocus(const RainStep& step)
+{
+    if (step.cleared)
+        PbFoco->setFocus();
+    if (step.waits)
+        CbEmpezar->setFocus();
+    if (step.launched)
+        focusNew(*step.launched);
+}
+
+void Form5::focusNew(int slot)
+{
+    m_focusTaken.reset();
+    if (dynamic_cast<RainDrop*>(focusWidget()) != nullptr)
+        m_focusTaken = clock().elapsed();
+    m_field->drop(slot)->setFocus();
+}
+
+/// A new number is read aloud by its focus; this says what became of one.
+void Form5::tell(const RainEvent& event)
+{
+    switch (event.kind) {
+    case RainEvent::Kind::Hit:
+        say(u"Acierto %1"_s.arg(m_model.state().Aciertos.value()));
+        break;
+    case RainEvent::Kind::Miss:
+        say(u"Error"_s);
+        break;
+    case RainEvent::Kind::Escape:
+        break; // the beep tells
+    }
+}
+
+void Form5::tellLives()
+{
+    if (m_model.state().Vidas == m_toldLives)
+        return;
+    m_toldLives = m_model.state().Vidas;
+    say(u"Vidas: %1"_s.arg(m_toldLives.value()));
 }
 
 ui::KeyResult Form5::CbNave_KeyDown(int KeyCode) const

@@ -1,19 +1,28 @@
 #include "games/race.h"
 
+#include "core/aloud.h"
 #include "core/random.h"
 
 using namespace Qt::StringLiterals;
+using shell::Verdict;
 
 namespace games {
 
 namespace {
 
+// Factors are 2 to 10: with 1 there is nothing to calculate.
 constexpr int FirstFactor = 2;
 constexpr int Factors = 9;
+constexpr int SmallValue = 10; // below it, a term of 2 to 10 could make the result negative
+
+// Milliseconds from step to step of the rival: 60 of the quickest car's take 27 seconds, and
+// every later car in the catalogue is a little slower.
+constexpr int QuickestRival = 450;
+constexpr int SlowerByCar = 20;
 
 double leftAfter(int steps, core::Int16 start, int stepsToWin)
 {
-    return Race::StartLine - static_cast<double>(start.value()) / stepsToWin * steps;
+    return Race::StartLeft - static_cast<double>(start.value()) / stepsToWin * steps;
 }
 
 } // namespace
@@ -30,8 +39,9 @@ void Race::reset()
     Aciertos = 0;
     Segundos = 0;
     PasosRival = 0;
+    m_answers = 0;
     CarreraTerminada = false;
-    Blanco.clear();
+    m_verdict = {};
 }
 
 void Race::PreparaCarrera(const RaceOptions& options)
@@ -39,32 +49,33 @@ void Race::PreparaCarrera(const RaceOptions& options)
     CarreraTerminada = false;
     Tipo = options.Tipo;
     Rival = options.Rival;
-    SalidaJugador = StartLine;
-    SalidaRival = StartLine;
-    NuevaOperacion();
+    SalidaJugador = StartLeft;
+    SalidaRival = StartLeft;
+    newExercise();
     m_prepared = true;
 }
 
-void Race::NuevaOperacion()
+void Race::newExercise()
 {
     Factor1 = drawFactor(Factor1);
     Factor2 = drawFactor(Factor2);
     const core::Int16 product = Factor1 * Factor2;
     const QString multiplication = u"%1 × %2"_s.arg(Factor1.value()).arg(Factor2.value());
     const QString division = u"%1 ÷ %2"_s.arg(product.value()).arg(Factor1.value());
-    switch (Tipo.value()) {
-    case 0:
+    switch (static_cast<RaceType>(Tipo.value())) {
+    case RaceType::Products:
         Resultado = product;
         m_operation = multiplication;
         break;
-    case 1:
+    case RaceType::Quotients:
         Resultado = Factor2;
         m_operation = division;
         break;
-    case 2:
+    case RaceType::ProductsPlusMinus:
         combine(product, multiplication);
         break;
-    default:
+    case RaceType::QuotientsPlusMinus:
+    default: // no type was chosen
         combine(Factor2, division);
         break;
     }
@@ -82,9 +93,8 @@ core::Int16 Race::drawFactor(core::Int16 previous)
 
 core::Int16 Race::drawTerm(core::Int16 largest)
 {
-    // A term larger than a small value could make the result negative.
-    return largest >= 10 ? core::drawInteger(m_random, Factors, FirstFactor)
-                         : core::drawInteger(m_random, largest.value(), 1);
+    return largest >= SmallValue ? core::drawInteger(m_random, Factors, FirstFactor)
+                                 : core::drawInteger(m_random, largest.value(), 1);
 }
 
 void Race::combine(core::Int16 value, const QString& text)
@@ -95,36 +105,41 @@ void Race::combine(core::Int16 value, const QString& text)
     m_operation = text + (plus ? u" + "_s : u" - "_s) + QString::number(Termino.value());
 }
 
-Race::Verdict Race::answer(double value)
+Verdict Race::judge(double answer)
 {
     if (!isUnderWay())
-        return Verdict::Ignored;
-    const bool right = value == Resultado.value();
-    m_feedback = Blanco + (right ? u"Correcto "_s : u"Error"_s);
-    Blanco = Blanco.isEmpty() ? u" "_s : QString();
-    if (!right)
+        return Verdict::NotJudged;
+    ++m_answers;
+    if (answer != Resultado.value()) {
+        m_verdict.tell(Verdict::Wrong, u"Error"_s, shell::Repeat::Alternate);
         return Verdict::Wrong;
-    NuevaOperacion();
-    return countSolved();
+    }
+    m_verdict.tell(Verdict::Right, u"Correcto "_s, shell::Repeat::Alternate);
+    newExercise();
+    countSolved();
+    return Verdict::Right;
 }
 
-Race::Verdict Race::answerInRow(double value)
+Verdict Race::judgeRow(double answer)
 {
     if (!isUnderWay())
-        return Verdict::Ignored;
-    const bool right = value == Resultado.value();
-    m_feedback = right ? u"CORRECTO"_s : u"ERROR"_s;
-    return right ? countSolved() : Verdict::Wrong;
+        return Verdict::NotJudged;
+    ++m_answers;
+    if (answer != Resultado.value()) {
+        m_verdict.tell(Verdict::Wrong, u"ERROR"_s);
+        return Verdict::Wrong;
+    }
+    m_verdict.tell(Verdict::Right, u"CORRECTO"_s);
+    countSolved();
+    return Verdict::Right;
 }
 
-Race::Verdict Race::countSolved()
+void Race::countSolved()
 {
     m_clocksRun = true;
     Aciertos += 1;
-    if (Aciertos < StepsToWin)
-        return Verdict::Right;
-    finish();
-    return Verdict::Won;
+    if (Aciertos >= StepsToWin)
+        finish();
 }
 
 void Race::secondPassed()
@@ -152,7 +167,7 @@ void Race::finish()
 
 int Race::rivalInterval() const
 {
-    return (core::Int16(20) * Rival + 450).value();
+    return (core::Int16(SlowerByCar) * Rival + QuickestRival).value();
 }
 
 double Race::playerLeft() const
@@ -163,6 +178,19 @@ double Race::playerLeft() const
 double Race::rivalLeft() const
 {
     return leftAfter(PasosRival.value(), SalidaRival, RivalStepsToWin);
+}
+
+QString Race::spokenOperation() const
+{
+    return core::aloud(QString(m_operation).remove(u" ="_s));
+}
+
+QString Race::spokenStandings() const
+{
+    if (m_answers == 0 || m_answers % AnswersPerStandings != 0)
+        return {};
+    const int rival = PasosRival.value() * StepsToWin / RivalStepsToWin;
+    return u"Tú: %1 de %3. Rival: %2 de %3."_s.arg(Aciertos.value()).arg(rival).arg(StepsToWin);
 }
 
 QString Race::wonText() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "games/car_catalogue.h"
+#include "shell/verdict.h"
 
 namespace core {
 class RandomSource;
@@ -16,17 +17,12 @@ namespace games {
 /// first operation is solved.
 class Race {
 public:
-    enum class Verdict {
-        Ignored, ///< no race is under way: nothing was checked
-        Wrong, ///< the same operation stands
-        Right, ///< the next operation is up
-        Won ///< right, and the race has ended
-    };
     enum class RivalStep { Ignored, Moved, Won };
 
     static constexpr int StepsToWin = 15;
     static constexpr int RivalStepsToWin = 60;
-    static constexpr int StartLine = 9500; ///< left edge of both cars, in twips
+    /// Left edge of both cars before their first step, in twips; they finish at 0.
+    static constexpr int StartLeft = 9500;
 
     /// No race yet: nothing is drawn. random must outlive the model.
     explicit Race(core::RandomSource& random);
@@ -37,12 +33,14 @@ public:
     /// Sets a race up and brings its first operation.
     void PreparaCarrera(const RaceOptions& options);
 
-    /// Checks an answer, read as a number. The first right one starts both clocks.
-    Verdict answer(double value);
+    /// Checks an answer, read as a number. A wrong one leaves the operation; a right one brings
+    /// the next, the first one starts both clocks, and the fifteenth ends the race. Without a
+    /// race under way nothing is judged.
+    shell::Verdict judge(double answer);
 
     /// Checks an answer from the second row, which counts like any other; the operation
-    /// stands and the feedback is "CORRECTO" or "ERROR".
-    Verdict answerInRow(double value);
+    /// stands and the verdict is "CORRECTO" or "ERROR".
+    shell::Verdict judgeRow(double answer);
 
     /// A second of the race clock has passed.
     void secondPassed();
@@ -55,7 +53,14 @@ public:
 
     /// What the last answer brought: "Correcto " or "Error", at every other answer with a
     /// blank in front, so that two in a row differ.
-    QString feedback() const { return m_feedback; }
+    const shell::VerdictLine& verdict() const { return m_verdict; }
+
+    /// The operation in words: "7 por 5 más 8". Empty before the first one.
+    QString spokenOperation() const;
+
+    /// How far both cars are, in words, once every AnswersPerStandings answers; else empty.
+    QString spokenStandings() const;
+    static constexpr int AnswersPerStandings = 5;
 
     bool clocksRun() const { return m_clocksRun; }
     bool isOver() const { return CarreraTerminada; }
@@ -75,29 +80,29 @@ public:
 
 private:
     bool isUnderWay() const { return m_prepared && !CarreraTerminada; }
-    void NuevaOperacion();
+    void newExercise();
     core::Int16 drawFactor(core::Int16 previous);
     core::Int16 drawTerm(core::Int16 largest);
     void combine(core::Int16 value, const QString& text);
-    Verdict countSolved();
+    void countSolved();
     void finish();
 
     core::RandomSource& m_random;
-    core::Int16 Tipo;
-    core::Int16 Rival;
-    core::Int16 Factor1;
+    core::Int16 Tipo; ///< the position of a RaceType
+    core::Int16 Rival; ///< the rival's car: the later in the catalogue, the slower
+    core::Int16 Factor1; ///< kept from race to race, so that none comes twice in a row
     core::Int16 Factor2;
-    core::Int16 Termino;
-    core::Int16 Resultado;
-    core::Int16 Aciertos;
-    core::Int16 Segundos;
-    core::Int16 PasosRival;
-    core::Int16 SalidaJugador = StartLine;
-    core::Int16 SalidaRival = StartLine;
+    core::Int16 Termino; ///< what a combined operation adds or subtracts
+    core::Int16 Resultado; ///< the right answer
+    core::Int16 Aciertos; ///< right answers: the steps of the pupil's car
+    core::Int16 Segundos; ///< since the first right answer
+    core::Int16 PasosRival; ///< ticks of the rival's timer
+    core::Int16 SalidaJugador = StartLeft; ///< what the steps to the finish share out, in twips
+    core::Int16 SalidaRival = StartLeft;
     bool CarreraTerminada = false;
-    QString Blanco;
+    int m_answers = 0; ///< judged in this race, right or wrong
     QString m_operation;
-    QString m_feedback;
+    shell::VerdictLine m_verdict;
     bool m_prepared = false;
     bool m_clocksRun = false;
 };

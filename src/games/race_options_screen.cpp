@@ -15,15 +15,25 @@ namespace {
 
 constexpr double LargestPicture = 540;
 
-constexpr double LabelTop = 240;
-constexpr double LabelHeight = 360;
-constexpr double ListTop = 660;
-constexpr double ListWidth = 3480;
-constexpr double CarListHeight = 3990;
-constexpr double TypeListHeight = 1695;
-constexpr double RoadTop = 4740;
-constexpr double RoadHeight = 600;
-constexpr std::array<double, 3> Column{240, 4080, 7920};
+constexpr double Margin = 240;
+constexpr double LabelTop = 180;
+constexpr double LabelHeight = 390;
+constexpr double ListTop = 600;
+constexpr double CarListWidth = 4350;
+constexpr double CarListHeight = 6210; // ten lines
+constexpr double TypeListWidth = 3600;
+constexpr double TypeListHeight = 2400; // four lines
+constexpr double RoadTop = 3330;
+constexpr double RoadHeight = 720;
+constexpr double OkHeight = 630;
+constexpr double Bottom = ListTop + CarListHeight;
+constexpr std::array<double, 3> Column{
+    Margin, 2 * Margin + CarListWidth, 3 * Margin + 2 * CarListWidth};
+
+constexpr double Width = Column[2] + TypeListWidth + Margin;
+constexpr double Height = Bottom + Margin;
+
+constexpr ui::look::Font LaneName{ui::look::Family::Andika, 18, true};
 
 } // namespace
 
@@ -33,27 +43,30 @@ QString DlgCarrera::screenName()
 }
 
 DlgCarrera::DlgCarrera(ui::Screens& screens)
-    : Screen(screens, screenName(), u"Opciones"_s, 11640, 5580)
+    : Screen(screens, screenName(), u"Opciones"_s, Width, Height)
 {
     const QString player = u"Selecciona tu &coche"_s;
     const QString rival = u"Selecciona el coche de tu rival"_s;
     const QString type = u"Selecciona el &tipo de carrera"_s;
-    List1 = list(u"List1"_s, {Column[0], ListTop, ListWidth, CarListHeight}, player);
-    List2 = list(u"List2"_s, {Column[1], ListTop, ListWidth, CarListHeight}, rival);
-    List3 = list(u"List3"_s, {Column[2], ListTop, ListWidth, TypeListHeight}, type);
-    label(u"Label1"_s, player, {Column[0], LabelTop, ListWidth, LabelHeight},
+    List1 = list(u"List1"_s, {Column[0], ListTop, CarListWidth, CarListHeight}, player);
+    List2 = list(u"List2"_s, {Column[1], ListTop, CarListWidth, CarListHeight}, rival);
+    List3 = list(u"List3"_s, {Column[2], ListTop, TypeListWidth, TypeListHeight}, type);
+    for (ui::ListBox* cars : {List1, List2})
+        cars->setPictureSize(ListedCar);
+    label(u"Label1"_s, player, {Column[0], LabelTop, CarListWidth, LabelHeight},
         ui::look::Instruction, List1);
-    label(u"Label2"_s, rival, {Column[1], LabelTop, ListWidth, LabelHeight});
-    label(u"Label3"_s, type, {Column[2], LabelTop, ListWidth, LabelHeight}, ui::look::Instruction,
-        List3);
-    Image1 = image(u"Image1"_s, {Column[0], RoadTop, ListWidth, RoadHeight}, u"Tu coche"_s);
-    Image2 = image(
-        u"Image2"_s, {Column[1], RoadTop, ListWidth, RoadHeight}, u"El coche de tu rival"_s);
+    label(u"Label2"_s, rival, {Column[1], LabelTop, CarListWidth, LabelHeight});
+    label(u"Label3"_s, type, {Column[2], LabelTop, TypeListWidth, LabelHeight},
+        ui::look::Instruction, List3);
+    Image1 = image(
+        u"Image1"_s, {Column[2], RoadTop, TypeListWidth, RoadHeight}, u"TÚ"_s, u"Tu coche"_s);
+    Image2 = image(u"Image2"_s, {Column[2], RoadTop + RoadHeight, TypeListWidth, RoadHeight},
+        u"RIVAL"_s, u"El coche de tu rival"_s);
     on(List1, &QListWidget::currentRowChanged, [this] { List1_Click(); });
     on(List2, &QListWidget::currentRowChanged, [this] { List2_Click(); });
 
     auto* OKButton = button(u"OKButton"_s, u"Aceptar"_s,
-        {Column[2], RoadTop + (RoadHeight - 560) / 2, ListWidth, 560},
+        {Width - Margin - 2100, Bottom - OkHeight, 2100, OkHeight},
         ui::look::palette().color(QPalette::Button));
     on(OKButton, &QPushButton::clicked, &DlgCarrera::OKButton_Click);
 }
@@ -66,16 +79,17 @@ ui::ListBox* DlgCarrera::list(
     return list;
 }
 
-/// An image, still empty, on a piece of road.
-QLabel* DlgCarrera::image(
-    const QString& name, const ui::TwipRect& road, const QString& accessibleName)
+/// An image, still empty, on a lane of the road with its name.
+QLabel* DlgCarrera::image(const QString& name, const ui::TwipRect& road, const QString& lane,
+    const QString& accessibleName)
 {
-    QLabel* ground = label(u"Road"_s + name, {}, road);
+    QLabel* ground = label(u"Road"_s + name, QChar(QChar::Nbsp) + lane, road, LaneName);
     QPalette grey = ground->palette();
     grey.setColor(QPalette::Window, QColor(LaneGrey));
+    grey.setColor(QPalette::WindowText, Qt::white);
     ground->setPalette(grey);
     ground->setAutoFillBackground(true);
-    QLabel* image = label(name, {}, {road.left + road.width / 2, road.top, 0, road.height});
+    QLabel* image = label(name, {}, {road.left + road.width * 0.7, road.top, 0, road.height});
     image->setAccessibleName(accessibleName);
     image->setScaledContents(true);
     return image;
@@ -85,8 +99,9 @@ void DlgCarrera::Form_Load()
 {
     NombresImagen = pictureNames();
     for (const Car& car : carCatalogue()) {
-        List1->addItem(car.caption);
-        List2->addItem(car.caption);
+        const QIcon picture = listedCar(screens().resources(), car.picture);
+        for (ui::ListBox* list : {List1, List2})
+            list->addItem(new QListWidgetItem(picture, car.caption));
     }
     for (const QString& type : raceTypes())
         List3->addItem(type);

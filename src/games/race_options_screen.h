@@ -28,7 +28,8 @@ protected:
 
 private:
     ui::ListBox* list(const QString& name, const ui::TwipRect& place, const QString& title);
-    QLabel* image(const QString& name, const ui::TwipRect& road, const QString& accessibleName);
+    QLabel* image(const QString& name, const ui::TwipRect& road, const QString& lane,
+        const QString& accessibleName);
 
     void List1_Click();
     void List2_Click();
@@ -38,11 +39,11 @@ private:
 
     RaceOptions m_accepted;
     PictureNames NombresImagen;
-    ui::ListBox* List1 = nullptr;
-    ui::ListBox* List2 = nullptr;
-    ui::ListBox* List3 = nullptr;
-    QLabel* Image1 = nullptr;
-    QLabel* Image2 = nullptr;
+    ui::ListBox* List1 = nullptr; ///< the pupil's car
+    ui::ListBox* List2 = nullptr; ///< the rival's car
+    ui::ListBox* List3 = nullptr; ///< the race type
+    QLabel* Image1 = nullptr; ///< the pupil's car as chosen
+    QLabel* Image2 = nullptr; ///< the rival's car as chosen
 };
 
 } // namespace games

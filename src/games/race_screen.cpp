@@ -3,10 +3,8 @@
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "games/car_picture.h"
+#include "games/race_keypad.h"
 #include "games/race_options_screen.h"
-#include "games/race_track.h"
-#include "ui/announcement.h"
-#include "ui/glide.h"
 #include "ui/picture.h"
 #include "ui/screens.h"
 
@@ -18,8 +16,16 @@ namespace games {
 
 namespace {
 
-constexpr double CarHeight = 1000;
-constexpr double Lane = RaceTrack::Height / 2;
+/// What a step of the pupil's car takes: it has no clock, and the next answer comes later.
+constexpr std::chrono::milliseconds PupilStep{700};
+
+constexpr std::size_t LastOfRow = 4;
+
+ui::VerdictBox::Mark markOf(const shell::VerdictLine& line)
+{
+    return line.verdict() == shell::Verdict::Right ? ui::VerdictBox::Mark::Right
+                                                   : ui::VerdictBox::Mark::Wrong;
+}
 
 } // namespace
 
@@ -34,7 +40,7 @@ void FrmCarrera::Form_Load()
     Command1[0]->setFill(ui::look::Yellow);
     Command1[1]->setFill(ui::look::Cyan);
     NombresImagen = pictureNames();
-    CreaTeclado();
+    m_keypad->CreaTeclado();
     TBResultado->setFocus();
 }
 
@@ -63,10 +69,9 @@ void FrmCarrera::PreparaCarrera()
     const QImage player = carPicture(options.Personaje());
     const QImage rival = carPicture(options.Rival());
     m_race.PreparaCarrera({options.Personaje(), options.Rival(), options.Tipo()});
-    putCar(0, player);
-    putCar(1, rival);
+    m_scene->lineUp(player, rival);
+    m_scene->setRunning(false);
     Timer2->setInterval(m_race.rivalInterval());
-    m_verge->setRunning(false);
     showTime();
     NuevaOperacion();
 }
@@ -77,48 +82,30 @@ QImage FrmCarrera::carPicture(core::Int16 position) const
         ui::loadPicture(screens().resources(), pictureName(NombresImagen, position)));
 }
 
-void FrmCarrera::putCar(std::size_t index, const QImage& picture)
-{
-    QLabel* car = Image1.at(index);
-    const double width = CarHeight * picture.width() / picture.height();
-    const double top = (Lane - CarHeight) / 2 + static_cast<double>(index) * Lane;
-    m_glide->put(car, {Race::StartLine, top});
-    place(car, {Race::StartLine, top, width, CarHeight});
-    car->setPixmap(QPixmap::fromImage(picture));
-}
-
-void FrmCarrera::moveCar(std::size_t index, double left)
-{
-    const ui::TwipRect from = placeOf(Image1.at(index));
-    m_glide->send(Image1.at(index), {from.left, from.top}, {left, from.top});
-}
-
 void FrmCarrera::NuevaOperacion()
 {
     TBOperacion->setText(m_race.operation());
-    ui::announce(*TBOperacion, m_race.operation());
     TBResultado->clear();
     TBResultado->setFocus();
+    sayExercise();
 }
 
 ui::KeyResult FrmCarrera::TBResultado_KeyPress(QChar character)
 {
     if (character != QChar(ui::key::Enter))
         return ui::KeyResult::Pass;
-    const auto verdict = m_race.answer(core::readNumber(TBResultado->text()));
-    switch (verdict) {
-    case Race::Verdict::Ignored:
+    switch (m_race.judge(core::readNumber(TBResultado->text()))) {
+    case shell::Verdict::NotJudged:
         break;
-    case Race::Verdict::Wrong:
+    case shell::Verdict::Wrong:
         TBResultado->clear();
-        Text4->setVerdict(m_race.feedback(), ui::VerdictBox::Mark::Wrong);
+        showWrongAnswer();
         beep();
         break;
-    case Race::Verdict::Right:
-    case Race::Verdict::Won:
-        Text4->setVerdict(m_race.feedback(), ui::VerdictBox::Mark::Right);
+    case shell::Verdict::Right:
+        showVerdict();
         NuevaOperacion();
-        showRightAnswer(verdict);
+        showRightAnswer();
         break;
     }
     return ui::KeyResult::Swallow;
@@ -131,29 +118,49 @@ ui::KeyResult FrmCarrera::Text2_KeyPress(int Index, QChar character)
             *this, u"La carrera ha terminado. Pulsa en uno de los botones inferiores."_s);
         return ui::KeyResult::Swallow;
     }
-    if (Index != 4 || character != QChar(ui::key::Enter))
+    if (Index != LastOfRow || character != QChar(ui::key::Enter))
         return ui::KeyResult::Pass;
-    const auto verdict = m_race.answerInRow(core::readNumber(Text2[4]->text()));
-    if (verdict == Race::Verdict::Wrong) {
-        Text4->setVerdict(m_race.feedback(), ui::VerdictBox::Mark::Wrong);
-        Text2[4]->clear();
-    } else if (verdict != Race::Verdict::Ignored) {
-        Text4->setVerdict(m_race.feedback(), ui::VerdictBox::Mark::Right);
-        showRightAnswer(verdict);
+    switch (m_race.judgeRow(core::readNumber(Text2[LastOfRow]->text()))) {
+    case shell::Verdict::NotJudged:
+        break;
+    case shell::Verdict::Wrong:
+        showWrongAnswer();
+        Text2[LastOfRow]->clear();
+        break;
+    case shell::Verdict::Right:
+        showVerdict();
+        showRightAnswer();
+        break;
     }
     return ui::KeyResult::Swallow;
 }
 
-void FrmCarrera::showRightAnswer(Race::Verdict verdict)
+void FrmCarrera::showVerdict()
+{
+    Text4->setVerdict(m_race.verdict().text(), markOf(m_race.verdict()));
+    say(m_race.spokenStandings());
+}
+
+void FrmCarrera::showWrongAnswer()
+{
+    showVerdict();
+    m_scene->nudge();
+}
+
+void FrmCarrera::showRightAnswer()
 {
     for (QTimer* timer : {Timer1, Timer2}) {
         if (!timer->isActive())
             timer->start();
     }
-    moveCar(0, m_race.playerLeft());
-    m_verge->setRunning(true);
-    if (verdict == Race::Verdict::Won)
-        endRace(m_race.wonText());
+    m_scene->setRunning(true);
+    m_scene->setSolved(m_race.solved());
+    m_scene->drive(RaceScene::Pupil, m_race.playerLeft(), PupilStep);
+    if (!m_race.isOver())
+        return;
+    m_scene->celebrate(true);
+    endRace(m_race.wonText());
+    m_scene->celebrate(false);
 }
 
 void FrmCarrera::Timer1_Timer()
@@ -167,7 +174,7 @@ void FrmCarrera::Timer2_Timer()
     const auto step = m_race.rivalStep();
     if (step == Race::RivalStep::Ignored)
         return;
-    moveCar(1, m_race.rivalLeft());
+    m_scene->drive(RaceScene::Rival, m_race.rivalLeft(), Timer2->intervalAsDuration());
     if (step == Race::RivalStep::Won)
         endRace(m_race.lostText());
 }
@@ -179,7 +186,7 @@ void FrmCarrera::endRace(const QString& text)
     for (ui::Button* command : Command1)
         command->setEnabled(true);
     Text4->setVerdict({}, ui::VerdictBox::Mark::None);
-    Picture1->setFocus(); // no button: the next Enter must not press it
+    m_scene->track()->setFocus(); // no button: the next Enter must not press it
     TBResultado->setEnabled(false);
 }
 
@@ -187,7 +194,7 @@ void FrmCarrera::stopTimers()
 {
     Timer1->stop();
     Timer2->stop();
-    m_verge->setRunning(false);
+    m_scene->setRunning(false);
 }
 
 void FrmCarrera::showTime()
@@ -208,6 +215,33 @@ void FrmCarrera::Command1_Click(int Index)
         PreparaCarrera();
 }
 
+void FrmCarrera::CBConmutar_Click()
+{
+    TBResultado->setFocus(); // a hidden button would hand the focus on
+    m_keypad->show();
+}
+
+void FrmCarrera::CBCalcu_Click(int Index)
+{
+    if (Index == RaceKeypad::HideKey) {
+        TBResultado->setFocus();
+        m_keypad->hide();
+        return;
+    }
+    if (!TBResultado->isEnabled())
+        return;
+    if (Index == RaceKeypad::EnterKey) {
+        TBResultado_KeyPress(QChar(ui::key::Enter));
+        return;
+    }
+    TBResultado->setEdge({}); // as when it is typed into
+    if (Index == RaceKeypad::ClearKey)
+        TBResultado->clear();
+    else
+        TBResultado->setText(TBResultado->text() + RaceKeypad::digit(Index));
+}
+
+// Meant, odd as it is: the blank in front changes how the operation stands and nothing else.
 ui::KeyResult FrmCarrera::Form_KeyDown(int KeyCode)
 {
     if (KeyCode != ui::key::Control)

@@ -1,20 +1,14 @@
 #pragma once
 
 #include "games/race.h"
+#include "games/race_scene.h"
 #include "ui/screen.h"
 
 #include <array>
 
-class QFrame;
-
-namespace ui {
-class Glide;
-}
-
 namespace games {
 
-class RaceTrack;
-class RaceVerge;
+class RaceKeypad;
 
 /// The big race: every operation solved drives the pupil's car a step further, against a
 /// timed rival.
@@ -23,6 +17,8 @@ public:
     static QString screenName();
 
     explicit FrmCarrera(ui::Screens& screens);
+
+    QString spokenExercise() const override { return m_race.spokenOperation(); }
 
 protected:
     void Form_Load() override;
@@ -33,11 +29,10 @@ protected:
     virtual void beep();
 
 private:
-    void makeTrack();
     void makeBoxes();
+    void makeRow();
     void makeKeypad();
     void makeCommands();
-    void CreaTeclado();
 
     ui::KeyResult Form_KeyDown(int KeyCode);
     void Command1_Click(int Index);
@@ -52,30 +47,25 @@ private:
     void NuevaOperacion();
     void chooseOptions();
     QImage carPicture(core::Int16 position) const;
-    void putCar(std::size_t index, const QImage& picture);
-    void moveCar(std::size_t index, double left);
-    void showRightAnswer(Race::Verdict verdict);
+    void showVerdict();
+    void showWrongAnswer();
+    void showRightAnswer();
     void endRace(const QString& text);
     void stopTimers();
     void showTime();
 
     Race m_race;
     PictureNames NombresImagen;
-    ui::TextBox* TBOperacion = nullptr;
-    ui::TextBox* TBResultado = nullptr;
-    ui::VerdictBox* Text4 = nullptr;
-    std::array<ui::TextBox*, 5> Text2{};
-    QFrame* PBTeclado = nullptr;
-    std::array<ui::Button*, 13> CBCalcu{};
-    ui::Button* CBConmutar = nullptr;
-    std::array<ui::Button*, 2> Command1{};
-    RaceVerge* m_verge = nullptr;
-    RaceTrack* Picture1 = nullptr;
-    std::array<QLabel*, 2> Image1{};
-    ui::TextBox* m_time = nullptr;
-    QTimer* Timer1 = nullptr;
-    QTimer* Timer2 = nullptr;
-    ui::Glide* m_glide;
+    RaceScene* m_scene; ///< road, cars, landscape, podium
+    ui::TextBox* TBOperacion = nullptr; ///< the operation to solve
+    ui::TextBox* TBResultado = nullptr; ///< the pupil's answer
+    ui::VerdictBox* Text4 = nullptr; ///< the verdict
+    std::array<ui::TextBox*, 5> Text2{}; ///< a second row for answers, never shown
+    RaceKeypad* m_keypad = nullptr; ///< the keypad on the screen
+    std::array<ui::Button*, 2> Command1{}; ///< a new race: with new options, with the same
+    ui::TextBox* m_time = nullptr; ///< seconds since the first right answer
+    QTimer* Timer1 = nullptr; ///< the race clock, a tick a second
+    QTimer* Timer2 = nullptr; ///< the rival's clock, a tick a step
 };
 
 } // namespace games

@@ -61,13 +61,13 @@ int RainDrop::digitPixels(const QString& number)
     case 0:
     case 1:
     case 2:
-        return 20;
+        return 25;
     case 3:
-        return 16;
+        return 20;
     case 4:
-        return 12;
+        return 15;
     default:
-        return 10;
+        return 12;
     }
 }
 

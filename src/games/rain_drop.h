@@ -14,8 +14,8 @@ public:
     explicit RainDrop(QWidget* parent);
 
     /// The size in twips.
-    static constexpr double Width = 540;
-    static constexpr double Height = 630;
+    static constexpr double Width = 660;
+    static constexpr double Height = 780;
 
     /// Size of the number in pixels at factor 1: long ones get smaller digits.
     static int digitPixels(const QString& number);

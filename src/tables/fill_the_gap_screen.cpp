@@ -33,7 +33,7 @@ FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
         ->setAlignment(Qt::AlignCenter);
     makeRow();
     makeButtons();
-    TbResultado = verdictBox(u"TbResultado"_s, {840, 2610, 3600, 450}, u"Comprobación"_s);
+    TbResultado = verdictBox(u"TbResultado"_s, {240, 2610, 4200, 480}, u"Comprobación"_s);
     TbEjercicios = displayBox(u"TbEjercicios"_s, {240, 4020, 4200, 390}, CounterFont,
         u"Ejercicios y errores"_s, m_model.counters().FormatoSimple());
     TbEjercicios->setAlignment(Qt::AlignCenter);

@@ -95,7 +95,7 @@ void Form8::makeOptions()
     const QStringList captions{u"Al pulsar Salir"_s, u"Tiempo"_s, u"Operaciones"_s, u"Errores"_s};
     for (int i = 0; i < 4; ++i) {
         auto* option = add(new QRadioButton(captions.at(i), Frame1), u"Option1(%1)"_s.arg(i),
-            ui::TwipRect{240, 420 + 510.0 * i, 2100, 480});
+            ui::TwipRect{240, 420 + 510.0 * i, 2100, 510});
         on(option, &QRadioButton::toggled, [this, option, i] {
             if (option->isChecked())
                 Option1_Click(i);

@@ -19,8 +19,10 @@ constexpr double Height = 7590;
 constexpr ui::look::Font MessageFont{Family::Arial, 14};
 constexpr ui::look::Font SumFont{Family::Arial, 20, true};
 constexpr ui::look::Font FactorFont{Family::Arial, 26, true};
-constexpr ui::look::Font VerdictFont{Family::Arial, 16, true};
-constexpr ui::look::Font CommandFont{Family::Arial, 12, true};
+// The given places are narrow: these are the largest that fit them.
+constexpr ui::look::Font VerdictFont{Family::Andika, 14, true};
+constexpr double VerdictMark = 26;
+constexpr ui::look::Font CommandFont{Family::Andika, 13};
 constexpr ui::look::Font CounterFont{Family::CourierNew, 12};
 
 /// The sign between the factors. The first factor's box covers its left part: its text
@@ -70,6 +72,7 @@ void Form4::makeBoxes()
     }
 
     Text1 = verdictBox(u"Text1"_s, {900, 5000, 3000, 500}, u"Comprobación"_s);
+    Text1->setMarkSize(VerdictMark);
     setControlFont(Text1, VerdictFont);
     tbResultados = displayBox(u"tbResultados"_s, {900, 7000, 3000, 500}, CounterFont,
         u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
@@ -82,7 +85,7 @@ void Form4::makeButtons()
         .next = {1800, 6000, 1200, 500},
         .clear = {400, 6000, 1200, 500},
         .solution = {3200, 6000, 1200, 500}});
-    for (QWidget* command : Command2)
+    for (QWidget* command : {Command1, Command2[0], Command2[1], Command2[2]})
         setControlFont(command, CommandFont);
 }
 

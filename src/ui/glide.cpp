@@ -12,18 +12,38 @@ Glide::Glide(Mover move, QObject* parent)
 {
 }
 
-void Glide::send(QWidget* control, QPointF from, QPointF to)
+bool Glide::isOff(const QWidget& control)
 {
-    const QStyle* style = control->style();
-    if (from == to
-        || style->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, control) == 0) {
+    return control.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &control)
+        == 0;
+}
+
+void Glide::send(QWidget* control, QPointF from, QPointF to, std::chrono::milliseconds step)
+{
+    QVariantAnimation& trip = tripOf(control);
+    const bool moving = trip.state() == QVariantAnimation::Running;
+    if (moving && trip.endValue().toPointF() == to)
+        return;
+    if (from == to || isOff(*control)) {
         put(control, to);
         return;
     }
-    QVariantAnimation& trip = tripOf(control);
     trip.stop();
-    trip.setStartValue(from);
-    trip.setEndValue(to);
+    trip.setKeyValues({{0, from}, {1, to}});
+    trip.setDuration(static_cast<int>(ShareOfStep * static_cast<double>(step.count())));
+    trip.start();
+}
+
+void Glide::nudge(QWidget* control, QPointF at, QPointF by, std::chrono::milliseconds time)
+{
+    if (isOff(*control))
+        return;
+    QVariantAnimation& trip = tripOf(control);
+    const bool moving = trip.state() == QVariantAnimation::Running;
+    const QPointF end = moving ? trip.endValue().toPointF() : at;
+    trip.stop();
+    trip.setKeyValues({{0, at}, {0.25, end + by}, {0.6, end - by / 2}, {1, end}});
+    trip.setDuration(static_cast<int>(time.count()));
     trip.start();
 }
 
@@ -45,7 +65,6 @@ QVariantAnimation& Glide::tripOf(QWidget* control)
     QPointer<QVariantAnimation>& trip = m_trips[control];
     if (!trip) {
         trip = new QVariantAnimation(control);
-        trip->setDuration(Milliseconds);
         connect(trip, &QVariantAnimation::valueChanged, this,
             [this, control, made = trip.data()](const QVariant& place) {
                 if (made->state() == QVariantAnimation::Running)

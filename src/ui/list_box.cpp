@@ -6,24 +6,29 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace ui {
 
 namespace {
 
+constexpr int PictureGap = 4; // between the pictures of two lines, in pixels at factor 1
+
 /// Lines of one height and any width: none has to be measured, however many there are.
 class LineDelegate final : public QStyledItemDelegate {
 public:
     LineDelegate(ListBox* list, ListBox::Start start)
         : QStyledItemDelegate(list)
+        , m_list(list)
         , m_start(start)
     {
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
-        return {0, option.fontMetrics.height() * 3 / 2};
+        return {0, m_list->lineHeight(option.fontMetrics.height() * 3 / 2)};
     }
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
@@ -43,6 +48,7 @@ public:
     }
 
 private:
+    const ListBox* m_list;
     ListBox::Start m_start;
 };
 
@@ -56,9 +62,24 @@ ListBox::ListBox(QWidget* parent, Start start)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
+void ListBox::setPictureSize(QSize size)
+{
+    m_pictureSize = size;
+    setFactor(factor());
+}
+
+int ListBox::lineHeight(int caption) const
+{
+    if (m_pictureSize.isEmpty())
+        return caption;
+    return std::max(caption, qRound((m_pictureSize.height() + PictureGap) * factor()));
+}
+
 void ListBox::setFactor(double factor)
 {
     Scalable::setFactor(factor);
+    if (!m_pictureSize.isEmpty())
+        setIconSize(m_pictureSize * factor);
     const int corner = qRound(look::CornerMargin * factor);
     setViewportMargins(corner, corner, corner, corner);
 }

@@ -17,11 +17,21 @@ public:
 
     explicit ListBox(QWidget* parent, Start start = Start::Indented);
 
+    /// Makes the lines high enough for pictures (the icons of the items) before the captions;
+    /// in pixels at factor 1.
+    void setPictureSize(QSize size);
+
+    /// Height of a line that needs so much for its caption, in pixels.
+    int lineHeight(int caption) const;
+
     void setFactor(double factor) override;
 
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(
         const QModelIndex& index, const QEvent* event) const override;
+
+private:
+    QSize m_pictureSize; ///< empty where the list has none
 };
 
 } // namespace ui

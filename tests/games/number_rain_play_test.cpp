@@ -9,13 +9,14 @@ using games::Difficulty;
 using games::Gota;
 using games::NumberRain;
 using games::RainBox;
+using games::RainFall;
 using games::RainState;
 using games::RainStep;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Gotas = std::array<Gota, RainState::Slots>;
+using Gotas = std::array<Gota, RainFall::Slots>;
 
 constexpr int Height = 9000; // twips
 
@@ -154,20 +155,20 @@ private:
 
     void tick()
     {
-        const Gotas before = state().Gotas;
-        std::array<bool, RainState::Slots> taken;
-        for (int slot = 0; slot < RainState::Slots; ++slot)
-            taken[slot] = !state().Libre[slot];
+        const Gotas before = m_rain.fall().Gotas();
+        std::array<bool, RainFall::Slots> taken;
+        for (int slot = 0; slot < RainFall::Slots; ++slot)
+            taken[slot] = !m_rain.fall().Libre()[slot];
         RainStep step = m_rain.tick();
         int beeps = 0;
-        for (int slot = 0; slot < RainState::Slots; ++slot) {
+        for (int slot = 0; slot < RainFall::Slots; ++slot) {
             if (!taken[slot] || !escapes(before[slot]))
                 continue;
             const auto box = m_books.escape(before[slot], beeps);
             if (box) {
                 hold(step.beeps == beeps, "beeps before a box");
                 beeps = 0;
-                hold(!state().Libre[slot], "the escaped number behind its box");
+                hold(!m_rain.fall().Libre()[slot], "the escaped number behind its box");
                 step = answer(step, *box, false);
                 std::fill_n(taken.begin(), 10, false);
                 if (m_rain.over())
@@ -181,19 +182,21 @@ private:
         check();
     }
 
-    void checkLaunch(const std::array<bool, RainState::Slots>& taken, const Gotas& before)
+    void checkLaunch(const std::array<bool, RainFall::Slots>& taken, const Gotas& before)
     {
         m_ticks = (m_ticks + 1) % 6;
         bool due = m_ticks == 0;
-        for (int slot = 0; slot < RainState::Slots; ++slot) {
-            const Gota& gota = state().Gotas[slot];
+        for (int slot = 0; slot < RainFall::Slots; ++slot) {
+            const Gota& gota = m_rain.fall().Gotas()[slot];
             const bool launched = due && !taken[slot];
-            hold(!state().Libre[slot] == (taken[slot] || launched), "which slots are taken");
+            hold(!m_rain.fall().Libre()[slot] == (taken[slot] || launched),
+                "which slots are taken");
             if (launched) {
                 due = false;
                 hold(gota.Fila == 0 && gota.Columna >= 1 && gota.Columna <= 19, "launch place");
                 hold(gota.Velocidad >= 1 && gota.Velocidad <= 5, "launch class");
-                const int last = state().Fase <= 2 ? 20 : 10 * state().Fase.value();
+                const int last =
+                    m_rain.phase().Fase() <= 2 ? 20 : 10 * m_rain.phase().Fase().value();
                 hold(gota.Valor >= 1 && gota.Valor <= last, "launch number");
             } else if (taken[slot]) {
                 checkMove(before[slot], gota);
@@ -215,13 +218,13 @@ private:
 
     void click()
     {
-        const int slot = static_cast<int>(m_engine() % RainState::Slots);
-        if (state().Libre[slot]) {
+        const int slot = static_cast<int>(m_engine() % RainFall::Slots);
+        if (m_rain.fall().Libre()[slot]) {
             const auto before = m_rain.pointsText();
             hold(!m_rain.click(slot).box && m_rain.pointsText() == before, "a free slot");
             return;
         }
-        const Gota gota = state().Gotas[slot];
+        const Gota gota = m_rain.fall().Gotas()[slot];
         if (!m_books.isTarget(gota.Valor.value())
             && static_cast<int>(m_engine() % 4) > m_clumsiness)
             return;
@@ -229,12 +232,13 @@ private:
         const auto box = m_books.click(gota);
         hold(step.box.has_value() == box.has_value(), "a box after a click");
         if (box) {
-            hold(!state().Libre[slot], "the clicked number behind the box");
+            hold(!m_rain.fall().Libre()[slot], "the clicked number behind the box");
             answer(step, *box, true);
             if (!m_rain.over())
-                hold(state().Libre[slot] == (slot < 10), "the clicked number after the box");
+                hold(m_rain.fall().Libre()[slot] == (slot < 10),
+                    "the clicked number after the box");
         } else {
-            hold(state().Libre[slot] == (m_books.puntos > 0), "exactly no points");
+            hold(m_rain.fall().Libre()[slot] == (m_books.puntos > 0), "exactly no points");
         }
         if (!m_rain.over())
             check();
@@ -249,7 +253,7 @@ private:
         hold(!m_rain.running() && !m_rain.waiting(), "the clock behind a box");
         const auto points = m_rain.pointsText();
         m_rain.tick();
-        m_rain.click(static_cast<int>(m_engine() % RainState::Slots));
+        m_rain.click(static_cast<int>(m_engine() % RainFall::Slots));
         hold(m_rain.pointsText() == points, "calls behind a box");
         m_books.boxClosed(kind);
         return m_rain.answer(kind != RainBox::Kind::GameOver || m_engine() % 4 == 0);
@@ -261,7 +265,7 @@ private:
         hold(state().PuntosTotales == m_books.total, "points in all");
         hold(state().Vidas == m_books.vidas, "lives");
         hold(state().Vidas >= 1 && state().Vidas <= 3, "lives in range");
-        hold(state().Fase == m_books.fase, "phase");
+        hold(m_rain.phase().Fase() == m_books.fase, "phase");
         hold(state().Aciertos == m_books.aciertos, "hits");
         hold(state().Lanzados >= 0, "launched");
         hold(m_rain.running() != m_rain.waiting(), "clock or button");

@@ -5,7 +5,7 @@
 
 using games::Difficulty;
 using games::RainBox;
-using games::RainFocus;
+using games::RainFall;
 using games::RainState;
 using games::RainStep;
 using namespace Qt::StringLiterals;
@@ -27,11 +27,6 @@ const auto Slow = u"Has dejado escapar demasiados números y pierdes una vida. "
 int afterATick(const games::Gota& gota)
 {
     return gota.Espera > 1 ? gota.Espera.value() - 1 : 5;
-}
-
-bool asksFocus(const RainStep& step, RainFocus target)
-{
-    return step.focus == target;
 }
 
 } // namespace
@@ -59,8 +54,8 @@ private slots:
         QTEST(game.rain.pointsText(), "points");
         QCOMPARE(game.state().Puntos.value(), 100 + 10 * velocidad);
         QCOMPARE(game.state().Aciertos.value(), 1);
-        QVERIFY(game.state().Libre[0]);
-        QVERIFY(asksFocus(step, RainFocus::PbFoco));
+        QVERIFY(game.rain.fall().Libre()[0]);
+        QVERIFY(step.cleared);
         QVERIFY(!step.box);
         QCOMPARE(step.beeps, 0);
         QVERIFY(game.rain.running());
@@ -86,8 +81,8 @@ private slots:
         const auto step = game.shoot(velocidad, 8);
         QTEST(game.rain.pointsText(), "points");
         QCOMPARE(game.state().Aciertos.value(), 0);
-        QVERIFY(game.state().Libre[0]);
-        QVERIFY(asksFocus(step, RainFocus::PbFoco));
+        QVERIFY(game.rain.fall().Libre()[0]);
+        QVERIFY(step.cleared);
         QCOMPARE(step.beeps, 0);
     }
 
@@ -110,10 +105,10 @@ private slots:
         const auto step = game.calmTick();
         QCOMPARE(step.beeps, 1);
         QVERIFY(!step.box);
-        QVERIFY(!step.focus);
+        QVERIFY(asksNoFocus(step));
         QCOMPARE(game.state().Puntos.value(), points);
         QCOMPARE(game.rain.pointsText(), QString::number(points));
-        QVERIFY(game.state().Libre[0]);
+        QVERIFY(game.rain.fall().Libre()[0]);
         QCOMPARE(game.state().Vidas.value(), 3);
     }
 
@@ -137,7 +132,7 @@ private slots:
         QCOMPARE(step.beeps, 0);
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.rain.pointsText(), u"100"_s);
-        QVERIFY(game.state().Libre[0]);
+        QVERIFY(game.rain.fall().Libre()[0]);
     }
 
     void exactlyNoPointsByAWrongClickKeepsTheNumber()
@@ -151,8 +146,8 @@ private slots:
         QCOMPARE(game.state().Puntos.value(), 0);
         QCOMPARE(game.rain.pointsText(), u"0"_s);
         QCOMPARE(game.state().Vidas.value(), 3);
-        QVERIFY(!game.state().Libre[slot]);
-        QVERIFY(!step.focus);
+        QVERIFY(!game.rain.fall().Libre()[slot]);
+        QVERIFY(asksNoFocus(step));
         QVERIFY(!step.box);
         QVERIFY(game.rain.running());
         game.calmTick();
@@ -168,7 +163,7 @@ private slots:
         for (const int velocidad : {5, 5, 5, 5, 5, 5}) { // 25 each
             const int slot = game.launch(8, velocidad, 5);
             game.calmTick();
-            QVERIFY(game.state().Libre[slot]);
+            QVERIFY(game.rain.fall().Libre()[slot]);
         }
         QCOMPARE(game.state().Puntos.value(), 0);
         QCOMPARE(game.rain.pointsText(), u"0"_s);
@@ -190,7 +185,7 @@ private slots:
         QCOMPARE(step.box->title, u"Lluvia de números"_s);
         QCOMPARE(step.box->text, Clumsy);
         QCOMPARE(step.beeps, 0);
-        QVERIFY(!step.focus);
+        QVERIFY(asksNoFocus(step));
         // behind the box
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.state().Vidas.value(), 2);
@@ -204,11 +199,11 @@ private slots:
         const auto after = game.rain.answer();
         QVERIFY(!after.box);
         QVERIFY(!after.phasePrepared);
-        QVERIFY(asksFocus(after, RainFocus::CbEmpezar));
+        QVERIFY(after.waits && !after.launched);
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.rain.pointsText(), u"100"_s);
         QCOMPARE(game.taken(), 0);
-        QVERIFY(game.state().Libre[other]);
+        QVERIFY(game.rain.fall().Libre()[other]);
         QCOMPARE(game.state().Lanzados.value(), 0);
         QVERIFY(game.rain.waiting());
         QVERIFY(!game.rain.running());
@@ -224,10 +219,10 @@ private slots:
         game.shoot(4, 1);
         QVERIFY(game.shoot(5, 1).box);
         game.rain.answer();
-        QCOMPARE(game.state().Fase.value(), 3);
+        QCOMPARE(game.rain.phase().Fase().value(), 3);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase 3"_s);
         QCOMPARE(game.state().PuntosTotales.value(), total);
-        QCOMPARE(game.state().Objetivos.front().value(), 3);
+        QCOMPARE(game.rain.phase().Objetivos().front().value(), 3);
         QCOMPARE(game.state().Aciertos.value(), 16);
         QCOMPARE(game.rain.livesText(), u"Vidas : 2"_s);
     }
@@ -236,21 +231,21 @@ private slots:
     {
         RainGame game(TwoAtOnce);
         armTwoEscapes(game);
-        const auto before = game.state().Gotas;
+        const auto before = game.rain.fall().Gotas();
         const auto step = tickThatLaunches(game, 7);
         QVERIFY(step.box);
         QCOMPARE(step.box->kind, RainBox::Kind::LifeLost);
         QCOMPARE(step.box->title, u"Lluvia de números"_s);
         QCOMPARE(step.box->text, Slow);
         QCOMPARE(step.beeps, 1);
-        QVERIFY(!step.focus);
+        QVERIFY(asksNoFocus(step));
         // behind the box: slots to 10 have moved, the others have not, nothing is reset
         QCOMPARE(game.gota(9).Espera.value(), afterATick(before[9]));
         QVERIFY(game.gota(10).top() > TwoAtOnce);
-        QVERIFY(!game.state().Libre[10]);
+        QVERIFY(!game.rain.fall().Libre()[10]);
         QCOMPARE(game.gota(11).Espera.value(), before[11].Espera.value());
         QCOMPARE(game.gota(13).Fila.value(), before[13].Fila.value());
-        QVERIFY(game.state().Libre[4]); // escaped just before, at no cost
+        QVERIFY(game.rain.fall().Libre()[4]); // escaped just before, at no cost
         QCOMPARE(game.taken(), 14);
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.state().Vidas.value(), 2);
@@ -264,7 +259,7 @@ private slots:
     {
         RainGame game(TwoAtOnce);
         armTwoEscapes(game);
-        const auto before = game.state().Gotas;
+        const auto before = game.rain.fall().Gotas();
         tickThatLaunches(game, 7);
         const auto step = game.rain.answer();
         QVERIFY(step.box); // the second escape has a box of its own
@@ -276,8 +271,8 @@ private slots:
         QCOMPARE(game.gota(11).Espera.value(), afterATick(before[11]));
         QCOMPARE(game.gota(12).Espera.value(), afterATick(before[12]));
         QCOMPARE(game.gota(14).Espera.value(), before[14].Espera.value());
-        QVERIFY(game.state().Libre[10]); // freed after its box
-        QVERIFY(!game.state().Libre[13]);
+        QVERIFY(game.rain.fall().Libre()[10]); // freed after its box
+        QVERIFY(!game.rain.fall().Libre()[13]);
         QCOMPARE(game.taken(), 4); // 11 to 14: the first ten are reset
         QCOMPARE(game.random.left(), std::size_t(5)); // slot 14 is due, then the launch
     }
@@ -286,18 +281,18 @@ private slots:
     {
         RainGame game(TwoAtOnce);
         armTwoEscapes(game);
-        const auto before = game.state().Gotas;
+        const auto before = game.rain.fall().Gotas();
         tickThatLaunches(game, 7);
         game.rain.answer();
         const auto step = game.rain.answer();
         QVERIFY(!step.box);
         QCOMPARE(game.gota(14).Espera.value(), afterATick(before[14]));
-        QVERIFY(game.state().Libre[13]);
-        QVERIFY(!game.state().Libre[0]); // launched while waiting
+        QVERIFY(game.rain.fall().Libre()[13]);
+        QVERIFY(!game.rain.fall().Libre()[0]); // launched while waiting
         QCOMPARE(game.gota(0).Valor.value(), 7);
         QCOMPARE(game.taken(), 4); // 0, 11, 12 and 14
         QCOMPARE(game.state().Lanzados.value(), 1);
-        QVERIFY(asksFocus(step, RainFocus::CbNave)); // the last to ask for it
+        QVERIFY(step.launched); // the last to ask for it
         QVERIFY(game.rain.waiting());
         QVERIFY(!game.rain.running());
         QCOMPARE(game.random.left(), std::size_t(0));
@@ -330,7 +325,7 @@ private slots:
         loseLifeOnHard(game);
         loseLifeOnHard(game);
         armTwoEscapes(game);
-        const auto before = game.state().Gotas;
+        const auto before = game.rain.fall().Gotas();
         const auto over = tickThatLaunches(game, 7);
         QVERIFY(over.box);
         QCOMPARE(over.box->kind, RainBox::Kind::GameOver);
@@ -359,7 +354,7 @@ private slots:
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.rain.livesText(), u"Vidas : 1"_s);
         QCOMPARE(game.rain.pointsText(), u"10"_s);
-        QCOMPARE(game.state().Fase.value(), 2);
+        QCOMPARE(game.rain.phase().Fase().value(), 2);
         QVERIFY(!game.rain.running());
         QVERIFY(!game.rain.waiting());
         QVERIFY(!game.rain.over());
@@ -374,8 +369,8 @@ private slots:
         const auto step = game.rain.answer(true);
         QVERIFY(!step.box);
         QVERIFY(step.phasePrepared);
-        QVERIFY(asksFocus(step, RainFocus::CbEmpezar));
-        QCOMPARE(game.state().Fase.value(), 1);
+        QVERIFY(step.waits && !step.launched);
+        QCOMPARE(game.rain.phase().Fase().value(), 1);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase 1"_s);
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.state().PuntosTotales.value(), 0);
@@ -397,7 +392,7 @@ private slots:
         QVERIFY(loseLife(game).box);
         const auto step = game.rain.answer(false);
         QVERIFY(!step.box);
-        QVERIFY(!step.focus);
+        QVERIFY(asksNoFocus(step));
         QVERIFY(game.rain.over());
         QVERIFY(!game.rain.running());
         const auto lanzados = game.state().Lanzados;
@@ -429,21 +424,21 @@ private slots:
         QCOMPARE(step.box->text,
             u"Ha superado la fase 1.\nEn esta fase ha conseguido 260 puntos y en total lleva "
             "260 puntos acumulados."_s);
-        QVERIFY(!step.focus);
+        QVERIFY(asksNoFocus(step));
         // behind the box
         QCOMPARE(game.state().PuntosTotales.value(), 260);
         QCOMPARE(game.state().Puntos.value(), 260);
         QCOMPARE(game.rain.pointsText(), u"240"_s);
-        QVERIFY(!game.state().Libre[slot]);
-        QVERIFY(!game.state().Libre[leftover]);
-        QCOMPARE(game.state().Fase.value(), 1);
+        QVERIFY(!game.rain.fall().Libre()[slot]);
+        QVERIFY(!game.rain.fall().Libre()[leftover]);
+        QCOMPARE(game.rain.phase().Fase().value(), 1);
         QVERIFY(!game.rain.running());
         QVERIFY(!game.rain.waiting());
 
         const auto after = game.rain.answer();
         QVERIFY(after.phasePrepared);
-        QVERIFY(asksFocus(after, RainFocus::CbEmpezar));
-        QCOMPARE(game.state().Fase.value(), 2);
+        QVERIFY(after.waits && !after.launched);
+        QCOMPARE(game.rain.phase().Fase().value(), 2);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase 2"_s);
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.state().Lanzados.value(), 0);
@@ -466,7 +461,7 @@ private slots:
             u"Ha superado la fase 2.\nEn esta fase ha conseguido 145 puntos y en total lleva "_s
                 + QString::number(total + 145) + u" puntos acumulados."_s);
         game.rain.answer();
-        QCOMPARE(game.state().Fase.value(), 3);
+        QCOMPARE(game.rain.phase().Fase().value(), 3);
         QCOMPARE(game.state().Aciertos.value(), 16);
     }
 
@@ -480,8 +475,8 @@ private slots:
         QCOMPARE(clicked, 12);
         QVERIFY(game.rain.click(clicked).box);
         game.rain.answer();
-        for (int slot = 0; slot < RainState::Slots; ++slot)
-            QCOMPARE(game.state().Libre[slot], slot < 10 || slot > 12);
+        for (int slot = 0; slot < RainFall::Slots; ++slot)
+            QCOMPARE(game.rain.fall().Libre()[slot], slot < 10 || slot > 12);
         const int row = game.gota(10).Fila.value();
         game.rain.start();
         for (int tick = 0; tick < 5; ++tick)
@@ -509,7 +504,7 @@ private slots:
         const auto text = game.rain.pointsText();
         for (const int slot : {0, 1, 19, -1, 20}) {
             const auto step = game.rain.click(slot);
-            QVERIFY(!step.focus && !step.box);
+            QVERIFY(asksNoFocus(step) && !step.box);
         }
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.rain.pointsText(), text);
@@ -539,19 +534,19 @@ private slots:
         const int espera = game.gota(other).Espera.value();
         for (int tick = 0; tick < 12; ++tick) {
             const auto step = game.rain.tick(); // draws nothing
-            QVERIFY(!step.box && !step.focus);
+            QVERIFY(!step.box && asksNoFocus(step));
         }
         QVERIFY(!game.rain.click(other).box);
         game.rain.start();
         game.rain.enableClock();
-        QVERIFY(!game.rain.chooseDifficulty(Difficulty::Dificil).focus);
+        QVERIFY(asksNoFocus(game.rain.chooseDifficulty(Difficulty::Dificil)));
         QVERIFY(!game.rain.running());
-        QCOMPARE(game.state().Fase.value(), 2);
+        QCOMPARE(game.rain.phase().Fase().value(), 2);
         QCOMPARE(game.rain.difficulty(), Difficulty::Facil);
         QCOMPARE(game.gota(other).Espera.value(), espera);
         QCOMPARE(game.rain.pointsText(), text);
         game.rain.answer();
-        QCOMPARE(game.state().Fase.value(), 3);
+        QCOMPARE(game.rain.phase().Fase().value(), 3);
     }
 
     void anAnswerWithoutABoxDoesNothing()
@@ -559,7 +554,7 @@ private slots:
         RainGame game;
         game.rain.start();
         const auto step = game.rain.answer(false);
-        QVERIFY(!step.focus && !step.phasePrepared);
+        QVERIFY(asksNoFocus(step) && !step.phasePrepared);
         QVERIFY(game.rain.running());
         QVERIFY(!game.rain.over());
     }
@@ -569,17 +564,17 @@ private slots:
         RainGame game;
         game.reachPhase(2);
         while (game.state().PuntosTotales <= 32767 - 150)
-            if (game.shoot(5, game.state().Objetivos.front().value()).box)
+            if (game.shoot(5, game.rain.phase().Objetivos().front().value()).box)
                 game.rain.answer();
         const auto total = game.state().PuntosTotales;
         const auto hits = game.state().Aciertos;
-        const int slot = game.launch(5, 5, game.state().Objetivos.front().value());
+        const int slot = game.launch(5, 5, game.rain.phase().Objetivos().front().value());
         QVERIFY_THROWS_EXCEPTION(core::OverflowError, game.rain.click(slot));
         QCOMPARE(game.state().PuntosTotales.value(), total.value());
         QCOMPARE(game.state().Aciertos.value(), hits.value());
         QCOMPARE(game.state().Puntos.value(), 100);
-        QVERIFY(!game.state().Libre[slot]);
-        QVERIFY(!game.rain.answer().focus); // no box is open
+        QVERIFY(!game.rain.fall().Libre()[slot]);
+        QVERIFY(asksNoFocus(game.rain.answer())); // no box is open
     }
 
 private:
@@ -591,7 +586,7 @@ private:
             return;
         }
         game.calm();
-        game.scriptLaunch(5, 1, game.state().Otros.front().value());
+        game.scriptLaunch(5, 1, game.rain.phase().Otros().front().value());
         const int slot = game.firstFree();
         game.tick();
         game.rain.click(slot);

@@ -2,29 +2,34 @@
 
 #include "games/rain_drop.h"
 #include "games/rain_game.h"
+#include "games/rain_halo.h"
+#include "games/rain_splash.h"
+#include "games/token_row.h"
 #include "support/animation_clock.h"
 #include "support/screen_bench.h"
 #include "support/still_style.h"
-#include "ui/glide.h"
 
 #include <QMenu>
 
 #include <random>
 
-using games::RainState;
+using games::RainFall;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int Height = 9270; // of the canvas, in twips
-constexpr int Rows = 17; // steps from launch to escape
+constexpr int Height = 7260; // of the canvas, in twips
+constexpr int Rows = 13; // steps from launch to escape
+constexpr int Tick = 800; // milliseconds, on Easy
+constexpr int Trip = Tick * 95 / 100; // of a number of class 5 in a tick
 
 /// The screen with a beep that is counted instead of heard.
 class QuietForm5 final : public games::Form5 {
 public:
     using Form5::Form5;
     using Screen::designHeight;
+    using Screen::designWidth;
 
     int beeps = 0;
 
@@ -288,7 +293,7 @@ private slots:
         QCOMPARE(launch(1, 1, 2), 0);
         QCOMPARE(drop(0).text(), u"2"_s);
         QCOMPARE(drop(0).pos(), at(500, 780));
-        clock.pass(ui::Glide::Milliseconds);
+        clock.pass(Tick);
         QCOMPARE(drop(0).pos(), at(500, 780));
     }
 
@@ -512,7 +517,7 @@ private slots:
         }
     }
 
-    void numbersGlideDownAndStayHittable()
+    void numbersFlowDownAndStayHittable()
     {
         QApplication::setStyle(new ui::Style);
         AnimationClock clock;
@@ -521,7 +526,7 @@ private slots:
         tick();
         int last = drop(0).y();
         QVERIFY(last < at(0, 1280).y());
-        for (const int frame : {20, 50, 30}) {
+        for (const int frame : {120, 250, 160}) {
             clock.pass(frame);
             QVERIFY(drop(0).y() > last);
             last = drop(0).y();
@@ -529,21 +534,170 @@ private slots:
         QVERIFY(last < at(0, 1280).y());
         tick(); // before the glide has ended
         QCOMPARE(drop(0).y(), last);
-        clock.pass(ui::Glide::Milliseconds / 2);
+        clock.pass(Trip / 2);
         QVERIFY(drop(0).y() > last);
         click(0);
         QCOMPARE(bench->text(u"Text2(0)"_s), u"150"_s);
     }
 
-    void aGlideEndsAtTheModelsPlace()
+    void aStepTakesNearlyAllTheTimeToTheNext_data()
+    {
+        QTest::addColumn<int>("velocidad");
+        for (int velocidad = 1; velocidad <= 5; ++velocidad)
+            QTest::addRow("class %d", velocidad) << velocidad;
+    }
+    void aStepTakesNearlyAllTheTimeToTheNext()
+    {
+        QFETCH(int, velocidad);
+        QApplication::setStyle(new ui::Style);
+        AnimationClock clock;
+        run();
+        launch(7, velocidad, 3);
+        const int ticks = 6 - velocidad;
+        for (int waited = 0; waited < ticks; ++waited)
+            tick();
+        for (int waited = 1; waited < ticks; ++waited) {
+            clock.pass(Tick);
+            QVERIFY(drop(0).y() > at(0, 780).y() && drop(0).y() < at(0, 1280).y());
+            if (model->ticks % 6 != 5)
+                tick(); // shows the same place again, which must not hold the number up
+        }
+        clock.pass(Tick * 9 / 10);
+        QVERIFY(drop(0).y() < at(0, 1280).y());
+        clock.pass(Tick / 20);
+        QCOMPARE(drop(0).pos(), at(3500, 1280));
+    }
+
+    // --- what a pupil sees beside the numbers
+
+    void starsCountTheHitsAndHeartsTheLives()
+    {
+        auto& stars = bench->control<games::TokenRow>(u"rainHits"_s);
+        const auto& hearts = bench->control<games::TokenRow>(u"rainLives"_s);
+        QCOMPARE(stars.lit(), 0);
+        QCOMPARE(hearts.lit(), 3);
+        const QImage none = stars.grab().toImage();
+        run();
+        click(launch(5, 3, 7));
+        QCOMPARE(stars.lit(), 1);
+        QVERIFY(stars.grab().toImage() != none);
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog&) { QCOMPARE(hearts.lit(), 2); };
+        loseLife();
+        QCOMPARE(hearts.lit(), 2);
+        QCOMPARE(stars.lit(), 1); // hits outlast games
+    }
+
+    void everyNumberStaysInSightHoweverItDrifts()
+    {
+        run();
+        launch(19, 5, 3);
+        for (int row = 1; row < Rows; ++row) {
+            for (int slot = 0; slot < RainFall::Slots; ++slot) {
+                if (model->rain.fall().Libre()[slot] || model->gota(slot).Espera != 1
+                    || model->gota(slot).Deriva > 0)
+                    continue;
+                if (slot == 0)
+                    model->random.append({0.0f, 0.9f}); // always to the right
+                else
+                    model->random.append({RainGame::Never});
+            }
+            if (model->ticks % 6 == 5)
+                model->scriptLaunch(1, 1, 2);
+            tickBoth();
+            QVERIFY(drop(0).isVisible());
+            QVERIFY(drop(0).geometry().right() < at(screen->designWidth(), 0).x());
+        }
+        QCOMPARE(model->gota(0).Columna.value(), 29);
+    }
+
+    void theHaloIsForWhoPlaysByKeyboard()
+    {
+        const auto* halo = screen->findChild<games::RainHalo*>();
+        run(); // by mouse
+        launch(5, 1, 7);
+        QCOMPARE(bench->focusName(), u"CbNave(0)"_s);
+        QVERIFY(!halo->isVisible());
+        QTest::keyClick(&drop(0), Qt::Key_Shift);
+        QVERIFY(halo->isVisible());
+        QVERIFY(halo->geometry().contains(drop(0).geometry()));
+        launch(8, 1, 9);
+        QVERIFY(halo->geometry().contains(drop(1).geometry()));
+        click(0); // by mouse again
+        QVERIFY(!halo->isVisible());
+        launch(9, 1, 9);
+        QVERIFY(!halo->isVisible());
+    }
+
+    void theHaloGoesWithItsNumber()
+    {
+        const auto* halo = screen->findChild<games::RainHalo*>();
+        run();
+        launch(5, 5, 7);
+        QTest::keyClick(&drop(0), Qt::Key_Shift);
+        step();
+        QVERIFY(halo->geometry().contains(drop(0).geometry()));
+        QTest::keyClick(&drop(0), Qt::Key_Space);
+        model->rain.click(0);
+        QVERIFY(!halo->isVisible());
+    }
+
+    void aPressBesideANumberCountsForTheNearest_data()
+    {
+        QTest::addColumn<int>("beside"); // pixels at factor 1, to the right of the left number
+        QTest::addColumn<int>("hit"); // the slot, or none
+        QTest::newRow("touching") << 1 << 0;
+        QTest::newRow("as far as it goes") << 9 << 0;
+        QTest::newRow("too far from both") << 20 << -1;
+        QTest::newRow("nearer to the other") << 49 << 1;
+    }
+    void aPressBesideANumberCountsForTheNearest()
+    {
+        QFETCH(int, beside);
+        QFETCH(int, hit);
+        run();
+        launch(5, 1, 1);
+        launch(8, 1, 3); // 100 pixels to the right: 56 from edge to edge
+        const QRect left = drop(0).geometry();
+        const int x = left.right() + qRound(beside * screen->factor());
+        QTest::mouseClick(drop(0).parentWidget(), Qt::LeftButton, {}, {x, left.top() + 5}); // both are there
+        if (hit >= 0)
+            model->rain.click(hit);
+        compare();
+        QVERIFY(hit < 0 || !drop(hit).isVisible());
+    }
+
+    void everyFateOfANumberSplashesItsOwnWay()
     {
         QApplication::setStyle(new ui::Style);
         AnimationClock clock;
         run();
-        launch(7, 5, 3);
-        tick();
-        clock.pass(ui::Glide::Milliseconds);
-        QCOMPARE(drop(0).pos(), at(3500, 1280));
+        launch(5, 3, 7);
+        click(0);
+        QCOMPARE(splash().kind(), games::RainSplash::Kind::Hit);
+        QCOMPARE(splash().text(), u"+30"_s);
+        clock.pass(1000);
+        QTRY_VERIFY(!screen->findChild<games::RainSplash*>());
+        launch(5, 3, 8);
+        click(0);
+        QCOMPARE(splash().kind(), games::RainSplash::Kind::Miss);
+        QCOMPARE(splash().text(), u"\u22123"_s);
+        clock.pass(1000);
+        QTRY_VERIFY(!screen->findChild<games::RainSplash*>());
+        launch(5, 5, 7);
+        for (int steps = 0; steps < Rows; ++steps)
+            step();
+        QCOMPARE(splash().kind(), games::RainSplash::Kind::Ground);
+        QCOMPARE(splash().text(), u"\u221225"_s);
+        QVERIFY(splash().geometry().bottom() > at(0, Height).y());
+    }
+
+    void nothingSplashesInAStillStyle()
+    {
+        run();
+        launch(5, 3, 7);
+        click(0);
+        QVERIFY(!screen->findChild<games::RainSplash*>());
     }
 
     void aRandomGameShowsWhatTheModelSays_data()
@@ -571,7 +725,7 @@ private slots:
             model->random = draws;
             tickBoth();
             compare();
-            const int slot = static_cast<int>(engine() % RainState::Slots);
+            const int slot = static_cast<int>(engine() % RainFall::Slots);
             if (drop(slot).isVisible() && engine() % 3 == 0)
                 click(slot);
             compare();
@@ -668,8 +822,8 @@ private:
         QCOMPARE(bench->text(u"Text2(1)"_s), rain.livesText());
         QCOMPARE(start().isVisible(), rain.waiting());
         QCOMPARE(start().isEnabled(), rain.waiting());
-        for (int slot = 0; slot < RainState::Slots; ++slot) {
-            const bool taken = !model->state().Libre[slot];
+        for (int slot = 0; slot < RainFall::Slots; ++slot) {
+            const bool taken = !model->rain.fall().Libre()[slot];
             QCOMPARE(drop(slot).isVisible(), taken);
             QCOMPARE(drop(slot).isEnabled(), taken);
             if (!taken)
@@ -687,6 +841,13 @@ private:
     QPushButton& drop(int slot) const
     {
         return bench->control<QPushButton>(u"CbNave(%1)"_s.arg(slot));
+    }
+    games::RainSplash& splash() const
+    {
+        auto* found = screen->findChild<games::RainSplash*>();
+        if (found == nullptr)
+            qFatal("no splash");
+        return *found;
     }
     QPushButton& start() const { return bench->control<QPushButton>(u"CbEmpezar"_s); }
     QTimer& timer(int number) const { return bench->control<QTimer>(u"Timer%1"_s.arg(number)); }

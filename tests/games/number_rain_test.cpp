@@ -6,8 +6,7 @@
 
 using core::Int16;
 using games::Difficulty;
-using games::RainFocus;
-using games::RainState;
+using games::RainFall;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,7 +31,7 @@ private slots:
     void isReadyAtPhase1OnEasy()
     {
         const RainGame game;
-        QCOMPARE(game.state().Fase.value(), 1);
+        QCOMPARE(game.rain.phase().Fase().value(), 1);
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.state().PuntosTotales.value(), 0);
         QCOMPARE(game.state().Vidas.value(), 3);
@@ -98,9 +97,9 @@ private slots:
 
         const auto step = game.rain.chooseDifficulty(Difficulty::Normal);
         QVERIFY(step.phasePrepared);
-        QVERIFY(step.focus == RainFocus::CbEmpezar);
+        QVERIFY(step.waits && !step.launched);
         QVERIFY(!step.box);
-        QCOMPARE(game.state().Fase.value(), 1);
+        QCOMPARE(game.rain.phase().Fase().value(), 1);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase 1"_s);
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.state().PuntosTotales.value(), 0);
@@ -111,8 +110,8 @@ private slots:
         QCOMPARE(game.rain.livesText(), u"Vidas : 3"_s);
         QVERIFY(game.rain.waiting());
         QVERIFY(!game.rain.running());
-        for (int slot = 0; slot < RainState::Slots; ++slot)
-            QCOMPARE(game.state().Libre[slot], slot != 10 && slot != 11);
+        for (int slot = 0; slot < RainFall::Slots; ++slot)
+            QCOMPARE(game.rain.fall().Libre()[slot], slot != 10 && slot != 11);
     }
 
     void theTickCounterOutlivesANewGame()
@@ -155,8 +154,8 @@ private slots:
         game.reachPhase(fase);
         QCOMPARE(game.rain.caption(), u"Lluvia de números - Fase "_s + QString::number(fase));
         QTEST(game.rain.instruction(), "instruction");
-        QCOMPARE(values(game.state().Objetivos), targets);
-        const QList<int> others = values(game.state().Otros);
+        QCOMPARE(values(game.rain.phase().Objetivos()), targets);
+        const QList<int> others = values(game.rain.phase().Otros());
         QTEST(static_cast<int>(others.size()), "others");
         QTEST(others.last(), "lastOther");
         QVERIFY(std::is_sorted(others.begin(), others.end()));
@@ -184,7 +183,7 @@ private slots:
         QFETCH(int, fase);
         RainGame game;
         game.reachPhase(fase);
-        QTEST(values(game.state().Otros), "others");
+        QTEST(values(game.rain.phase().Otros()), "others");
     }
 
     void everySixthTickLaunches()
@@ -196,7 +195,7 @@ private slots:
         const auto step = game.tick();
         QCOMPARE(game.taken(), 1);
         QCOMPARE(game.state().Lanzados.value(), 1);
-        QVERIFY(step.focus == RainFocus::CbNave);
+        QVERIFY(step.launched);
         QCOMPARE(step.launched, std::optional(0));
         game.calmTicks(5);
         QCOMPARE(game.taken(), 1);
@@ -248,20 +247,20 @@ private slots:
         game.rain.click(2);
         game.rain.click(1);
         game.launch(8, 2, 5);
-        QVERIFY(!game.state().Libre[1]);
-        QVERIFY(game.state().Libre[2]);
+        QVERIFY(!game.rain.fall().Libre()[1]);
+        QVERIFY(game.rain.fall().Libre()[2]);
         QCOMPARE(game.gota(1).Valor.value(), 5);
     }
 
     void launchesNothingWhenAllSlotsAreTaken()
     {
         RainGame game;
-        for (int slot = 0; slot < RainState::Slots; ++slot)
+        for (int slot = 0; slot < RainFall::Slots; ++slot)
             game.launch(8, 1, 2);
         game.calmTicks(5);
         game.calm();
         const auto step = game.tick(); // would launch: no draws are scripted for it
-        QVERIFY(!step.focus);
+        QVERIFY(asksNoFocus(step));
         QCOMPARE(game.taken(), 20);
         QCOMPARE(game.state().Lanzados.value(), 20);
         game.rain.click(7);

@@ -9,6 +9,12 @@
 using namespace Qt::StringLiterals;
 using games::DlgCarrera;
 
+namespace {
+
+constexpr QSizeF DesignSize(884, 470); // pixels at factor 1
+
+} // namespace
+
 class RaceOptionsScreenTest : public QObject {
     Q_OBJECT
 
@@ -52,11 +58,36 @@ private slots:
         open();
         for (int percent = 70; percent <= 400; percent += 7) { // any, in a maximised window
             const double factor = percent / 100.0;
-            dialog->resize((QSizeF(776, 372) * factor).toSize());
-            for (const QString& name : {u"List1"_s, u"List3"_s})
+            dialog->resize((DesignSize * factor).toSize());
+            for (const QString& name : {u"List1"_s, u"List2"_s, u"List3"_s})
                 QVERIFY2(!list(name).verticalScrollBar()->isVisible(),
                     qPrintable(QString::number(factor)));
         }
+    }
+
+    void everyCarIsSeenInItsLine()
+    {
+        open();
+        for (const QString& name : {u"List1"_s, u"List2"_s}) {
+            const QSize wanted = QSize(84, 36) * dialog->factor();
+            QCOMPARE(list(name).iconSize(), wanted);
+            for (int row = 0; row < list(name).count(); ++row) {
+                const QSize shown = list(name).item(row)->icon().actualSize(wanted);
+                QVERIFY(shown.width() >= wanted.width() - 1 && !shown.isEmpty());
+                QVERIFY(
+                    list(name).visualItemRect(list(name).item(row)).height() >= wanted.height());
+            }
+        }
+        QVERIFY(list(u"List3"_s).item(0)->icon().isNull());
+    }
+
+    void acceptStandsAtTheBottomRight()
+    {
+        open();
+        const QRect accept = bench->control<QPushButton>(u"OKButton"_s).geometry();
+        for (const auto* other : dialog->findChildren<QListWidget*>())
+            QVERIFY(accept.bottom() >= other->geometry().bottom());
+        QVERIFY(accept.right() >= list(u"List3"_s).geometry().right());
     }
 
     void untouchedItGivesTheFirstOfEach()

@@ -1,11 +1,11 @@
 #include "games/race_screen.h"
 
 #include "games/race_options_screen.h"
+#include "games/race_track.h"
 #include "support/animation_clock.h"
 #include "support/car_folder.h"
 #include "support/screen_bench.h"
 #include "support/still_style.h"
-#include "ui/glide.h"
 
 #include <QListWidget>
 
@@ -589,12 +589,98 @@ private slots:
         AnimationClock clock;
         openRace(7, 5);
         solve();
+        constexpr double Step = 9500.0 / 15;
         QCOMPARE(car(0).x(), pixels(9500));
-        clock.pass(ui::Glide::Milliseconds / 2);
-        QVERIFY(car(0).x() < pixels(9500) && car(0).x() > pixels(9500 - 9500.0 / 15));
-        clock.pass(ui::Glide::Milliseconds / 2);
-        QCOMPARE(car(0).x(), pixels(9500 - 9500.0 / 15));
+        clock.pass(350);
+        QVERIFY(car(0).x() < pixels(9500) && car(0).x() > pixels(9500 - Step));
+        clock.pass(350);
+        QCOMPARE(car(0).x(), pixels(9500 - Step));
         QApplication::setStyle(new StillStyle);
+    }
+
+    void theRivalFlowsFromStepToStep()
+    {
+        QApplication::setStyle(new ui::Style);
+        AnimationClock clock;
+        openRace(7, 5);
+        solve();
+        for (int step = 1; step <= 3; ++step) {
+            bench->tick(u"Timer2"_s);
+            clock.pass(300); // of 450
+            QVERIFY(car(1).x() < pixels(9500 - 9500.0 / 60 * (step - 1)));
+            QVERIFY(car(1).x() > pixels(9500 - 9500.0 / 60 * step));
+            clock.pass(150);
+            verifyCarLeft(1, 9500 - 9500.0 / 60 * step);
+        }
+        QApplication::setStyle(new StillStyle);
+    }
+
+    void aWrongAnswerJoltsTheCar()
+    {
+        QApplication::setStyle(new ui::Style);
+        AnimationClock clock;
+        openRace(7, 5);
+        answer(u"36"_s);
+        clock.pass(80);
+        QVERIFY(car(0).x() > pixels(9500));
+        clock.pass(240);
+        verifyCarLeft(0, 9500);
+        QApplication::setStyle(new StillStyle);
+    }
+
+    void marksOnTheKerbCountTheSteps()
+    {
+        openRace(7, 5);
+        auto& track = control<QWidget>(u"Picture1"_s);
+        const auto mark = [&](int step) {
+            const double x = 9500 - 9500.0 / 15 * step + 150;
+            return track.grab().toImage().pixelColor(pixels(x), pixels(90));
+        };
+        for (int step = 1; step <= 15; ++step)
+            QVERIFY(mark(step) != QColor(ui::look::Gold));
+        solve();
+        solve();
+        for (int step = 1; step <= 15; ++step)
+            QCOMPARE(mark(step) == QColor(ui::look::Gold), step <= 2);
+        scriptFactors(3, 6);
+        bench->click(u"Command1(1)"_s);
+        QVERIFY(mark(1) != QColor(ui::look::Gold));
+    }
+
+    void aWinIsCelebratedBehindItsBox()
+    {
+        openRace(7, 5);
+        for (int step = 1; step < 15; ++step)
+            solve();
+        const auto& podium = control<QWidget>(u"racePodium"_s);
+        QVERIFY(!podium.isVisible());
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog&) { QVERIFY(podium.isVisible()); };
+        solve();
+        QVERIFY(!podium.isVisible());
+    }
+
+    void aDefeatIsNot()
+    {
+        openRace(7, 5);
+        solve();
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog&) {
+            QVERIFY(!control<QWidget>(u"racePodium"_s).isVisible());
+        };
+        for (int step = 0; step < 60; ++step)
+            bench->tick(u"Timer2"_s);
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+
+    void theAnswerBoxShowsTheVerdictUntilItIsTypedInto()
+    {
+        openRace(7, 5);
+        answer(u"36"_s);
+        QCOMPARE(control<ui::TextBox>(u"TBResultado"_s).edge(), QColor(ui::look::Wrong));
+        bench->click(u"CBConmutar"_s);
+        bench->click(u"CBCalcu(3)"_s);
+        QVERIFY(!control<ui::TextBox>(u"TBResultado"_s).edge());
     }
 
     void closingTheRaceUnloadsItsOptions()
@@ -628,8 +714,7 @@ private slots:
 private:
     void openDialog()
     {
-        bench->screens.show(u"FrmCarrera"_s);
-        screen = static_cast<QuietRace*>(bench->screens.loaded(u"FrmCarrera"_s));
+        screen = static_cast<QuietRace*>(&bench->show(u"FrmCarrera"_s));
         bench->attach(*screen);
         QTRY_VERIFY(bench->screens.loaded(u"DlgCarrera"_s));
         dialog = static_cast<DlgCarrera*>(bench->screens.loaded(u"DlgCarrera"_s));
@@ -709,13 +794,13 @@ private:
         return control<QTimer>(u"Timer1"_s).isActive() || control<QTimer>(u"Timer2"_s).isActive();
     }
     int pixels(double twips) const { return qRound(twips * screen->factor() / 15); }
-    double trackTwips() const { return 2600; }
+    double trackTwips() const { return games::RaceTrack::Height; }
 
     void verifyCarLeft(int index, double left) { QCOMPARE(car(index).x(), pixels(left)); }
 
     void verifyCar(int index, double left, double top)
     {
-        QCOMPARE(car(index).parentWidget()->height(), pixels(trackTwips()));
+        QVERIFY(qAbs(car(index).parentWidget()->height() - pixels(trackTwips())) <= 1);
         QCOMPARE(car(index).pos(), QPoint(pixels(left), pixels(top)));
         QVERIFY(qAbs(car(index).height() - 1000 * screen->factor() / 15) <= 1);
         QVERIFY(qAbs(car(index).width() - 1000.0 * 800 / 340 * screen->factor() / 15) <= 1);

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 using games::Race;
-using Verdict = Race::Verdict;
+using shell::Verdict;
 using RivalStep = Race::RivalStep;
 
 class RaceTest : public QObject {
@@ -123,7 +123,7 @@ private slots:
         prepare(7, 5);
         for (int factor : {7, 7, 3, 5, 5, 7}) // 7 and 5 are drawn again until they differ
             random.appendInteger(factor, 9, 2);
-        QCOMPARE(race->answer(35), Verdict::Right);
+        QCOMPARE(race->judge(35), Verdict::Right);
         QCOMPARE(race->operation(), u"3 × 7 ="_s); // 7 was the other factor: allowed
         QCOMPARE(random.left(), 0u);
     }
@@ -176,11 +176,11 @@ private slots:
         prepare(7, 5);
         QVERIFY(!race->clocksRun());
         scriptFactors(2, 8);
-        QCOMPARE(race->answer(35), Verdict::Right);
+        QCOMPARE(race->judge(35), Verdict::Right);
         QVERIFY(race->clocksRun());
         QCOMPARE(race->solved(), 1);
         QCOMPARE(race->operation(), u"2 × 8 ="_s);
-        QCOMPARE(race->feedback(), u"Correcto "_s);
+        QCOMPARE(race->verdict().text(), u"Correcto "_s);
         QCOMPARE(race->playerLeft(), 9500.0 - 9500.0 / 15);
         QCOMPARE(race->rivalLeft(), 9500.0);
     }
@@ -197,9 +197,9 @@ private slots:
     {
         QFETCH(double, answer);
         prepare(7, 5);
-        QCOMPARE(race->answer(answer), Verdict::Wrong);
+        QCOMPARE(race->judge(answer), Verdict::Wrong);
         QCOMPARE(race->operation(), u"7 × 5 ="_s);
-        QCOMPARE(race->feedback(), u"Error"_s);
+        QCOMPARE(race->verdict().text(), u"Error"_s);
         QCOMPARE(race->solved(), 0);
         QVERIFY(!race->clocksRun());
         QCOMPARE(race->playerLeft(), 9500.0);
@@ -210,8 +210,8 @@ private slots:
     {
         prepare(7, 5);
         scriptFactors(2, 8);
-        race->answer(35);
-        race->answer(0);
+        race->judge(35);
+        race->judge(0);
         QVERIFY(race->clocksRun());
     }
 
@@ -223,7 +223,7 @@ private slots:
         race->PreparaCarrera({0, 0, 2});
         scriptFactors(4, 4);
         random.append({0.0f, 0.0f});
-        QCOMPARE(race->answer(0), Verdict::Right);
+        QCOMPARE(race->judge(0), Verdict::Right);
     }
 
     void everySecondFeedbackHasABlankInFront()
@@ -235,8 +235,8 @@ private slots:
                 scriptFactors(2, 8);
             if (answer == 16.0)
                 scriptFactors(7, 5);
-            race->answer(answer);
-            shown << race->feedback();
+            race->judge(answer);
+            shown << race->verdict().text();
         }
         QCOMPARE(shown,
             (QStringList{u"Error"_s, u" Error"_s, u"Correcto "_s, u" Correcto "_s, u"Error"_s}));
@@ -245,31 +245,77 @@ private slots:
     void everyRaceStartsWithoutTheBlank()
     {
         prepare(7, 5);
-        race->answer(0);
+        race->judge(0);
         race->reset();
         prepare(2, 8);
-        race->answer(0);
-        QCOMPARE(race->feedback(), u"Error"_s);
+        race->judge(0);
+        QCOMPARE(race->verdict().text(), u"Error"_s);
     }
 
     void secondRowCountsButKeepsTheOperation()
     {
         prepare(7, 5);
-        QCOMPARE(race->answerInRow(36), Verdict::Wrong);
-        QCOMPARE(race->feedback(), u"ERROR"_s);
+        QCOMPARE(race->judgeRow(36), Verdict::Wrong);
+        QCOMPARE(race->verdict().text(), u"ERROR"_s);
         QVERIFY(!race->clocksRun());
-        QCOMPARE(race->answerInRow(35), Verdict::Right);
-        QCOMPARE(race->feedback(), u"CORRECTO"_s);
+        QCOMPARE(race->judgeRow(35), Verdict::Right);
+        QCOMPARE(race->verdict().text(), u"CORRECTO"_s);
         QVERIFY(race->clocksRun());
         QCOMPARE(race->solved(), 1);
         QCOMPARE(race->operation(), u"7 × 5 ="_s);
-        race->answer(0);
-        QCOMPARE(race->feedback(), u"Error"_s); // the row does not flip the blank
+        race->judge(0);
+        QCOMPARE(race->verdict().text(), u"Error"_s); // the row does not flip the blank
         for (int step = 2; step < 15; ++step)
-            QCOMPARE(race->answerInRow(35), Verdict::Right);
-        QCOMPARE(race->answerInRow(35), Verdict::Won);
+            QCOMPARE(race->judgeRow(35), Verdict::Right);
+        QVERIFY(!race->isOver());
+        QCOMPARE(race->judgeRow(35), Verdict::Right);
         QVERIFY(race->isOver());
-        QCOMPARE(race->answerInRow(35), Verdict::Ignored);
+        QCOMPARE(race->judgeRow(35), Verdict::NotJudged);
+    }
+
+    // --- aloud
+
+    void operationsAreSaidInWords_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<float>("sign");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("product") << 0 << -1.0f << u"7 por 5"_s;
+        QTest::newRow("quotient") << 1 << -1.0f << u"35 entre 7"_s;
+        QTest::newRow("plus") << 2 << 0.0f << u"7 por 5 más 2"_s;
+        QTest::newRow("minus") << 3 << 0.5f << u"35 entre 7 menos 1"_s;
+    }
+    void operationsAreSaidInWords()
+    {
+        QFETCH(float, sign);
+        QFETCH(int, type);
+        QCOMPARE(race->spokenOperation(), QString());
+        scriptFactors(7, 5);
+        if (sign >= 0)
+            random.append({0.0f, sign});
+        race->PreparaCarrera({0, 0, type});
+        QTEST(race->spokenOperation(), "words");
+    }
+
+    void standingsAreSaidEveryFiveAnswers()
+    {
+        prepare(7, 5);
+        QStringList said{race->spokenStandings()};
+        for (int answers = 1; answers <= 10; ++answers) {
+            if (answers == 3)
+                race->judgeRow(-1); // a wrong one is an answer too
+            else
+                solve();
+            for (int step = 0; step < 3; ++step)
+                race->rivalStep();
+            said << race->spokenStandings();
+        }
+        QStringList expected(11);
+        expected[5] = u"Tú: 4 de 15. Rival: 3 de 15."_s;
+        expected[10] = u"Tú: 9 de 15. Rival: 7 de 15."_s;
+        QCOMPARE(said, expected);
+        race->reset();
+        QCOMPARE(race->spokenStandings(), QString());
     }
 
     // --- the two ends
@@ -283,7 +329,7 @@ private slots:
             race->secondPassed();
         }
         QVERIFY(!race->isOver());
-        QCOMPARE(solve(), Verdict::Won);
+        QCOMPARE(solve(), Verdict::Right);
         QCOMPARE(race->solved(), 15);
         QVERIFY(race->isOver());
         QVERIFY(!race->clocksRun());
@@ -315,13 +361,13 @@ private slots:
         for (int step = 0; step < 15; ++step)
             solve();
         const QString operation = race->operation();
-        const QString feedback = race->feedback();
-        QCOMPARE(race->answer(race->result()), Verdict::Ignored);
-        QCOMPARE(race->answer(-1), Verdict::Ignored);
+        const QString feedback = race->verdict().text();
+        QCOMPARE(race->judge(race->result()), Verdict::NotJudged);
+        QCOMPARE(race->judge(-1), Verdict::NotJudged);
         QCOMPARE(race->rivalStep(), RivalStep::Ignored);
         race->secondPassed();
         QCOMPARE(race->operation(), operation);
-        QCOMPARE(race->feedback(), feedback);
+        QCOMPARE(race->verdict().text(), feedback);
         QCOMPARE(race->solved(), 15);
         QCOMPARE(race->rivalSteps(), 0);
         QCOMPARE(race->seconds(), 0);
@@ -330,7 +376,7 @@ private slots:
 
     void beforeTheFirstRaceNothingCounts()
     {
-        QCOMPARE(race->answer(0), Verdict::Ignored);
+        QCOMPARE(race->judge(0), Verdict::NotJudged);
         QCOMPARE(race->rivalStep(), RivalStep::Ignored);
         race->secondPassed();
         QCOMPARE(race->seconds(), 0);
@@ -355,7 +401,7 @@ private slots:
         race->rivalStep();
         race->reset();
         QVERIFY(!race->clocksRun());
-        QCOMPARE(race->answer(race->result()), Verdict::Ignored); // not set up yet
+        QCOMPARE(race->judge(race->result()), Verdict::NotJudged); // not set up yet
         scriptFactors(2, 2);
         race->PreparaCarrera({3, 4, 1});
         QCOMPARE(race->solved(), 0);
@@ -377,7 +423,7 @@ private slots:
         race->PreparaCarrera({});
         QVERIFY(!race->isOver());
         scriptFactors(3, 3);
-        QCOMPARE(race->answer(4), Verdict::Right);
+        QCOMPARE(race->judge(4), Verdict::Right);
         QCOMPARE(race->solved(), 1);
     }
 
@@ -428,7 +474,7 @@ private slots:
             if (now % race->rivalInterval() == 0)
                 race->rivalStep();
             else if (now % pause == 0)
-                won = solve() == Verdict::Won;
+                won = solve() == Verdict::Right && race->isOver();
         }
         QTEST(won, "won");
         QTEST(race->seconds(), "seconds");
@@ -454,7 +500,7 @@ private:
             scriptFactors(8, 8);
         else
             scriptFactors(9, 9);
-        return race->answer(race->result());
+        return race->judge(race->result());
     }
 
     static std::pair<int, int> factorsOf(const QString& operation)

@@ -5,6 +5,12 @@
 
 #include <algorithm>
 
+/// Whether a step leaves the keyboard focus where it is.
+inline bool asksNoFocus(const games::RainStep& step)
+{
+    return !step.cleared && !step.waits && !step.launched;
+}
+
 /// A game of number rain whose every draw is scripted, with shortcuts to the state a test needs.
 class RainGame {
 public:
@@ -17,7 +23,7 @@ public:
     }
 
     const games::RainState& state() const { return rain.state(); }
-    const games::Gota& gota(int slot) const { return state().Gotas[slot]; }
+    const games::Gota& gota(int slot) const { return rain.fall().Gotas()[slot]; }
 
     /// A tick for which these draws are scripted; every one of them must be used up.
     games::RainStep tick(std::initializer_list<float> draws = {})
@@ -60,8 +66,8 @@ public:
     {
         random.appendInteger(columna, 19, 1);
         random.appendInteger(velocidad, 5, 1);
-        const bool target = contains(state().Objetivos, valor);
-        const auto& list = target ? state().Objetivos : state().Otros;
+        const bool target = contains(rain.phase().Objetivos(), valor);
+        const auto& list = target ? rain.phase().Objetivos() : rain.phase().Otros();
         random.append({target ? 0.0f : 0.9f});
         const auto place = std::ranges::find(list, core::Int16(valor)) - list.begin();
         random.appendInteger(static_cast<int>(place) + 1, static_cast<int>(list.size()), 1);
@@ -70,8 +76,8 @@ public:
     /// Scripts for every number that is due to step that it does not start to drift.
     void calm()
     {
-        for (int slot = 0; slot < games::RainState::Slots; ++slot)
-            if (!state().Libre[slot] && gota(slot).Espera == 1 && gota(slot).Deriva <= 0)
+        for (int slot = 0; slot < games::RainFall::Slots; ++slot)
+            if (!rain.fall().Libre()[slot] && gota(slot).Espera == 1 && gota(slot).Deriva <= 0)
                 random.append({Never});
     }
 
@@ -85,18 +91,19 @@ public:
     void reachPhase(int fase)
     {
         rain.start();
-        while (state().Fase < fase) {
-            if (shoot(1, state().Objetivos.front().value()).box)
+        while (rain.phase().Fase() < fase) {
+            if (shoot(1, rain.phase().Objetivos().front().value()).box)
                 rain.answer();
         }
     }
 
     int firstFree() const
     {
-        return static_cast<int>(std::ranges::find(state().Libre, true) - state().Libre.begin());
+        return static_cast<int>(
+            std::ranges::find(rain.fall().Libre(), true) - rain.fall().Libre().begin());
     }
 
-    int taken() const { return static_cast<int>(std::ranges::count(state().Libre, false)); }
+    int taken() const { return static_cast<int>(std::ranges::count(rain.fall().Libre(), false)); }
 
     static bool contains(const std::vector<core::Int16>& list, int number)
     {

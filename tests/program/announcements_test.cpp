@@ -186,6 +186,35 @@ private slots:
         QVERIFY2(heard().contains(rule.text()), qPrintable(rule.text()));
     }
 
+    void rainSpeaksWhatBecameOfANumber()
+    {
+        ui::Screen& screen = open(u"Form5"_s);
+        click(screen, u"CbEmpezar"_s);
+        auto& clock = ScreenBench::find<QTimer>(screen, u"Timer1"_s);
+        auto& number = ScreenBench::find<QPushButton>(screen, u"CbNave(0)"_s);
+        clock.stop();
+        while (!number.isVisible())
+            QMetaObject::invokeMethod(&clock, "timeout", Qt::DirectConnection);
+        heard();
+        const bool target = number.text().toInt() % 2 == 1;
+        QTest::mouseClick(&number, Qt::LeftButton);
+        QCOMPARE(heard(), {target ? u"Acierto 1"_s : u"Error"_s});
+    }
+
+    void rainSpeaksALifeLost()
+    {
+        ui::Screen& screen = open(u"Form5"_s);
+        ScreenBench::find<QAction>(screen, u"MnuOpcMod(2)"_s).trigger();
+        click(screen, u"CbEmpezar"_s);
+        auto& clock = ScreenBench::find<QTimer>(screen, u"Timer1"_s);
+        clock.stop();
+        heard();
+        BoxAnswerer boxes(u"Aceptar"_s);
+        while (boxes.texts.isEmpty()) // until right ones enough have escaped
+            QMetaObject::invokeMethod(&clock, "timeout", Qt::DirectConnection);
+        QVERIFY(heard().contains(u"Vidas: 2"_s));
+    }
+
     void raceSpeaksOperationsAndVerdicts()
     {
         program->screens.show(u"FrmCarrera"_s);
@@ -194,12 +223,19 @@ private slots:
         ui::Screen& dialog = *program->screens.loaded(u"DlgCarrera"_s);
         makeActive(dialog);
         click(dialog, u"OKButton"_s);
-        const auto& operation = ScreenBench::find<QLineEdit>(screen, u"TBOperación"_s);
-        QTRY_COMPARE(spoken, QStringList{operation.text()}); // once the race is in front
+        const QString operation =
+            ScreenBench::find<QLineEdit>(screen, u"TBOperación"_s).text().remove(u" ="_s);
+        QTRY_COMPARE(spoken, QStringList{QString(operation).replace(u'×', u"por"_s)});
         spoken.clear();
         auto& answer = ScreenBench::find<QLineEdit>(screen, u"TBResultado"_s);
-        QTest::keyClick(&answer, Qt::Key_Return);
-        QCOMPARE(heard().size(), 1);
+        QStringList verdicts;
+        for (int answers = 1; answers <= 5; ++answers) {
+            QTest::keyClick(&answer, Qt::Key_Return);
+            verdicts << heard();
+        }
+        QCOMPARE(verdicts,
+            QStringList({u"Error"_s, u" Error"_s, u"Error"_s, u" Error"_s, u"Error"_s,
+                u"Tú: 0 de 15. Rival: 0 de 15."_s}));
     }
 
     void problemsSpeakTheirStatementAndUnitAndTheSolution()

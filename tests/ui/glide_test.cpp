@@ -5,6 +5,14 @@
 #include "support/still_style.h"
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto Step = 200ms;
+constexpr int Trip = 190; // milliseconds: nearly the whole step
+
+} // namespace
 
 /// Motion of controls. Places are pixels here: the glide only hands them to its mover.
 class GlideTest : public QObject {
@@ -37,12 +45,12 @@ private slots:
 
     void movesStepByStepAndEndsExactly()
     {
-        glide->send(control, {10, 20}, {50, 120});
+        glide->send(control, {10, 20}, {50, 120}, Step);
         QVERIFY(glide->isMoving());
         QVERIFY(places.isEmpty()); // the first step comes with the first frame
-        clock->pass(ui::Glide::Milliseconds / 2);
+        clock->pass(Trip / 2);
         QCOMPARE(places.last(), QPointF(30, 70));
-        clock->pass(ui::Glide::Milliseconds / 2 - 1);
+        clock->pass(Trip / 2 - 1);
         QVERIFY(places.last().y() > 119 && places.last().y() < 120);
         QVERIFY(glide->isMoving());
         clock->pass(1);
@@ -52,34 +60,69 @@ private slots:
 
     void aLateFrameEndsExactlyToo()
     {
-        glide->send(control, {10, 20}, {50, 120});
-        clock->pass(10 * ui::Glide::Milliseconds);
+        glide->send(control, {10, 20}, {50, 120}, Step);
+        clock->pass(10 * Trip);
         QVERIFY(!glide->isMoving());
         QCOMPARE(places.last(), QPointF(50, 120));
     }
 
     void aNewGoalIsReachedFromWhereTheControlIs()
     {
-        glide->send(control, {0, 0}, {0, 100});
-        clock->pass(ui::Glide::Milliseconds / 2);
+        glide->send(control, {0, 0}, {0, 100}, Step);
+        clock->pass(Trip / 2);
         QCOMPARE(places.last(), QPointF(0, 50));
-        glide->send(control, places.last(), {0, 200});
-        clock->pass(ui::Glide::Milliseconds / 2);
+        glide->send(control, places.last(), {0, 200}, Step);
+        clock->pass(Trip / 2);
         QCOMPARE(places.last(), QPointF(0, 125)); // in the whole time again
-        clock->pass(ui::Glide::Milliseconds / 2);
+        clock->pass(Trip / 2);
         QCOMPARE(control->pos(), QPoint(0, 200));
         QVERIFY(!glide->isMoving());
         QVERIFY(std::ranges::is_sorted(places, {}, &QPointF::y));
     }
 
+    void theSameGoalAgainDoesNotSlowAControlDown()
+    {
+        glide->send(control, {0, 0}, {0, 100}, Step);
+        for (int part = 1; part < 5; ++part) {
+            clock->pass(Trip / 5);
+            QCOMPARE(places.last(), QPointF(0, 20 * part));
+            glide->send(control, places.last(), {0, 100}, Step);
+        }
+        clock->pass(Trip / 5);
+        QVERIFY(!glide->isMoving());
+        QCOMPARE(control->pos(), QPoint(0, 100));
+    }
+
+    void aNudgeEndsWhereTheControlWas()
+    {
+        glide->nudge(control, {50, 20}, {10, 0}, 100ms);
+        clock->pass(25);
+        QCOMPARE(places.last(), QPointF(60, 20));
+        clock->pass(35);
+        QCOMPARE(places.last(), QPointF(45, 20));
+        clock->pass(40);
+        QVERIFY(!glide->isMoving());
+        QCOMPARE(places.last(), QPointF(50, 20));
+    }
+
+    void aNudgeOnTheWayEndsAtTheGoal()
+    {
+        glide->send(control, {0, 0}, {100, 0}, Step);
+        clock->pass(Trip / 2);
+        glide->nudge(control, places.last(), {10, 0}, 100ms);
+        clock->pass(100);
+        QVERIFY(!glide->isMoving());
+        QCOMPARE(control->pos(), QPoint(100, 0));
+    }
+
     void controlsMoveIndependently()
     {
-        glide->send(control, {0, 0}, {0, 100});
-        glide->send(other, {0, 0}, {100, 0});
+        glide->send(control, {0, 0}, {0, 100}, Step);
+        glide->send(other, {0, 0}, {100, 0}, Step);
         glide->put(control, {7, 9});
         QCOMPARE(control->pos(), QPoint(7, 9));
         QVERIFY(glide->isMoving());
-        clock->pass(ui::Glide::Milliseconds);
+        clock->pass(Trip);
         QVERIFY(!glide->isMoving());
         QCOMPARE(control->pos(), QPoint(7, 9)); // the glide was called off
         QCOMPARE(other->pos(), QPoint(100, 0));
@@ -88,7 +131,7 @@ private slots:
     void goesOnByItself()
     {
         clock.reset();
-        glide->send(control, {0, 0}, {0, 100});
+        glide->send(control, {0, 0}, {0, 100}, Step);
         QTRY_VERIFY(!glide->isMoving());
         QCOMPARE(control->pos(), QPoint(0, 100));
     }
@@ -96,18 +139,21 @@ private slots:
     void stillStyleJumps()
     {
         QApplication::setStyle(new StillStyle);
-        glide->send(control, {0, 0}, {30, 40});
+        glide->send(control, {0, 0}, {30, 40}, Step);
+        QVERIFY(!glide->isMoving());
+        QCOMPARE(control->pos(), QPoint(30, 40));
+        glide->nudge(control, {30, 40}, {10, 0}, 100ms);
         QVERIFY(!glide->isMoving());
         QCOMPARE(control->pos(), QPoint(30, 40));
     }
 
     void aControlMayGoOnItsWay()
     {
-        glide->send(control, {0, 0}, {0, 100});
-        glide->send(other, {0, 0}, {100, 0});
+        glide->send(control, {0, 0}, {0, 100}, Step);
+        glide->send(other, {0, 0}, {100, 0}, Step);
         delete control;
         control = nullptr;
-        clock->pass(ui::Glide::Milliseconds);
+        clock->pass(Trip);
         QVERIFY(!glide->isMoving());
         QCOMPARE(other->pos(), QPoint(100, 0));
     }

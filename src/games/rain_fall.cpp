@@ -1,0 +1,103 @@
+#include "games/rain_fall.h"
+
+#include "core/random.h"
+#include "games/rain_phase.h"
+
+#include <algorithm>
+
+namespace games {
+
+namespace {
+
+constexpr int TicksPerLaunch = 6;
+constexpr int StepsOfADrift = 5; // columns
+constexpr float TargetShare = 0.6f; // of the numbers launched
+constexpr int FirstColumn = 1; // a number that drifts left turns back there
+constexpr int BounceColumn = 10; // numbers launched to the right of it never bounce: meant
+constexpr int SlotsReset = 10; // the ten last keep their numbers from try to try: meant
+
+} // namespace
+
+int Gota::left() const
+{
+    return RainFall::Pitch * Columna.value();
+}
+
+int Gota::top() const
+{
+    return RainFall::FirstRow + RainFall::Pitch * Fila.value();
+}
+
+RainFall::RainFall(core::RandomSource& random, int height)
+    : m_random(random)
+    , m_height(height)
+{
+    m_Libre.fill(true);
+}
+
+bool RainFall::move(int slot)
+{
+    Gota& gota = m_Gotas[slot];
+    if (--gota.Espera > 0)
+        return false;
+    gota.Espera = gota.ticksPerStep();
+    ++gota.Fila;
+    drift(gota);
+    return gota.top() > m_height;
+}
+
+void RainFall::drift(Gota& gota)
+{
+    if (gota.Deriva <= 0) {
+        // Draws are single precision, and so is what they are compared with.
+        if (static_cast<float>(gota.Velocidad.value()) / 10 > m_random.next()) {
+            gota.Direccion = m_random.next() >= 0.5f ? 1 : -1;
+            gota.Deriva = StepsOfADrift;
+        }
+        return;
+    }
+    if (gota.Columna == FirstColumn && gota.Direccion == -1)
+        gota.Direccion = 1;
+    else if (gota.Columna == BounceColumn && gota.Direccion == 1)
+        gota.Direccion = -1;
+    --gota.Deriva;
+    gota.Columna += gota.Direccion;
+}
+
+std::optional<int> RainFall::launchWhenDue(const RainPhase& phase)
+{
+    if (m_ticks % TicksPerLaunch != 0)
+        return {};
+    m_ticks = 0;
+    const auto free = std::ranges::find(m_Libre, true);
+    if (free == m_Libre.end())
+        return {};
+    const int slot = static_cast<int>(free - m_Libre.begin());
+    launch(slot, phase);
+    return slot;
+}
+
+void RainFall::launch(int slot, const RainPhase& phase)
+{
+    Gota gota;
+    gota.Columna = core::drawInteger(m_random, Columns, FirstColumn);
+    gota.Velocidad = core::drawInteger(m_random, Gota::Fastest, 1);
+    gota.Espera = gota.ticksPerStep();
+    const auto& numbers = m_random.next() <= TargetShare ? phase.Objetivos() : phase.Otros();
+    const int index = core::drawInteger(m_random, static_cast<int>(numbers.size()), 1).value();
+    gota.Valor = numbers[static_cast<std::size_t>(index - 1)];
+    m_Gotas[slot] = gota;
+    m_Libre[slot] = false;
+}
+
+void RainFall::release(int slot)
+{
+    m_Libre[slot] = true;
+}
+
+void RainFall::resetFirstSlots()
+{
+    std::fill_n(m_Libre.begin(), SlotsReset, true);
+}
+
+} // namespace games
