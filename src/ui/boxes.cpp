@@ -159,7 +159,7 @@ QFont fontFor(const QString& text, const QWidget& owner)
     const double factor = factorOf(&owner);
     const double room =
         owner.screen()->availableGeometry().height() - FrameHeight - BoxEnds * factor;
-    const auto lines = text.count(u'\n') + 1;
+    const auto lines = static_cast<int>(text.count(u'\n')) + 1;
     look::Font font = look::BoxText;
     const auto isTooHigh = [&] {
         return lines * QFontMetrics(look::scaled(font, factor)).lineSpacing() > room;
