@@ -13,7 +13,7 @@ public:
     explicit Backdrop(QWidget* parent);
 
 protected:
-    /// Draws the whole picture; the painter's pixels are those of the widget.
+    /// Draws the whole picture, every pixel of it; the painter's pixels are those of the widget.
     virtual void draw(QPainter& painter) = 0;
 
     /// Has the picture drawn anew.

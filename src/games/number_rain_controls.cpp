@@ -40,8 +40,8 @@ constexpr QRgb Ring = 0xFF8BE9FF; // neither a drop's colour nor the start butto
 constexpr QRgb Moonlight = 0xFFF3F5FF; // texts on the sky
 constexpr QRgb Panel = 0xFF10172C;
 
-constexpr ui::look::Font ScoreFont{Family::CourierNew, 18, true};
-constexpr ui::look::Font InstructionFont{Family::CourierNew, 18};
+constexpr ui::look::Font ScoreFont{Family::CourierNew, 17, true};
+constexpr ui::look::Font InstructionFont{Family::CourierNew, 17};
 constexpr ui::look::Font StartFont{Family::Arial, 30, true};
 
 QPalette textOn(QPalette palette, QRgb fill, QRgb text)

@@ -1,7 +1,6 @@
 #include "games/race_podium.h"
 
 #include "ui/look.h"
-#include "ui/marks.h"
 #include "ui/scaling.h"
 
 #include <QPainter>
@@ -63,9 +62,6 @@ void drawPodium(QPainter& painter, QSizeF size, double factor)
             {size.width() / 2 + (i - 1.5) * width, size.height() - height, width, height}, place,
             factor);
     }
-    const double star = 44 * factor;
-    painter.translate(size.width() / 2, size.height() - star * 0.75);
-    ui::drawStar(painter, {-star / 2, -star / 2, star, star});
 }
 
 } // namespace

@@ -120,6 +120,7 @@ void RaceVerge::setRunning(bool running)
 
 void RaceVerge::draw(QPainter& painter)
 {
+    painter.fillRect(rect(), QColor(Grass)); // to the last part of a pixel
     painter.scale(factor() / ui::TwipsPerPixel, factor() / ui::TwipsPerPixel);
     painter.setPen(Qt::NoPen);
     drawSky(painter);

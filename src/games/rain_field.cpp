@@ -90,9 +90,8 @@ void RainField::splash(const RainEvent& event) const
     QWidget& canvas = *m_canvas;
     const QPoint place = drop(event.slot)->geometry().center();
     const int points = event.points.value();
-    const QString text = points == 0
-        ? QString()
-        : u"%1%2"_s.arg(points < 0 ? u'\u2212' : u'+').arg(std::abs(points));
+    const QChar sign = points < 0 ? u'\u2212' : u'+';
+    const QString text = points == 0 ? QString() : sign + QString::number(std::abs(points));
     switch (event.kind) {
     case RainEvent::Kind::Hit:
         RainSplash::show(canvas, RainSplash::Kind::Hit, place, colourOf(event.gota), text);

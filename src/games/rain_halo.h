@@ -6,6 +6,8 @@ namespace games {
 
 /// The glow around the number that the keyboard would hit.
 class RainHalo : public QWidget {
+    Q_OBJECT
+
 public:
     explicit RainHalo(QWidget* canvas);
 

@@ -61,6 +61,25 @@ private slots:
         QVERIFY(game.rain.running());
     }
 
+    void everyFateOfANumberIsTold()
+    {
+        using Kind = games::RainEvent::Kind;
+        RainGame game(1000); // twips: a number is out of sight after its first step
+        game.rain.start();
+        const auto told = [](const RainStep& step, Kind kind, int valor, int points) {
+            return step.events.size() == 1 && step.events.front().kind == kind
+                && step.events.front().slot == 0 && step.events.front().gota.Valor == valor
+                && step.events.front().points == points;
+        };
+        QVERIFY(told(game.shoot(3, 7), Kind::Hit, 7, 30));
+        QVERIFY(told(game.shoot(2, 8), Kind::Miss, 8, -2));
+        game.launch(15, 5, 7);
+        QVERIFY(told(game.calmTick(), Kind::Escape, 7, -25));
+        game.launch(15, 5, 8);
+        QVERIFY(told(game.calmTick(), Kind::Escape, 8, 0)); // a wrong one costs nothing
+        QVERIFY(game.calmTick().events.empty());
+    }
+
     void aWrongClickCostsByDifficulty_data()
     {
         QTest::addColumn<Difficulty>("difficulty");

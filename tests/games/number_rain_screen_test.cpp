@@ -562,9 +562,9 @@ private slots:
             if (model->ticks % 6 != 5)
                 tick(); // shows the same place again, which must not hold the number up
         }
-        clock.pass(Tick * 9 / 10);
+        clock.pass(Tick * 9 * ticks / 10 - Tick * (ticks - 1));
         QVERIFY(drop(0).y() < at(0, 1280).y());
-        clock.pass(Tick / 20);
+        clock.pass(Tick * ticks / 20 + 1);
         QCOMPARE(drop(0).pos(), at(3500, 1280));
     }
 
@@ -660,7 +660,8 @@ private slots:
         launch(8, 1, 3); // 100 pixels to the right: 56 from edge to edge
         const QRect left = drop(0).geometry();
         const int x = left.right() + qRound(beside * screen->factor());
-        QTest::mouseClick(drop(0).parentWidget(), Qt::LeftButton, {}, {x, left.top() + 5}); // both are there
+        QTest::mouseClick(
+            drop(0).parentWidget(), Qt::LeftButton, {}, {x, left.top() + 5}); // both are there
         if (hit >= 0)
             model->rain.click(hit);
         compare();
