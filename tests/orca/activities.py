@@ -58,7 +58,7 @@ def quick_tables(pupil):
     pupil.hears(operation)
     pupil.press("F2")
     pupil.hears(operation, "Tiempo agotado", "MAL", operation)
-    pupil.press("1", "Return")  # the product of two factors from 2 on is never 1
+    pupil.press("0", "Return")
     a, b = (int(number) for number in pupil.hears("MAL", operation).groups())
     while True:
         pupil.press(*str(a * b), "Return")
@@ -127,6 +127,7 @@ def division(pupil):
     quotient, rest = divmod(int(dividend), int(divisor))
     for digit in str(rest):
         pupil.does(digit, "Right", says=["línea 1.*"])
+    pupil.does("Tab", says=["Divisor label.*"])
     pupil.does("Tab", says=["Cociente.*"])
     pupil.does(*str(quotient), "alt+h", says=["resultado correcto"])
     pupil.goes_on("space", asked, also=[first_square])
