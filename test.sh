@@ -12,9 +12,9 @@ if [ -n "${CI:-}" ]; then
 fi
 
 run_tests() { # test preset
-  quietly "probar $1" ctest --preset "$1" -j "$(nproc)"
+  quietly "probar $1" ctest --preset "$1" --no-tests=error -j "$(nproc)"
   echo "Pruebas ($1):"
-  grep -A 3 'tests passed' "build/probar-$1.log" || echo "ninguna: falta con qué"
+  grep -A 3 'tests passed' "build/probar-$1.log"
 }
 
 need_packages "${build_packages[@]}" xvfb openbox xdotool dbus-daemon dbus-bin at-spi2-core \

@@ -33,9 +33,11 @@ void Stage::zoom(ui::Screen& screen) const
 {
     if (!m_factor)
         return;
-    const double enlarge = *m_factor / screen.factor();
-    const QSizeF size = QSizeF(screen.size()) * enlarge;
-    screen.resize(qCeil(size.width()), qCeil(size.height()));
+    // The second time from a size that is a pixel off at most, not a pixel enlarged.
+    for (int i = 0; i < 2; ++i) {
+        const QSizeF size = QSizeF(screen.size()) * (*m_factor / screen.factor());
+        screen.resize(qCeil(size.width()), qCeil(size.height()));
+    }
     if (std::abs(screen.factor() - *m_factor) > 1e-6)
         qFatal("%s is at factor %f", qPrintable(screen.objectName()), screen.factor());
 }
@@ -44,7 +46,15 @@ void Stage::photographScreen(ui::Screen& other)
 {
     zoom(other);
     QTest::qWait(20);
-    picture = other.grab();
+    keep(other.grab());
+}
+
+void Stage::keep(const QPixmap& over)
+{
+    if (!m_factor)
+        picture = onDisplay(*m_screen, over);
+    else
+        picture = over.isNull() ? m_screen->grab() : over;
 }
 
 void Stage::click(const QString& button) const
@@ -98,7 +108,7 @@ void Stage::photographBox(
         camera.stop();
         if (auto* edit = box->findChild<QLineEdit*>())
             QTest::keyClicks(edit, typed);
-        picture = box->grab();
+        keep(box->grab()); // the answer may close the screen
         for (QPushButton* button : box->findChildren<QPushButton*>()) {
             if (button->text() == answer)
                 button->click();
@@ -134,12 +144,9 @@ void Gallery::save(
     if (state)
         state(stage);
     QTest::qWait(20); // fonts and animations come to rest
-    const QPixmap picture = stage.picture.isNull() ? stage.screen().grab() : stage.picture;
-    const QString path = u"%1/%2.png"_s.arg(m_folder, file);
-    if (factor)
-        picture.save(path);
-    else
-        onDisplay(stage.screen(), stage.picture).save(path);
+    if (stage.picture.isNull())
+        stage.keep();
+    stage.picture.save(u"%1/%2.png"_s.arg(m_folder, file));
 }
 
 } // namespace gallery

@@ -49,6 +49,9 @@ public:
     /// Keeps a picture of another screen, at the factor of this one.
     void photographScreen(ui::Screen& other);
 
+    /// Keeps the picture of the screen as it is now, or of what stands over it.
+    void keep(const QPixmap& over = {});
+
     /// What save() keeps instead of the screen: a box, or another screen.
     QPixmap picture;
 

@@ -58,6 +58,7 @@ build_portable() {
       platforminputcontexts/libcomposeplatforminputcontextplugin.so; do
     [ -e "$plugins/$plugin" ] || continue
     install -D -m 644 "$plugins/$plugin" "$folder/plugins/$plugin"
+    # shellcheck disable=SC2016 # the loader expands it
     patchelf --set-rpath '$ORIGIN/../../lib' "$folder/plugins/$plugin"
   done
   copy_libraries "$folder/lib" "$folder/pizarrin" "$folder/pizarrin-banco" "$folder"/plugins/*/*.so

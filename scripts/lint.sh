@@ -7,9 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/setup.sh
 
 need_packages "${build_packages[@]}" git clang clang-tidy clazy shellcheck
-git ls-files '*.sh' .ci/run packaging/debian/postinst packaging/debian/postrm |
-  xargs shellcheck --external-sources
-echo "shellcheck: bien"
+check_scripts
 
 quietly "configurar lint" cmake -G Ninja -B build/lint -S . -DCMAKE_CXX_COMPILER=clang++ \
   -DCMAKE_EXPORT_COMPILE_COMMANDS=ON -DPIZARRIN_TESTS=OFF

@@ -73,3 +73,9 @@ build_preset() { # preset, targets...
   quietly "configurar $preset" cmake --preset "$preset" ${cmake_options+"${cmake_options[@]}"}
   quietly "compilar $preset" cmake --build --preset "$preset" ${arguments+"${arguments[@]}"}
 }
+
+check_scripts() {
+  git ls-files '*.sh' .ci/run packaging/debian/postinst packaging/debian/postrm |
+    xargs shellcheck --external-sources
+  echo "Guiones: bien"
+}

@@ -2,6 +2,7 @@
 
 #include "ui/leave_check.h"
 #include "ui/list_box.h"
+#include "ui/tray.h"
 
 #include <QCheckBox>
 
@@ -15,21 +16,38 @@ namespace problems {
 
 namespace {
 
-constexpr double Width = 13500;
-constexpr double Height = 8280;
+// In twips: the list at the left, what is edited of its entry at the right.
+constexpr double Width = 13800;
 constexpr double Margin = 240;
 constexpr double Gap = 120;
-constexpr double ListWidth = 5040;
+constexpr double ListWidth = 4980;
 constexpr double FieldLeft = Margin + ListWidth + 360;
 constexpr double FieldWidth = Width - Margin - FieldLeft;
-constexpr double LabelHeight = 330;
+constexpr double LabelHeight = 345;
+constexpr double LabelGap = 60; // the ring of a focused box lies there
+constexpr double LabelStep = LabelHeight + LabelGap;
 constexpr double BoxHeight = 510;
 constexpr double CommandHeight = 510;
-constexpr double InsertWidth = 2880;
+constexpr double InsertWidth = 3240;
 constexpr double UnsavedWidth = 4800;
 
-constexpr ui::look::Font FieldFont{ui::look::Family::Arial, 15};
-constexpr ui::look::Font ListFont{ui::look::Family::Arial, 14};
+constexpr double FirstLabel = 90;
+constexpr double FirstBox = FirstLabel + LabelStep;
+constexpr double StatementHeight = 1860;
+constexpr double StatementInserts = FirstBox + StatementHeight + Gap;
+constexpr double AnswerTop = StatementInserts + CommandHeight + Gap + LabelStep;
+constexpr double AnswerInserts = AnswerTop + BoxHeight + Gap;
+constexpr double UnitTop = AnswerInserts + CommandHeight + Gap + LabelStep;
+constexpr double ActionsTop = UnitTop + BoxHeight + 2 * Gap;
+constexpr double ListBottom = ActionsTop + CommandHeight;
+constexpr double StripMargin = 180; // around the ways out
+constexpr double WayOutTop = ListBottom + 180 + StripMargin;
+constexpr double WayOutWidth = 1920;
+constexpr double WayOutHeight = 600;
+constexpr double Height = WayOutTop + WayOutHeight + StripMargin;
+
+constexpr ui::look::Font FieldFont{ui::look::Family::Andika, 15};
+constexpr ui::look::Font ListFont{ui::look::Family::Andika, 14};
 
 const QString InsertDatum = u"Insertar dato &variable"_s;
 const QString InsertComputed = u"&Reinsertar dato variable"_s;
@@ -61,9 +79,9 @@ DLGProblemas::DLGProblemas(ui::Screens& screens)
 void DLGProblemas::makeList()
 {
     List1 = add(new ui::ListBox(canvas(), ui::ListBox::Start::Flush), u"List1"_s,
-        {Margin, 540, ListWidth, Height - 540 - Margin}, ListFont);
+        {Margin, FirstBox, ListWidth, ListBottom - FirstBox}, ListFont);
     List1->setAccessibleName(u"Problemas disponibles"_s);
-    label(u"Label4"_s, u"Problemas &disponibles"_s, {Margin, 180, ListWidth, LabelHeight},
+    label(u"Label4"_s, u"Problemas &disponibles"_s, {Margin, FirstLabel, ListWidth, LabelHeight},
         ui::look::Instruction, List1);
     on(List1, &QListWidget::itemSelectionChanged, &DLGProblemas::List1_Click);
     // A click on the entry that is selected already changes no selection.
@@ -72,32 +90,32 @@ void DLGProblemas::makeList()
 
 void DLGProblemas::makeStatement()
 {
-    Text1 = memo(u"Text1"_s, {FieldLeft, 540, FieldWidth, 2160}, FieldFont, u"Enunciado"_s);
-    label(u"Label1"_s, u"&Enunciado"_s, {FieldLeft, 180, FieldWidth - UnsavedWidth, LabelHeight},
-        ui::look::Instruction, Text1);
+    Text1 = memo(u"Text1"_s, {FieldLeft, FirstBox, FieldWidth, StatementHeight}, FieldFont,
+        u"Enunciado"_s);
+    label(u"Label1"_s, u"&Enunciado"_s,
+        {FieldLeft, FirstLabel, FieldWidth - UnsavedWidth, LabelHeight}, ui::look::Instruction,
+        Text1);
     restrictKeys(Text1);
-    constexpr double Top = 540 + 2160 + Gap;
-    on(insertCommand(1, InsertDatum, u"en el enunciado"_s, {FieldLeft, Top}),
+    on(insertCommand(1, InsertDatum, u"en el enunciado"_s, {FieldLeft, StatementInserts}),
         &QPushButton::clicked, &DLGProblemas::Command1_Click);
-    on(insertCommand(
-           2, InsertComputed, u"en el enunciado"_s, {FieldLeft + InsertWidth + Gap, Top}),
+    on(insertCommand(2, InsertComputed, u"en el enunciado"_s,
+           {FieldLeft + InsertWidth + Gap, StatementInserts}),
         &QPushButton::clicked, &DLGProblemas::Command2_Click);
 }
 
 void DLGProblemas::makeAnswer()
 {
-    constexpr double Top = 3960;
-    Text2 =
-        entryBox(u"Text2"_s, {FieldLeft, Top, FieldWidth, BoxHeight}, FieldFont, u"Resultado"_s);
-    label(u"Label2"_s, u"&Resultado"_s, {FieldLeft, Top - 360, FieldWidth, LabelHeight},
-        ui::look::Instruction, Text2);
+    Text2 = entryBox(
+        u"Text2"_s, {FieldLeft, AnswerTop, FieldWidth, BoxHeight}, FieldFont, u"Resultado"_s);
+    label(u"Label2"_s, u"&Resultado"_s,
+        {FieldLeft, AnswerTop - LabelStep, FieldWidth, LabelHeight}, ui::look::Instruction,
+        Text2);
     Text2->setMaxLength(std::numeric_limits<int>::max()); // a line is shown whole
     restrictKeys(Text2);
-    constexpr double CommandTop = Top + BoxHeight + Gap;
-    on(insertCommand(3, InsertDatum, u"en el resultado"_s, {FieldLeft, CommandTop}),
+    on(insertCommand(3, InsertDatum, u"en el resultado"_s, {FieldLeft, AnswerInserts}),
         &QPushButton::clicked, &DLGProblemas::Command3_Click);
-    on(insertCommand(
-           4, InsertComputed, u"en el resultado"_s, {FieldLeft + InsertWidth + Gap, CommandTop}),
+    on(insertCommand(4, InsertComputed, u"en el resultado"_s,
+           {FieldLeft + InsertWidth + Gap, AnswerInserts}),
         &QPushButton::clicked, &DLGProblemas::Command4_Click);
 }
 
@@ -112,10 +130,10 @@ ui::Button* DLGProblemas::insertCommand(
 
 void DLGProblemas::makeUnit()
 {
-    constexpr double Top = 5730;
     constexpr double UnitWidth = InsertWidth;
-    Text3 = entryBox(u"Text3"_s, {FieldLeft, Top, UnitWidth, BoxHeight}, FieldFont, u"Unidad"_s);
-    label(u"Label3"_s, u"&Unidad"_s, {FieldLeft, Top - 360, UnitWidth, LabelHeight},
+    Text3 =
+        entryBox(u"Text3"_s, {FieldLeft, UnitTop, UnitWidth, BoxHeight}, FieldFont, u"Unidad"_s);
+    label(u"Label3"_s, u"&Unidad"_s, {FieldLeft, UnitTop - LabelStep, UnitWidth, LabelHeight},
         ui::look::Instruction, Text3);
     Text3->setMaxLength(std::numeric_limits<int>::max());
     restrictKeys(Text3);
@@ -129,7 +147,7 @@ void DLGProblemas::makeOperations()
     double left = FieldLeft + InsertWidth + 2 * Gap;
     for (std::size_t k = 0; k < CHOpera.size(); ++k, left += Step) {
         CHOpera[k] = add(new QCheckBox(captions[k], canvas()), u"CHOpera(%1)"_s.arg(k),
-            {left, 5730, Step, BoxHeight});
+            {left, UnitTop, Step, BoxHeight});
         CHOpera[k]->setAccessibleName(names[k]);
     }
 }
@@ -139,7 +157,7 @@ void DLGProblemas::makeActions()
     constexpr double ActionWidth = (FieldWidth - 3 * Gap) / 4;
     const auto place = [](int column) {
         return ui::TwipRect{
-            FieldLeft + column * (ActionWidth + Gap), 6480, ActionWidth, CommandHeight};
+            FieldLeft + column * (ActionWidth + Gap), ActionsTop, ActionWidth, CommandHeight};
     };
     on(button(u"CBProbar"_s, u"&Probar "_s, place(0), commandColour()), &QPushButton::clicked,
         &DLGProblemas::CBProbar_Click);
@@ -153,14 +171,15 @@ void DLGProblemas::makeActions()
 
 void DLGProblemas::makeWaysOut()
 {
-    const ui::TwipRect right{Width - Margin - 1800, Height - Margin - 570, 1800, 570};
-    const ui::TwipRect left{right.left - Gap - 1800, right.top, 1800, 570};
-    on(button(u"OKButton"_s, u"Aceptar"_s, left, commandColour()), &QPushButton::clicked,
-        &DLGProblemas::OKButton_Click);
+    const ui::TwipRect right{Width - Margin - WayOutWidth, WayOutTop, WayOutWidth, WayOutHeight};
+    const ui::TwipRect left{right.left - Gap - WayOutWidth, WayOutTop, WayOutWidth, WayOutHeight};
+    auto* OKButton = button(u"OKButton"_s, u"Aceptar"_s, left, commandColour());
+    on(OKButton, &QPushButton::clicked, &DLGProblemas::OKButton_Click);
     CancelButton = button(u"CancelButton"_s, u"&Cancelar"_s, right, commandColour());
     // A click on it leaves no box, so that a box with a mistake cannot stand in its way.
     CancelButton->setFocusPolicy(Qt::TabFocus);
     on(CancelButton, &QPushButton::clicked, &DLGProblemas::CancelButton_Click);
+    new ui::Tray({OKButton, CancelButton}, ui::Tray::Shape::Strip);
 }
 
 void DLGProblemas::checkOnLeaving(
@@ -194,7 +213,7 @@ void DLGProblemas::restrictKeys(QWidget* box)
 void DLGProblemas::markWhatIsUnsaved()
 {
     m_unsaved = label(u"unsaved"_s, u"● Sin guardar: falta pulsar Guardar"_s,
-        {Width - Margin - UnsavedWidth, 180, UnsavedWidth, LabelHeight});
+        {Width - Margin - UnsavedWidth, FirstLabel, UnsavedWidth, LabelHeight});
     m_unsaved->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QPalette colours = m_unsaved->palette();
     colours.setColor(QPalette::WindowText, ui::look::Wrong);

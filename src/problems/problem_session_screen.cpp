@@ -6,6 +6,7 @@
 #include "problems/bank_editor_screen.h"
 #include "problems/selection_screen.h"
 #include "problems/statement_box.h"
+#include "ui/ground.h"
 #include "ui/screens.h"
 
 #include <QAction>
@@ -17,20 +18,50 @@ namespace problems {
 
 namespace {
 
-constexpr double Width = 9900;
-constexpr double Height = 7680;
+// In twips. The answer, its unit, the verdict and the buttons stand on one axis, a little
+// inside the statement, where the caption of the answer has room before it.
+constexpr double Width = 12240;
+constexpr double Height = 6300;
 constexpr double Margin = 240;
-constexpr double StatementHeight = 3090; // six lines
-constexpr double AnswerTop = 4050;
-constexpr double AnswerHeight = 720;
+constexpr double FullWidth = Width - 2 * Margin;
+constexpr double Axis = 1860;
+constexpr double CaptionGap = 180;
+constexpr double StatementTop = 540;
+constexpr double StatementHeight = 2700;
+constexpr double AnswerTop = 3420;
+constexpr double AnswerWidth = 2760;
+constexpr double AnswerHeight = 660;
+constexpr double VerdictTop = 4200;
+constexpr double VerdictHeight = 570;
+constexpr double TrayMargin = 180; // around the buttons
+constexpr double CommandTop = 5040;
+constexpr double CommandHeight = 630;
+constexpr double CommandGap = 120;
+constexpr double CommandWidth = (Width - Margin - Axis - 2 * TrayMargin - 3 * CommandGap) / 4;
+constexpr double CountersTop = 5910;
+constexpr double CountersHeight = 330;
+
+ui::TwipRect commandPlace(int position)
+{
+    return {Axis + TrayMargin + position * (CommandWidth + CommandGap), CommandTop, CommandWidth,
+        CommandHeight};
+}
 
 // Events run before each draw. Only where hardly a line of a huge bank is selected are there
 // more draws than this; then a draw takes a hundredth of what looking for events does, so
 // they run every few microseconds instead.
 constexpr int DrawsWithEvents = 500;
 
-constexpr ui::look::Font StatementFont{Family::Arial, 17};
-constexpr ui::look::Font AnswerFont{Family::CourierNew, 28, true};
+constexpr ui::look::Font AnswerFont{Family::Andika, 26, true};
+constexpr ui::look::Font CaptionFont{Family::Andika, 18, true};
+constexpr ui::look::Font UnitFont{Family::Andika, 20};
+
+void makeQuiet(QLabel& label)
+{
+    QPalette colours = label.palette();
+    colours.setColor(QPalette::WindowText, QColor(ui::look::Quiet));
+    label.setPalette(colours);
+}
 
 } // namespace
 
@@ -44,12 +75,13 @@ FormProblemas::FormProblemas(ui::Screens& screens)
 {
     makeMenu();
     makeBoxes();
-    makeCommands({.check = {4170, 5400, 1560, 570},
-        .next = {4170, 6210, 1560, 570},
-        .clear = {2430, 6210, 1560, 570},
-        .solution = {5910, 6210, 1560, 570}});
+    makeCommands({.check = commandPlace(0),
+        .next = commandPlace(2),
+        .clear = commandPlace(1),
+        .solution = commandPlace(3)});
     LBEstado = label(u"LBEstado"_s, u"Ejercicios:   Errores:   "_s,
-        {Margin, Height - 540, Width - 2 * Margin, 300}, ui::look::Counters);
+        {Margin, CountersTop, FullWidth, CountersHeight}, ui::look::Counters);
+    makeQuiet(*LBEstado);
 }
 
 void FormProblemas::makeMenu()
@@ -67,27 +99,33 @@ void FormProblemas::makeMenu()
 void FormProblemas::makeBoxes()
 {
     label(u"LBInstruc"_s, u"Resuelva el problema, introduzca el resultado y pulse Hecho"_s,
-        {Margin, 180, Width - 2 * Margin, 390});
+        {Margin, 105, FullWidth, 390});
     TBEnunciado = add(new StatementBox(canvas()), u"TBEnunciado"_s,
-        {Margin, 660, Width - 2 * Margin, StatementHeight}, StatementFont);
+        {Margin, StatementTop, FullWidth, StatementHeight});
     TBEnunciado->setAccessibleName(u"Enunciado"_s);
 
-    TBRespuesta = entryBox(
-        u"TBRespuesta"_s, {1680, AnswerTop, 2760, AnswerHeight}, AnswerFont, u"Respuesta"_s);
+    TBRespuesta = entryBox(u"TBRespuesta"_s, {Axis, AnswerTop, AnswerWidth, AnswerHeight},
+        AnswerFont, u"Respuesta"_s);
     TBRespuesta->setToolTip(u"Escriba el número sin puntos ni espacios: 1200"_s);
     enterChecks(TBRespuesta);
-    label(u"LBRespuesta"_s, u"Respuesta"_s, {Margin, AnswerTop, 1320, AnswerHeight},
-        StatementFont, TBRespuesta);
+    label(u"LBRespuesta"_s, u"Respuesta"_s,
+        {Margin, AnswerTop, Axis - CaptionGap - Margin, AnswerHeight}, CaptionFont, TBRespuesta)
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    constexpr double UnitLeft = Axis + AnswerWidth + CaptionGap;
     LBUnidad = label(u"LBUnidad"_s, QString(),
-        {4620, AnswerTop, Width - Margin - 4620, AnswerHeight}, StatementFont);
+        {UnitLeft, AnswerTop, Width - Margin - UnitLeft, AnswerHeight}, UnitFont);
     LBUnidad->setWordWrap(true);
+    makeQuiet(*LBUnidad);
 
-    TBCorrecto = verdictBox(u"TBCorrecto"_s, {1680, 4860, 4500, 420}, u"Comprobación"_s);
+    TBCorrecto = verdictBox(u"TBCorrecto"_s,
+        {Axis, VerdictTop, Width - Margin - Axis, VerdictHeight}, u"Comprobación"_s);
+    TBCorrecto->setJudged({TBRespuesta});
 }
 
 void FormProblemas::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
+    ui::Ground::pose(*this, ui::Pose::Waiting);
     TBRespuesta->setFocus();
     try {
         auto bank = LeerBanco(screens().bankFolder().toRead(), MissingBank::StayInFolder);

@@ -2,6 +2,7 @@
 
 #include "problems/bank.h"
 #include "ui/screens.h"
+#include "ui/tray.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -14,18 +15,23 @@ namespace problems {
 namespace {
 
 constexpr double Width = 8280;
-constexpr double Height = 4500;
 constexpr double Margin = 240;
 constexpr double Gap = 240;
-constexpr double FrameTop = Margin;
-constexpr double FrameHeight = 2730;
+constexpr double FrameTop = 150;
+constexpr double FrameHeight = 2700;
 constexpr double OptionsWidth = 4680;
 constexpr double ChecksLeft = Margin + OptionsWidth + Gap;
 constexpr double ChecksWidth = Width - Margin - ChecksLeft;
-constexpr double FirstRow = 510; // in a frame
+constexpr double FirstRow = 540; // in a frame
 constexpr double RowHeight = 510;
-constexpr double CommandWidth = 1800;
-constexpr double CommandHeight = 570;
+constexpr double CountTop = FrameTop + FrameHeight + 90;
+constexpr double CountHeight = 480;
+constexpr double CommandWidth = 1920;
+constexpr double CommandHeight = 600;
+constexpr double CommandGap = 120;
+constexpr double StripMargin = 180; // around the buttons
+constexpr double CommandTop = CountTop + CountHeight + 90 + StripMargin;
+constexpr double Height = CommandTop + CommandHeight + StripMargin;
 
 } // namespace
 
@@ -39,18 +45,23 @@ DLGSelProb::DLGSelProb(ui::Screens& screens)
 {
     makeOptions();
     makeChecks();
-    Text1 =
-        displayBox(u"Text1"_s, {Margin, FrameTop + FrameHeight + 120, Width - 2 * Margin, 450},
-            ui::look::Verdict, u"Enunciados disponibles"_s, u"0 tipos seleccionados"_s);
+    Text1 = displayBox(u"Text1"_s, {Margin, CountTop, Width - 2 * Margin, CountHeight},
+        ui::look::Verdict, u"Enunciados disponibles"_s, u"0 tipos seleccionados"_s);
+    makeWaysOut();
+}
 
+void DLGSelProb::makeWaysOut()
+{
     const QColor neutral = ui::look::palette().color(QPalette::Button);
-    const ui::TwipRect right{Width - Margin - CommandWidth, Height - Margin - CommandHeight,
-        CommandWidth, CommandHeight};
-    OKButton = button(u"OKButton"_s, u"Aceptar"_s,
-        {right.left - 120 - CommandWidth, right.top, CommandWidth, CommandHeight}, neutral);
+    const ui::TwipRect right{
+        Width - Margin - CommandWidth, CommandTop, CommandWidth, CommandHeight};
+    const ui::TwipRect left{
+        right.left - CommandGap - CommandWidth, CommandTop, CommandWidth, CommandHeight};
+    OKButton = button(u"OKButton"_s, u"Aceptar"_s, left, neutral);
     on(OKButton, &QPushButton::clicked, &DLGSelProb::OKButton_Click);
-    on(button(u"CancelButton"_s, u"Cancelar"_s, right, neutral), &QPushButton::clicked,
-        &DLGSelProb::CancelButton_Click);
+    auto* CancelButton = button(u"CancelButton"_s, u"Cancelar"_s, right, neutral);
+    on(CancelButton, &QPushButton::clicked, &DLGSelProb::CancelButton_Click);
+    new ui::Tray({OKButton, CancelButton}, ui::Tray::Shape::Strip);
 }
 
 void DLGSelProb::makeOptions()

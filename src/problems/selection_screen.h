@@ -35,6 +35,7 @@ protected:
 private:
     void makeOptions();
     void makeChecks();
+    void makeWaysOut();
     QGroupBox* frame(const QString& name, const QString& caption, const ui::TwipRect& place);
     void addChoice(QAbstractButton* choice, const QString& name, int row, double width);
 

@@ -7,20 +7,41 @@
 
 namespace tables {
 
-/// The palette of a text that stands on a blackboard: chalk on the board's green. A selected
-/// text differs only a little, as it is not there to be typed over.
+/// The palette of a text that stands on a blackboard: chalk, without a ground of its own.
 QPalette chalk();
 
-/// A piece of blackboard behind other controls.
+/// A blackboard behind other controls, in a wooden frame, on a ledge with a piece of chalk.
 class Blackboard : public QWidget, public ui::Scalable {
 public:
     explicit Blackboard(QWidget* parent);
+
+    /// Where a board stands that leaves this place, in twips, to be written on.
+    static ui::TwipRect around(const ui::TwipRect& writing);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void paintLedge(QPainter& painter) const;
+};
+
+/// A slip of paper on a blackboard. What is typed into stands on it: the marks of focus and
+/// verdict are seen on paper, not on the board.
+class Slip : public QWidget, public ui::Scalable {
+public:
+    /// Beyond what stands on it, in twips.
+    static constexpr double Margin = 120;
+
+    explicit Slip(QWidget* parent);
+
+    /// Where a slip lies under what stands at this place, in twips.
+    static ui::TwipRect under(const ui::TwipRect& place);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// Lines of text on a blackboard that fills the box, halfway up and down it.
+/// Lines of text on a blackboard, halfway up and down their place.
 class BoardText : public ui::Memo {
 public:
     explicit BoardText(QWidget* parent);
@@ -32,8 +53,6 @@ protected:
 
 private:
     void centre();
-
-    Blackboard* m_board;
 };
 
 } // namespace tables

@@ -3,6 +3,8 @@
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "tables/blackboard.h"
+#include "ui/ground.h"
+#include "ui/marker_stripe.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +18,7 @@ constexpr double Width = 4680;
 constexpr double Height = 4590;
 
 constexpr ui::look::Font RowFont{Family::CourierNew, 30, true};
-constexpr ui::look::Font CounterFont{Family::CourierNew, 12};
+constexpr ui::look::Font CommandFont{Family::Andika, 12, true};
 
 } // namespace
 
@@ -28,32 +30,46 @@ QString FrmMultHuecos::screenName()
 FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Completa el hueco"_s, Width, Height)
 {
-    displayBox(u"TbInstruc"_s, {240, 300, 4200, 400}, ui::look::Instruction, u"Instrucciones"_s,
+    displayBox(u"TbInstruc"_s, {180, 180, 4320, 420}, ui::look::Instruction, u"Instrucciones"_s,
         u"Completa el Cuadro vacío "_s)
         ->setAlignment(Qt::AlignCenter);
     makeRow();
+    TbResultado = verdictBox(u"TbResultado"_s, {180, 2400, 4320, 540}, u"Comprobación"_s);
+    TbResultado->setJudged({TbTermin[1]});
     makeButtons();
-    TbResultado = verdictBox(u"TbResultado"_s, {840, 2610, 3600, 450}, u"Comprobación"_s);
-    TbEjercicios = displayBox(u"TbEjercicios"_s, {240, 4020, 4200, 390}, CounterFont,
+    TbEjercicios = displayBox(u"TbEjercicios"_s, {180, 4110, 4320, 360}, ui::look::Counters,
         u"Ejercicios y errores"_s, m_model.counters().FormatoSimple());
-    TbEjercicios->setAlignment(Qt::AlignCenter);
 }
 
 void FrmMultHuecos::makeRow()
 {
-    // The board is in two pieces: between them is the gap.
-    add(new Blackboard(canvas()), {}, ui::TwipRect{180, 900, 1380, 840});
-    add(new Blackboard(canvas()), {}, ui::TwipRect{3000, 900, 1500, 840});
-    TbTermin[0] = onBoard(u"TbTermin(0)"_s, {300, 960, 690, 720}, u"Primer factor"_s);
-    TbSignos[0] = onBoard(u"TbSignos(0)"_s, {990, 960, 450, 720}, u"Por"_s);
-    TbTermin[1] = entryBox(
-        u"TbTermin(1)"_s, {1680, 900, 1200, 840}, RowFont, u"Segundo factor, el que falta"_s);
-    TbSignos[1] = onBoard(u"TbSignos(1)"_s, {3090, 960, 390, 720}, u"Igual a"_s);
-    TbTermin[2] = onBoard(u"TbTermin(2)"_s, {3495, 960, 930, 720}, u"Producto"_s);
-    for (ui::TextBox* box : TbTermin) {
-        box->setAlignment(Qt::AlignCenter);
+    constexpr ui::TwipRect Writing{360, 840, 3960, 1140};
+    constexpr ui::TwipRect Gap{1635, 1020, 1140, 780};
+    constexpr double Top = Writing.top + 120;
+    constexpr double BoxHeight = Writing.height - 240;
+    add(new Blackboard(canvas()), {}, Blackboard::around(Writing));
+    add(new Slip(canvas()), {}, Slip::under(Gap));
+    TbTermin[0] = onBoard(u"TbTermin(0)"_s, {405, Top, 645, BoxHeight}, u"Primer factor"_s);
+    TbSignos[0] = onBoard(u"TbSignos(0)"_s, {1020, Top, 465, BoxHeight}, u"Por"_s);
+    TbTermin[1] = entryBox(u"TbTermin(1)"_s, Gap, RowFont, u"Segundo factor, el que falta"_s);
+    TbSignos[1] = onBoard(u"TbSignos(1)"_s, {2925, Top, 465, BoxHeight}, u"Igual a"_s);
+    TbTermin[2] = onBoard(u"TbTermin(2)"_s, {3360, Top, 915, BoxHeight}, u"Producto"_s);
+    alignRow();
+    for (ui::TextBox* box : TbTermin)
         enterChecks(box);
-    }
+    using Kind = ui::MarkerStripe::Kind;
+    new ui::MarkerStripe({TbTermin[0], TbSignos[0]}, Kind::Chalk);
+    new ui::MarkerStripe({TbSignos[1], TbTermin[2]}, Kind::Chalk);
+}
+
+/// The outer numbers stand next to their signs, whether they have one digit or more.
+void FrmMultHuecos::alignRow()
+{
+    TbTermin[0]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    TbTermin[1]->setAlignment(Qt::AlignCenter);
+    TbTermin[2]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (ui::TextBox* sign : TbSignos)
+        sign->setAlignment(Qt::AlignCenter);
 }
 
 ui::TextBox* FrmMultHuecos::onBoard(
@@ -61,21 +77,25 @@ ui::TextBox* FrmMultHuecos::onBoard(
 {
     ui::TextBox* box = displayBox(name, place, RowFont, accessibleName);
     box->setPalette(chalk());
-    box->setAlignment(Qt::AlignCenter);
     return box;
 }
 
 void FrmMultHuecos::makeButtons()
 {
-    makeCommands({.check = {1590, 1950, 1500, 540},
-        .next = {1650, 3270, 1380, 540},
-        .clear = {180, 3270, 1380, 540},
-        .solution = {3120, 3270, 1380, 540}});
+    constexpr double Top = 3360;
+    constexpr double ButtonHeight = 420;
+    makeCommands({.check = {300, Top, 720, ButtonHeight},
+        .next = {1950, Top, 1020, ButtonHeight},
+        .clear = {1110, Top, 750, ButtonHeight},
+        .solution = {3060, Top, 1320, ButtonHeight}});
+    for (QWidget* command : {Command1, Command2[0], Command2[1], Command2[2]})
+        setControlFont(command, CommandFont);
 }
 
 void FrmMultHuecos::Form_Load()
 {
     core::seedByTimer(screens().random(), screens().clock());
+    ui::Ground::pose(*this, ui::Pose::Waiting);
     newExercise();
     TbTermin[1]->setFocus();
 }

@@ -24,6 +24,7 @@ protected:
 
 private:
     void makeRow();
+    void alignRow();
     void makeButtons();
     ui::TextBox* onBoard(
         const QString& name, const ui::TwipRect& place, const QString& accessibleName);

@@ -1,6 +1,9 @@
 #include "tables/multiplication_tables_screen.h"
 
+#include "tables/poster.h"
+#include "ui/marker_stripe.h"
 #include "ui/screens.h"
+#include "ui/tray.h"
 
 #include <QAction>
 
@@ -13,10 +16,12 @@ namespace tables {
 
 namespace {
 
-constexpr double Width = 5900;
-constexpr double Height = 5150;
+// What is hidden goes 5500 or 6000 twips to the right: no control that ever is may stand
+// further left than that leaves it out of the canvas, its tray included.
+constexpr double Width = 6400;
+constexpr double Height = 5325;
 
-constexpr ui::look::Font TableFont{Family::CourierNew, 24, true};
+constexpr ui::look::Font TableFont{Family::CourierNew, 22, true};
 constexpr ui::look::Font QuestionFont{Family::CourierNew, 26, true};
 
 } // namespace
@@ -27,18 +32,29 @@ Form2::Form2(ui::Screens& screens)
     makeMenu();
     makeTables();
     makeQuestion();
-    makeCommands({.check = {2200, 2350, 1500, 560},
-        .next = {2170, 3150, 1560, 560},
-        .clear = {460, 3150, 1560, 560},
-        .solution = {3880, 3150, 1560, 560}});
+    makeVerdict();
+    constexpr double Top = 2760;
+    constexpr double ButtonHeight = 480;
+    makeCommands({.check = {597, Top, 990, ButtonHeight},
+        .next = {2907, Top, 1260, ButtonHeight},
+        .clear = {1752, Top, 990, ButtonHeight},
+        .solution = {4332, Top, 1470, ButtonHeight}});
+    makeWayOn();
+}
 
+void Form2::makeWayOn()
+{
+    constexpr double Top = 4500;
+    constexpr double ButtonHeight = 480;
     const QColor neutral = ui::look::palette().color(QPalette::Button);
-    Command3 = {
-        button(u"Command3(0)"_s, u"Siguiente &actividad"_s, {460, 4250, 2415, 560}, neutral),
-        button(u"Command3(1)"_s, u"Siguiente &tabla"_s, {3025, 4250, 2415, 560}, neutral)};
+    Command3 = {button(u"Command3(0)"_s, u"Siguiente &actividad"_s,
+                    {597, Top, 2515, ButtonHeight}, neutral),
+        button(
+            u"Command3(1)"_s, u"Siguiente &tabla"_s, {3287, Top, 2515, ButtonHeight}, neutral)};
     for (int i = 0; i < 2; ++i)
         on(Command3.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
             &Form2::Command3_Click, i);
+    new ui::Tray({Command3[0], Command3[1]});
 }
 
 void Form2::makeMenu()
@@ -64,40 +80,45 @@ void Form2::makeMenu()
 
 void Form2::makeTables()
 {
-    TbTabla1 =
-        memo(u"TbTabla1"_s, {410, 750, 2490, 2500}, TableFont, u"Primera mitad de la tabla"_s);
-    TbTabla2 =
-        memo(u"TbTabla2"_s, {3000, 750, 2490, 2500}, TableFont, u"Segunda mitad de la tabla"_s);
-    for (ui::Memo* table : {TbTabla1, TbTabla2}) {
-        table->setReadOnly(true);
-        table->setLineWrapMode(QPlainTextEdit::NoWrap);
-        // The text ends with a line end: only an empty line may be cut off.
-        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    }
+    constexpr ui::TwipRect Rows{900, 640, 4600, 3100};
+    constexpr double Half = Rows.width / 2;
+    m_poster = add(new Poster(canvas()), {}, Poster::around(Rows));
+    TbTabla1 = add(new PosterHalf(canvas()), u"TbTabla1"_s,
+        ui::TwipRect{Rows.left, Rows.top, Half, Rows.height}, TableFont);
+    TbTabla1->setAccessibleName(u"Primera mitad de la tabla"_s);
+    TbTabla2 = add(new PosterHalf(canvas()), u"TbTabla2"_s,
+        ui::TwipRect{Rows.left + Half, Rows.top, Half, Rows.height}, TableFont);
+    TbTabla2->setAccessibleName(u"Segunda mitad de la tabla"_s);
 }
 
 void Form2::makeQuestion()
 {
-    constexpr double Top = 900;
+    constexpr double Top = 700;
     constexpr double BoxHeight = 500;
     TbOperacion = {
-        displayBox(u"TbOperación(0)"_s, {770, Top, 1000, BoxHeight}, QuestionFont, u"Tabla"_s),
+        displayBox(u"TbOperación(0)"_s, {1150, Top, 1000, BoxHeight}, QuestionFont, u"Tabla"_s),
         displayBox(
-            u"TbOperación(1)"_s, {1810, Top, 500, BoxHeight}, QuestionFont, u"Por"_s, u"×"_s),
+            u"TbOperación(1)"_s, {2175, Top, 500, BoxHeight}, QuestionFont, u"Por"_s, u"×"_s),
         displayBox(
-            u"TbOperación(2)"_s, {2350, Top, 1000, BoxHeight}, QuestionFont, u"Multiplicador"_s),
+            u"TbOperación(2)"_s, {2700, Top, 1000, BoxHeight}, QuestionFont, u"Multiplicador"_s),
         displayBox(
-            u"TbOperación(3)"_s, {3390, Top, 500, BoxHeight}, QuestionFont, u"Igual a"_s, u"="_s),
+            u"TbOperación(3)"_s, {3725, Top, 500, BoxHeight}, QuestionFont, u"Igual a"_s, u"="_s),
         entryBox(
-            u"TbOperación(4)"_s, {4030, Top, 1000, BoxHeight}, QuestionFont, u"Respuesta"_s)};
+            u"TbOperación(4)"_s, {4250, Top, 1000, BoxHeight}, QuestionFont, u"Respuesta"_s)};
     for (ui::TextBox* box : TbOperacion)
         box->setAlignment(Qt::AlignCenter);
     enterChecks(TbOperacion[4]);
     onKeyDown(TbOperacion[4],
         [this](int keyCode, Qt::KeyboardModifiers) { return TbOperacion_KeyDown(keyCode); });
+    new ui::MarkerStripe({TbOperacion[0], TbOperacion[1], TbOperacion[2], TbOperacion[3]},
+        ui::MarkerStripe::Kind::Marker);
+}
 
-    Text1 = verdictBox(u"Text1"_s, {1150, 1650, 3600, 450}, u"Comprobación"_s);
+void Form2::makeVerdict()
+{
+    Text1 = verdictBox(u"Text1"_s, {1150, 1500, 4650, 500}, u"Comprobación"_s);
+    Text1->setJudged({TbOperacion[4]});
+    new ui::MarkerStripe({Text1}, ui::MarkerStripe::Kind::Marker);
 }
 
 } // namespace tables

@@ -2,6 +2,8 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
+#include "tables/poster.h"
+#include "ui/ground.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -25,6 +27,7 @@ QString Form2::screenName()
 void Form2::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
+    ui::Ground::pose(*this, ui::Pose::Waiting);
     MnuOpcActLis_Click(0);
     EscribeTabla();
 }
@@ -71,6 +74,7 @@ void Form2::placeForActivity()
         control->setEnabled(shown);
     };
     const bool review = m_model.isReview();
+    m_poster->setVisible(!review);
     for (QWidget* table : {TbTabla1, TbTabla2})
         show(table, !review, BoxShift);
     for (QWidget* box : TbOperacion)
@@ -92,6 +96,7 @@ void Form2::showQuestion()
     TbOperacion[0]->setText(QString::number(m_model.table()));
     TbOperacion[2]->setText(QString::number(m_model.multiplier()));
     TbOperacion[4]->clear();
+    TbOperacion[4]->setEdge({}); // a verdict that still stands is about the last question
     TbOperacion[4]->setFocus();
     showSigns();
     Command2[2]->setEnabled(false);

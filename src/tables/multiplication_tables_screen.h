@@ -5,6 +5,9 @@
 
 namespace tables {
 
+class Poster;
+class PosterHalf;
+
 /// The multiplication tables: study a table, review it in order, review it shuffled.
 class Form2 : public shell::DrillScreen<MultiplicationTables> {
 public:
@@ -26,6 +29,8 @@ private:
     void makeMenu();
     void makeTables();
     void makeQuestion();
+    void makeVerdict();
+    void makeWayOn();
 
     void Command3_Click(int Index);
     void MnuOpcTabLis_Click(int Index);
@@ -41,8 +46,9 @@ private:
     void placeForActivity();
 
     ui::MenuList MnuOpcTabLis; ///< the ten tables
-    ui::Memo* TbTabla1 = nullptr; ///< rows 1 to 5
-    ui::Memo* TbTabla2 = nullptr; ///< rows 6 to 10
+    Poster* m_poster = nullptr; ///< behind both
+    PosterHalf* TbTabla1 = nullptr; ///< rows 1 to 5
+    PosterHalf* TbTabla2 = nullptr; ///< rows 6 to 10
     std::array<ui::TextBox*, 5> TbOperacion{}; ///< table, sign, multiplier, sign, answer
     ui::VerdictBox* Text1 = nullptr; ///< the verdict
     std::array<ui::Button*, 2> Command3{}; ///< next activity, next table

@@ -11,6 +11,7 @@ class QRadioButton;
 namespace tables {
 
 class CountdownBar;
+class TimeLabel;
 class VerdictPatch;
 
 /// The quick tables: products against the clock, until a limit or "&Salir".
@@ -53,7 +54,7 @@ private:
     ui::Button* Command1 = nullptr; ///< starts and ends the drill
     std::array<ui::TextBox*, 5> TbDatos{}; ///< factor, sign, factor, sign, answer
     QLabel* LBOperacion = nullptr; ///< the operation as one line
-    QLabel* LBTiempo = nullptr; ///< the seconds left
+    TimeLabel* LBTiempo = nullptr; ///< the seconds left
     CountdownBar* m_bar = nullptr;
     VerdictPatch* TBResul = nullptr; ///< the verdict as a patch of colour
     QTimer* Timer1 = nullptr; ///< a tick a second for the operation

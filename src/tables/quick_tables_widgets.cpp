@@ -8,13 +8,23 @@ namespace tables {
 
 namespace {
 
-constexpr double PatchMarkSize = 44; // pixels at factor 1
-constexpr double PatchLeft = 60;
+// Pixels at factor 1.
+constexpr double PatchMarkSize = 36;
+constexpr double PatchLeft = 46;
 constexpr double Radius = 8;
 
 void drawRounded(QPainter& painter, const QRectF& rect, double radius)
 {
     painter.drawRoundedRect(rect, radius, radius);
+}
+
+void drawFilled(QPainter& painter, const QRectF& rect, const QColor& colour, double factor)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ui::look::edgeOf(colour), factor));
+    painter.setBrush(colour);
+    const double half = factor / 2;
+    drawRounded(painter, rect.adjusted(half, half, -half, -half), Radius * factor);
 }
 
 } // namespace
@@ -48,6 +58,31 @@ void VerdictPatch::paintEvent(QPaintEvent* event)
     VerdictBox::paintEvent(event);
 }
 
+TimeLabel::TimeLabel(QWidget* parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignCenter);
+}
+
+void TimeLabel::setColour(const QColor& colour)
+{
+    m_colour = colour;
+    QPalette own = palette();
+    own.setColor(QPalette::Window, colour);
+    own.setColor(QPalette::WindowText, ui::look::inkOn(colour));
+    setPalette(own);
+}
+
+void TimeLabel::paintEvent(QPaintEvent* event)
+{
+    if (m_colour.isValid()) {
+        QPainter painter(this);
+        drawFilled(painter, rect(), m_colour, factor());
+    }
+    QLabel::paintEvent(event);
+}
+
 CountdownBar::CountdownBar(QWidget* parent)
     : QWidget(parent)
 {
@@ -64,17 +99,13 @@ void CountdownBar::paintEvent(QPaintEvent*)
 {
     if (!m_colour.isValid())
         return;
-    const QRectF track = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(ui::look::Edge), factor()));
-    painter.setBrush(QColor(ui::look::Card));
-    drawRounded(painter, track, Radius * factor());
-    painter.setPen(QPen(m_colour.darker(166), factor()));
-    painter.setBrush(m_colour);
-    QRectF left = track;
-    left.setWidth(track.width() * m_share);
-    drawRounded(painter, left, Radius * factor());
+    drawFilled(painter, rect(), QColor(ui::look::Card), factor());
+    QRectF left(rect());
+    left.setWidth(left.width() * m_share);
+    // A sliver narrower than its corners would be drawn as a lens: it is cut off the bar instead.
+    painter.setClipRect(left);
+    drawFilled(painter, rect(), m_colour, factor());
 }
 
 } // namespace tables

@@ -2,6 +2,8 @@
 
 #include "ui/verdict_box.h"
 
+#include <QLabel>
+
 namespace tables {
 
 /// The verdict of the quick tables as a patch of plain colour, to be seen from the corner of
@@ -15,6 +17,22 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+};
+
+/// The seconds that are left, as a number on a colour, rounded as the bar beside it is. No
+/// colour before it is first set.
+class TimeLabel : public QLabel, public ui::Scalable {
+public:
+    explicit TimeLabel(QWidget* parent);
+
+    /// Fills the label; the number stays readable on it.
+    void setColour(const QColor& colour);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor m_colour;
 };
 
 /// The time that is left, as a bar that empties. Not to be seen before it is first set.

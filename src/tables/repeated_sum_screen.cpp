@@ -4,6 +4,7 @@
 #include "core/clock.h"
 #include "core/numbers.h"
 #include "tables/blackboard.h"
+#include "ui/ground.h"
 #include "ui/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -19,19 +20,21 @@ constexpr double Height = 7590;
 constexpr ui::look::Font MessageFont{Family::Arial, 14};
 constexpr ui::look::Font SumFont{Family::Arial, 20, true};
 constexpr ui::look::Font FactorFont{Family::Arial, 26, true};
-constexpr ui::look::Font VerdictFont{Family::Arial, 16, true};
-constexpr ui::look::Font CommandFont{Family::Arial, 12, true};
-constexpr ui::look::Font CounterFont{Family::CourierNew, 12};
+// The given places are narrow: these are the largest that fit them.
+constexpr ui::look::Font VerdictFont{Family::Andika, 14, true};
+constexpr double VerdictMark = 26;
+constexpr ui::look::Font CommandFont{Family::Andika, 13};
+constexpr ui::look::Font CounterFont{Family::Andika, 14}; // this screen opens small
 
 /// The sign between the factors. The first factor's box covers its left part: its text
-/// stands in the middle of what is left.
+/// stands halfway between both boxes.
 class Sign final : public ui::TextBox {
 public:
     explicit Sign(QWidget* parent)
         : TextBox(Kind::Display, parent)
     {
-        constexpr double Covered = 300 / ui::TwipsPerPixel;
-        setExtraMargins(Covered, 0);
+        constexpr double LeftOut = 500 / ui::TwipsPerPixel;
+        setExtraMargins(LeftOut, 0);
     }
 };
 
@@ -54,8 +57,9 @@ void Form4::makeBoxes()
     displayBox(u"TbMensaje"_s, {200, 500, 4400, 500}, MessageFont, u"Instrucciones"_s,
         u"Escribe esta suma en forma de multiplicación."_s);
 
-    TbSuma =
-        add(new BoardText(canvas()), u"TbSuma"_s, ui::TwipRect{500, 1500, 3800, 800}, SumFont);
+    constexpr ui::TwipRect Sum{500, 1500, 3800, 800};
+    add(new Blackboard(canvas()), {}, Blackboard::around(Sum));
+    TbSuma = add(new BoardText(canvas()), u"TbSuma"_s, Sum, SumFont);
     TbSuma->setAccessibleName(u"Suma"_s);
 
     Text3[1] =
@@ -70,10 +74,11 @@ void Form4::makeBoxes()
     }
 
     Text1 = verdictBox(u"Text1"_s, {900, 5000, 3000, 500}, u"Comprobación"_s);
+    Text1->setMarkSize(VerdictMark);
+    Text1->setJudged({Text3[0], Text3[2]});
     setControlFont(Text1, VerdictFont);
     tbResultados = displayBox(u"tbResultados"_s, {900, 7000, 3000, 500}, CounterFont,
         u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
-    tbResultados->setAlignment(Qt::AlignCenter);
 }
 
 void Form4::makeButtons()
@@ -82,13 +87,14 @@ void Form4::makeButtons()
         .next = {1800, 6000, 1200, 500},
         .clear = {400, 6000, 1200, 500},
         .solution = {3200, 6000, 1200, 500}});
-    for (QWidget* command : Command2)
+    for (QWidget* command : {Command1, Command2[0], Command2[1], Command2[2]})
         setControlFont(command, CommandFont);
 }
 
 void Form4::Form_Load()
 {
     core::seedBySecondsTwice(screens().random(), screens().clock());
+    ui::Ground::pose(*this, ui::Pose::Waiting);
     newExercise();
     Text3[0]->setFocus();
 }

@@ -4,6 +4,7 @@
 #include "ui/box_strip.h"
 #include "ui/handler_guard.h"
 #include "ui/look.h"
+#include "ui/opening_factor.h"
 #include "ui/reading_pause.h"
 #include "ui/scaling.h"
 
@@ -31,6 +32,8 @@ constexpr double InputWidth = 500; // pixels at factor 1
 constexpr double LongestLine = 600;
 constexpr double ShortestLine = 220; // so that the title can be read
 constexpr double BoxFrame = 110; // what a box needs beside its text, icon included
+constexpr double BoxEnds = 92; // what it needs above and below: margins and buttons
+constexpr int SmallestText = 12;
 
 const QString TextLabel = u"qt_msgbox_label"_s; // the toolkit's names
 const QString NotesLabel = u"qt_msgbox_informativelabel"_s;
@@ -150,6 +153,22 @@ double largestWidth(const QWidget& owner)
     return LargestShare * owner.screen()->availableGeometry().width();
 }
 
+/// The usual font, or the largest in which all lines of a long text are seen at once.
+QFont fontFor(const QString& text, const QWidget& owner)
+{
+    const double factor = factorOf(&owner);
+    const double room =
+        owner.screen()->availableGeometry().height() - FrameHeight - BoxEnds * factor;
+    const auto lines = static_cast<int>(text.count(u'\n')) + 1;
+    look::Font font = look::BoxText;
+    const auto isTooHigh = [&] {
+        return lines * QFontMetrics(look::scaled(font, factor)).lineSpacing() > room;
+    };
+    while (font.pixels > SmallestText && isTooHigh())
+        --font.pixels;
+    return look::scaled(font, factor);
+}
+
 /// Lets the text be as wide as its longest line, up to a measure that grows with the font.
 /// Left alone, the box would wrap at the same number of pixels at every factor.
 void widen(const Box& box, const QWidget& owner)
@@ -182,7 +201,7 @@ QPointer<Box> makeBox(HandlerGuard& owner, const QString& text, const QString& t
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
-    box->setFont(look::scaled(look::BoxText, factorOf(&owner.guardedWindow())));
+    box->setFont(fontFor(text, owner.guardedWindow()));
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);

@@ -86,7 +86,7 @@ bool HeldKeys::pressCounts(const QKeyEvent& event)
     const quint32 key = keyOf(event);
     QObject* control = controlWithKeyboard();
     if (!isRepeat(event)) {
-        m_presses[key] = Press{control, event.timestamp()};
+        m_presses[key] = {.control = control, .pressedAt = event.timestamp(), .releasedAt = {}};
         return true;
     }
     const auto found = m_presses.find(key);

@@ -10,6 +10,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 Screen::Screen(
@@ -46,7 +48,15 @@ void Screen::load()
     m_loading = true;
     Form_Load();
     m_loading = false;
+    nameRepeatKey();
     comeUp();
+}
+
+/// Where the pupil starts: a reader says a description each time that its control is reached.
+void Screen::nameRepeatKey()
+{
+    if (QWidget* first = focusWidget(); first != nullptr && !spokenExercise().isEmpty())
+        first->setAccessibleDescription(u"F2 repite el ejercicio"_s);
 }
 
 void Screen::openOver(const Screen& below)
@@ -110,6 +120,8 @@ void Screen::takeUp()
     guarded([this] { Form_Activate(); });
     m_up = true;
     sayExercise();
+    for (const QString& text : std::exchange(m_toSay, {}))
+        say(text);
 }
 
 void Screen::hideEvent(QHideEvent* event)
@@ -150,7 +162,9 @@ void Screen::report(const QString& text)
 
 void Screen::say(const QString& text)
 {
-    if (!isUnloaded())
+    if (!m_up)
+        m_toSay << text; // behind the exercise
+    else if (!isUnloaded())
         announce(*this, text);
 }
 

@@ -126,6 +126,7 @@ private:
         else
             guarded(body, where);
     }
+    void nameRepeatKey();
     void leave();
     void takeUp();
     bool tellClosed();
@@ -134,6 +135,7 @@ private:
     std::function<void()> m_whenClosed; ///< set while the screen is shown modally
     bool m_activated = false;
     bool m_up = false; ///< and Form_Activate has run
+    QStringList m_toSay; ///< what was to be said before it
     bool m_loading = false; ///< Form_Load is running
 };
 

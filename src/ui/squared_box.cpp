@@ -58,6 +58,7 @@ SquaredBox::SquaredBox(Kind kind, QWidget* parent)
 {
     setAlignment(Qt::AlignRight | Qt::AlignTop);
     FocusRing::leaveOut(*this);
+    setFrame(false); // the squares are frame enough
     QPalette onPaper = palette();
     m_highlight = onPaper.color(QPalette::Highlight);
     onPaper.setColor(QPalette::Base, Qt::transparent);

@@ -25,11 +25,14 @@ bool areNeighbours(const QRect& a, const QRect& b, int reach)
 
 } // namespace
 
-Tray::Tray(const std::vector<QWidget*>& buttons)
+Tray::Tray(const std::vector<QWidget*>& buttons, Shape shape)
     : QWidget(buttons.front()->parentWidget())
     , m_buttons(buttons.begin(), buttons.end())
+    , m_shape(shape)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    if (m_shape == Shape::Strip)
+        parentWidget()->installEventFilter(this);
     for (QWidget* button : buttons)
         button->installEventFilter(this);
     lower();
@@ -53,7 +56,10 @@ void Tray::follow()
     for (const QRect& place : buttonPlaces())
         covered |= place;
     const int margin = qRound(Margin * factorOf(this));
-    setGeometry(covered.adjusted(-margin, -margin, margin, margin));
+    const QRect plate = covered.adjusted(-margin, -margin, margin, margin);
+    setGeometry(m_shape == Shape::Plate
+            ? plate
+            : QRect(QPoint(0, plate.top()), parentWidget()->rect().bottomRight()));
     setVisible(!covered.isNull());
     update();
 }
@@ -78,6 +84,10 @@ bool Tray::eventFilter(QObject* watched, QEvent* event)
 void Tray::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    if (m_shape == Shape::Strip) {
+        painter.fillRect(rect(), QColor(look::Slate));
+        return;
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(outline(), QColor(look::Slate));
 }

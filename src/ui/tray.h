@@ -18,8 +18,13 @@ public:
     /// Between the buttons and the edge of the tray, in pixels at factor 1: for layouts.
     static constexpr int Margin = 12;
 
+    enum class Shape {
+        Plate, ///< round its buttons
+        Strip ///< along the bottom of the canvas, from edge to edge: under those of a dialog
+    };
+
     /// Lies behind buttons that stand on the same canvas.
-    explicit Tray(const std::vector<QWidget*>& buttons);
+    explicit Tray(const std::vector<QWidget*>& buttons, Shape shape = Shape::Plate);
 
     /// Whether a control stands on a tray.
     static bool holds(const QWidget& control);
@@ -35,6 +40,7 @@ private:
     std::vector<QRect> buttonPlaces() const;
 
     std::vector<QPointer<QWidget>> m_buttons;
+    Shape m_shape;
 };
 
 } // namespace ui

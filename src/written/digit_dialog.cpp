@@ -1,5 +1,7 @@
 #include "written/digit_dialog.h"
 
+#include "ui/tray.h"
+
 #include <QCheckBox>
 
 using namespace Qt::StringLiterals;
@@ -8,13 +10,20 @@ namespace written {
 
 namespace {
 
-constexpr ui::look::Font DigitFont{ui::look::Family::CourierNew, 24, true};
+constexpr ui::look::Font DigitFont{ui::look::Family::Andika, 24, true};
 
 constexpr int Columns = 3;
-constexpr double Margin = 480;
-constexpr double ColumnWidth = 1200;
-constexpr double RowHeight = 660;
-constexpr double ButtonTop = 2760;
+constexpr double Width = 4320;
+constexpr double Margin = 240;
+constexpr double GridTop = 240;
+constexpr double ColumnWidth = 1080;
+constexpr double GridLeft = (Width - Columns * ColumnWidth) / 2;
+constexpr double RowHeight = 690;
+constexpr double CommandWidth = (Width - 2 * Margin - 120) / 2;
+constexpr double CommandHeight = 600;
+constexpr double StripMargin = 180; // around the buttons
+constexpr double CommandTop = GridTop + 3 * RowHeight + 120 + StripMargin;
+constexpr double Height = CommandTop + CommandHeight + StripMargin;
 
 } // namespace
 
@@ -24,22 +33,30 @@ QString Dialog::screenName()
 }
 
 Dialog::Dialog(ui::Screens& screens)
-    : Screen(screens, screenName(), u"Tablas a usar"_s, 4320, 3660)
+    : Screen(screens, screenName(), u"Tablas a usar"_s, Width, Height)
 {
     for (int i = 0; i < 9; ++i) {
-        const ui::TwipRect place{Margin + ColumnWidth * (i % Columns),
-            Margin + RowHeight * (i / Columns), ColumnWidth - 240, RowHeight - 120};
+        const ui::TwipRect place{GridLeft + ColumnWidth * (i % Columns),
+            GridTop + RowHeight * (i / Columns), ColumnWidth - 120, RowHeight - 120};
         auto* box = new QCheckBox(u"&%1"_s.arg(i + 1), canvas());
         box->setAccessibleName(u"Tabla del %1"_s.arg(i + 1));
         Check1.at(static_cast<std::size_t>(i)) =
             add(box, u"Check1(%1)"_s.arg(i), place, DigitFont);
     }
+    makeWaysOut();
+}
+
+void Dialog::makeWaysOut()
+{
     const QColor neutral = ui::look::palette().color(QPalette::Button);
-    OKButton = button(u"OKButton"_s, u"&Aceptar"_s, {360, ButtonTop, 1680, 560}, neutral);
-    CancelButton =
-        button(u"CancelButton"_s, u"Cancelar"_s, {2280, ButtonTop, 1680, 560}, neutral);
+    const ui::TwipRect left{Margin, CommandTop, CommandWidth, CommandHeight};
+    const ui::TwipRect right{
+        Width - Margin - CommandWidth, CommandTop, CommandWidth, CommandHeight};
+    OKButton = button(u"OKButton"_s, u"&Aceptar"_s, left, neutral);
+    CancelButton = button(u"CancelButton"_s, u"Cancelar"_s, right, neutral);
     on(OKButton, &QPushButton::clicked, &Dialog::OKButton_Click);
     on(CancelButton, &QPushButton::clicked, &Dialog::CancelButton_Click);
+    new ui::Tray({OKButton, CancelButton}, ui::Tray::Shape::Strip);
 }
 
 void Dialog::OKButton_Click()

@@ -24,6 +24,7 @@ protected:
     void closeRequested() override;
 
 private:
+    void makeWaysOut();
     void OKButton_Click();
     void CancelButton_Click();
 

@@ -27,7 +27,7 @@ constexpr int LeftColumns = 12; // of the bracket, at first
 constexpr int RightColumns = 14;
 constexpr double WorkTop = SheetTop + MarginRows * Square;
 constexpr int WorkRows = SheetRows - 2 * MarginRows;
-constexpr int DivisorIndent = 1; // squares between the bracket and the figures right of it
+constexpr int DivisorIndent = 2; // squares between the bracket and the figures right of it
 constexpr int QuotientRow = 2; // one stays free below the bracket's line
 constexpr double DivisorGap = 5; // between the work and the divisor's box
 constexpr double TouchRows = 0.6; // beyond a row, above and below, that count as its box
@@ -124,8 +124,8 @@ void DivisionBoard::fit(int lineCharacters, int rightFigures)
     m_controls.place(Line2, {bracket, WorkTop + Square, (right - 1) * Square, ui::Rule::Room});
 }
 
-/// Figures begin one square right of the bracket. The boxes reach beyond their row, so that
-/// they are easily hit.
+/// The boxes reach beyond their row, so that they are easily hit. In front of the quotient the
+/// strip has a free square, as the work has in front of the dividend.
 void DivisionBoard::placeNumbers(double bracket, int figures)
 {
     const double indent = DivisorIndent * Square;
@@ -136,11 +136,13 @@ void DivisionBoard::placeNumbers(double bracket, int figures)
     Text2->setSquare(Square, Square, touch);
     Text2->setLeftAligned(indent - DivisorGap);
 
-    const double top = WorkTop + QuotientRow * Square;
-    m_controls.place(Text3, {bracket + indent, top - touch, width - indent, Square + 2 * touch});
+    const ui::TwipRect quotient{
+        bracket + Square, WorkTop + QuotientRow * Square, width - Square, Square};
+    m_controls.place(m_quotientStrip, quotient);
+    m_controls.place(
+        Text3, {quotient.left, quotient.top - touch, quotient.width, Square + 2 * touch});
     Text3->setSquare(Square, Square, touch);
-    Text3->setLeftAligned(0);
-    m_controls.place(m_quotientStrip, {bracket + indent, top, width - indent, Square});
+    Text3->setLeftAligned(indent - Square);
 }
 
 } // namespace written

@@ -6,6 +6,19 @@
 
 namespace written {
 
+namespace {
+
+using Key = QKeySequence;
+
+/// The keys that take the caret to a position, without and with a selection.
+struct Move {
+    Key::StandardKey move;
+    Key::StandardKey select;
+    int target;
+};
+
+} // namespace
+
 void GridCaret::setText(int columns, int size)
 {
     m_columns = columns;
@@ -21,12 +34,6 @@ void GridCaret::select(int anchor, int position)
 
 bool GridCaret::press(const QKeyEvent& event, int pageRows)
 {
-    using Key = QKeySequence;
-    struct Move {
-        Key::StandardKey move;
-        Key::StandardKey select;
-        int target;
-    };
     const int lineStart = m_position - m_position % m_columns;
     const std::array moves{
         Move{Key::MoveToPreviousChar, Key::SelectPreviousChar, m_position - 1},

@@ -273,10 +273,12 @@ void Form3::IndicaProducto(int posicion, int fila)
     say(core::aloud(m_model.verdict().text()));
 }
 
-/// Says which place the next digit takes, where that is another one than before: the box has
-/// been named by its reader.
+/// Says which place the next digit takes, where that is another one than before. A reader names
+/// the box by itself.
 void Form3::sayPlace(const SquaredBox& box)
 {
+    if (!box.hasFocus())
+        return;
     const auto length = static_cast<int>(box.text().size());
     const QString place = LongMultiplication::spokenCaret(caretOf(box), length);
     if (std::exchange(m_said, {&box, place}) != std::pair(&box, place))

@@ -147,6 +147,8 @@ void MultiplicationBoard::makeResult()
     TBResultado->setAccessibleName(u"Resultado"_s);
     TBResultado->setToolTip(
         u"Escriba desde las unidades hacia la izquierda y pulse Intro al terminar"_s);
+    // Said each time that a reader comes by, hence short.
+    TBResultado->setAccessibleDescription(u"desde las unidades"_s);
 }
 
 void MultiplicationBoard::makeSigns()
@@ -156,6 +158,7 @@ void MultiplicationBoard::makeSigns()
     // Quiet: the times sign that counts is the one in front of factor 2.
     LabX = m_controls.label(u"LabX"_s, u"&X"_s,
         {SignLeft, RowsTop - RowHeight, SignWidth, RowHeight}, QuietSignFont, TbParcial[0]);
+    LabX->setAccessibleName(TbParcial[0]->accessibleName()); // readers call the box by its label
     QPalette quiet = LabX->palette();
     quiet.setColor(QPalette::WindowText, QColor(ui::look::Quiet));
     LabX->setPalette(quiet);
@@ -182,6 +185,7 @@ void MultiplicationBoard::addRow()
     row->setToolTip(
         u"Escriba desde las unidades hacia la izquierda, pulse donde pulse en una fila "
         "vacía; muévase con las flechas y deje un hueco con la barra espaciadora"_s);
+    row->setAccessibleDescription(u"desde las unidades"_s);
     if (TBResultado != nullptr)
         row->stackUnder(TBResultado);
     TbParcial.push_back(row);

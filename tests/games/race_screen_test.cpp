@@ -714,8 +714,7 @@ private slots:
 private:
     void openDialog()
     {
-        bench->screens.show(u"FrmCarrera"_s);
-        screen = static_cast<QuietRace*>(bench->screens.loaded(u"FrmCarrera"_s));
+        screen = static_cast<QuietRace*>(&bench->show(u"FrmCarrera"_s));
         bench->attach(*screen);
         QTRY_VERIFY(bench->screens.loaded(u"DlgCarrera"_s));
         dialog = static_cast<DlgCarrera*>(bench->screens.loaded(u"DlgCarrera"_s));

@@ -1,6 +1,8 @@
 """Each activity as a pupil who cannot see plays it: by keys alone, from what is heard. Every
 answer is worked out from the words of the reader, so that a word too few ends the walk."""
 
+import re
+
 
 def repeated_sum(pupil):
     pupil.open("Suma repetida", names=["Primer factor", "Segundo factor", "Hecho", "Continuar"])
@@ -16,6 +18,7 @@ def repeated_sum(pupil):
     times = sum_heard.group().split().count(addend)
     pupil.does(*addend, "Tab", *str(times), "Return", says=["Respuesta correcta"])
     pupil.goes_on("space", sum_of)
+    pupil.close()
 
 
 def gap(pupil):
@@ -29,6 +32,7 @@ def gap(pupil):
     factor, product = (int(number) for number in pupil.goes_on("alt+c", gap_in).groups())
     pupil.does(*str(product // factor), "Return", says=["Respuesta correcta"])
     pupil.goes_on("space", gap_in)
+    pupil.close()
 
 
 def tables(pupil):
@@ -42,6 +46,173 @@ def tables(pupil):
     pupil.does("alt+v", says=[f"{a} por {b} igual a {a * b}"], also=["selected"])
     pupil.goes_on("Return", f"{a} por {b + 1}", before=["Resultado correcto"],
                   also=["Selection deleted"])
+    pupil.close()
 
 
-ALL = [repeated_sum, tables, gap]
+def quick_tables(pupil):
+    """Whoever takes more than ten seconds is told so, and gets another operation."""
+    pupil.open("Tablas rápidas", names=["Empezar", "Respuesta"])
+    pupil.desk.hear("Empezar (?:push )?button.*")
+    operation = r"(\d+) por (\d+)"
+    pupil.press("alt+e")
+    pupil.hears(operation)
+    pupil.press("F2")
+    pupil.hears(operation, "Tiempo agotado", "MAL", operation)
+    pupil.press("1", "Return")  # the product of two factors from 2 on is never 1
+    a, b = (int(number) for number in pupil.hears("MAL", operation).groups())
+    while True:
+        pupil.press(*str(a * b), "Return")
+        a, b = (int(number) for number in pupil.hears("BIEN|MAL", operation).groups())
+        if pupil.desk.passed[-2] == "BIEN":
+            break
+    pupil.press("alt+s")
+    pupil.hears("alert Pizarrin", ".*operaciones.*", "Aceptar (?:push )?button.*")
+    pupil.press("Return")
+    pupil.at_the_menu()
+
+
+def multiples(pupil):
+    pupil.open("Múltiplos y divisores", names=[
+        "Respuesta", "Hecho", "Ver solución", "Continuar", "Text unselected", "selected"])
+    asked = r"Introduzca tres (múltiplos|divisores) diferentes .*: (\d+)"
+    pupil.exercise(asked)
+    pupil.does("1", "Tab", "1", "Tab", "1", "Return", says=["Resultado incorrecto"])
+    pupil.does("Return", says=["Resultado incorrecto"])
+    pupil.does("alt+v", says=[r"Solución: \d+, \d+ y \d+"])
+    kind, number = "", 0
+    while True:  # some numbers have no three divisors of their own: the pupil goes on
+        kind, number = pupil.goes_on("alt+c", asked).groups()
+        number = int(number)
+        own = [n for n in range(2, number) if number % n == 0]
+        answers = [2 * number, 3 * number, 4 * number] if kind == "múltiplos" else own[:3]
+        if len(answers) == 3:
+            break
+    keys = [key for answer in answers for key in (*str(answer), "Tab")][:-1]
+    pupil.does(*keys, "Return", says=["Resultado correcto"])
+    pupil.goes_on("alt+c", asked)
+    pupil.close()
+
+
+def multiplication(pupil):
+    pupil.open("Multiplicaciones", names=["Producto parcial", "Resultado text", "Hecho", "Continuar"])
+    factors = r"(\d+) por (\d+)"
+    a, b = (int(number) for number in pupil.exercise(factors, also=["unidades"]).groups())
+    pupil.does("1", says=["decenas"])
+    pupil.does("shift", says=[f"{a % 10} por {b % 10}"])
+    pupil.does("Tab", says=["Producto parcial 2.*", "unidades"], also=["desde las unidades"])
+    pupil.does("alt+h", says=["resultado incorrecto", "filas equivocadas: 1 y 2"])
+    pupil.does("alt+h", says=["resultado incorrecto", "filas equivocadas: 1 y 2"])
+    pupil.does("alt+v", says=[f"Solución: {a * b}"])
+    a, b = (int(number) for number in pupil.goes_on("alt+c", factors, also=UNTIL_READY).groups())
+    for row in range(2, len(str(b)) + 1):
+        pupil.does("Tab", says=[f"Producto parcial {row}.*"], also=UNTIL_READY)
+    pupil.does("Tab", says=["Resultado text.*"], also=UNTIL_READY)
+    pupil.does(*reversed(str(a * b)), "Return", says=["Resultado correcto"], also=PLACES)
+    pupil.goes_on("space", factors, also=UNTIL_READY)
+    pupil.close()
+
+
+def division(pupil):
+    pupil.open("Divisiones", names=["DIVISIONES", "Dividendo y cuentas", "Cociente", "Hecho", "Ver solucióm",
+                                    "Continuar"])
+    asked = r"(\d+) entre (\d+)"
+    first_square = r"línea 1; del dividendo, \d"
+    dividend, divisor = pupil.exercise(asked, also=[first_square]).groups()
+    pupil.does("1", "Down", says=[f"línea 2; encima, 1; del dividendo, {dividend[0]}"])
+    pupil.does("alt+h", says=["Resultado incorrecto"])
+    pupil.does("alt+h", says=["Resultado incorrecto"])
+    quotient, rest = divmod(int(dividend), int(divisor))
+    pupil.does("alt+v", says=[f"Solución: cociente {quotient}, resto {rest}"])
+    dividend, divisor = pupil.goes_on("alt+c", asked, also=[first_square]).groups()
+    quotient, rest = divmod(int(dividend), int(divisor))
+    for digit in str(rest):
+        pupil.does(digit, "Right", says=["línea 1.*"])
+    pupil.does("Tab", says=["Cociente.*"])
+    pupil.does(*str(quotient), "alt+h", says=["resultado correcto"])
+    pupil.goes_on("space", asked, also=[first_square])
+    pupil.close()
+
+
+def problems(pupil):
+    pupil.open("Problemas", names=["Respuesta", "Hecho", "Ver solución", "Continuar"])
+    statement = r".* Respuesta en (.*)"
+    pupil.exercise(statement)
+    pupil.does("minus", "1", "Return", says=["Respuesta incorrecta"])
+    pupil.does("Return", says=["Respuesta incorrecta"])
+    unit = pupil.heard_exercise.group(1)
+    answer = pupil.does("alt+v", says=[rf"(\d+) {unit}"])[0].group(1)
+    pupil.does("alt+b", *answer, "Return", says=["Respuesta correcta"])
+    pupil.goes_on("alt+c", statement)
+    pupil.close()
+
+
+def combined(pupil):
+    pupil.open("Operaciones combinadas", names=[
+        "Resultado text", "Hecho", "Ver Solución", "Continuar", "Selection deleted"])
+    operation = r"(?=.*\d.*\d).* (?:más|menos|por|entre) .*"
+    result = value_of(pupil.exercise(operation).group())
+    pupil.does(*str(result + 1), "Return", says=["Resultado incorrecto"])
+    pupil.does("Return", says=["Resultado incorrecto"])
+    pupil.does("alt+v", says=[f"Solución: {result}"])
+    result = value_of(pupil.goes_on("alt+c", operation, also=[r"\d+ selected"]).group())
+    pupil.does(*str(result), "Return", says=["Resultado correcto"])
+    pupil.goes_on("alt+c", operation, also=[r"\d+ selected"])
+    pupil.close()
+
+
+def value_of(spoken):
+    """Of an operation in words; its quotients are whole."""
+    signs = {"más": "+", "menos": "-", "por": "*", "entre": "//"}
+    spoken = spoken.replace("abre paréntesis", "(").replace("cierra paréntesis", ")")
+    return eval(" ".join(signs.get(word, word) for word in spoken.split()), {})
+
+
+def rain(pupil):
+    pupil.open("Lluvia de números", names=["EMPEZAR"])
+    pupil.exercise("Elimina los números impares.*")
+    pupil.press("space")
+    catch(pupil, lambda number: number % 2 == 1, "Acierto 1")
+    catch(pupil, lambda number: number % 2 == 0, "Error")
+    pupil.hears("Vidas: 2")  # of numbers that have escaped
+    pupil.close()
+
+
+def catch(pupil, wanted, outcome):
+    """Presses numbers until one is as wanted: another may have come up meanwhile."""
+    while True:
+        number = int(pupil.hears(r"(\d+) (?:push )?button").group(1))
+        if not wanted(number):
+            continue
+        pupil.press("space")
+        if re.fullmatch(outcome, pupil.hears(r"Acierto \d+|Error").group()):
+            return
+
+
+def race(pupil):
+    pupil.open("La gran carrera", names=[])
+    pupil.hears("Selecciona tu coche.*")
+    pupil.press("Tab")
+    pupil.hears("Selecciona el coche de tu rival.*")
+    pupil.press("Tab")
+    pupil.hears("Selecciona el tipo de carrera.*")
+    pupil.press("Tab")
+    pupil.hears("Aceptar (?:push )?button.*")
+    pupil.names = ["La gran carrera", "Resultado", "Respuesta"]
+    pupil.press("space")
+    operation = r"(\d+) por (\d+)"
+    a, b = (int(number) for number in pupil.exercise(operation).groups())
+    pupil.does("1", "Return", says=["Error"])
+    for answer in range(4):
+        pupil.press(*str(a * b), "Return")
+        a, b = (int(number) for number in pupil.hears(operation).groups())
+    pupil.hears(r"Tú: 4 de 15. Rival: \d+ de 15")
+    pupil.hears(".*adversario ha ganado.*")  # without a hand on the keyboard
+    pupil.press("Return")
+    pupil.close()
+
+
+PLACES = ["unidades", "decenas", "centenas"]
+UNTIL_READY = ["desde las unidades", "F2 repite", "unidades"]
+
+ALL = [repeated_sum, tables, quick_tables, gap, multiples, multiplication, division, problems,
+       combined, rain, race]

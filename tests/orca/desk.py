@@ -133,11 +133,16 @@ class Desk:
 
     def _listen(self, terminal):
         with open(terminal, encoding="utf-8", errors="replace") as log:
+            utterance = ""
             try:
                 for line in log:
-                    words = re.search(r"SPEECH OUTPUT: '(.*)' *(?:\{.*)?$", line)
+                    if not utterance and "SPEECH OUTPUT: '" not in line:
+                        continue
+                    utterance += line  # a box may say several lines
+                    words = re.search(r"SPEECH OUTPUT: '(.*)' *(?:\{.*)?$", utterance, re.DOTALL)
                     if words:
                         self.said.put(" ".join(words.group(1).split()).removesuffix("."))
+                        utterance = ""
             except OSError:
                 pass  # the reader has gone
 

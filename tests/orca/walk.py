@@ -32,11 +32,11 @@ class Pupil:
         self.names = [activity, "PIZARRIN", *names]
         self.desk.press("space")
 
-    def exercise(self, words):
+    def exercise(self, words, also=()):
         """Hears the exercise, and hears it again at F2 with nothing in between."""
         self.heard_exercise = self.desk.hear(words)[0]
         self._note("")
-        self._again([words])
+        self._again([words], also)
         return self.heard_exercise
 
     def goes_on(self, key, words, before=(), also=()):
@@ -47,6 +47,16 @@ class Pupil:
         self._note(key)
         self._again([*before, words], also)
         return self.heard_exercise
+
+    def press(self, *keys):
+        self.desk.press(*keys)
+        self._note(" ".join(keys), [])
+
+    def hears(self, *words):
+        """Hears these in order, whatever else is said in between. Returns the last match."""
+        match = self.desk.hear(*words)[-1]
+        self._note("", self.desk.passed)
+        return match
 
     def does(self, *keys, says, also=()):
         """Presses keys and hears what they bring about, and nothing else."""
@@ -67,8 +77,8 @@ class Pupil:
         self.desk.press("alt+F4")
         self.at_the_menu()
 
-    def _note(self, keys):
-        self.transcript.append((keys, list(self.desk.passed)))
+    def _note(self, keys, said=None):
+        self.transcript.append((keys, list(self.desk.passed if said is None else said)))
 
     def _again(self, expected, also=()):
         """F2 says the exercise again; what was said before it was all expected, but for a
@@ -79,9 +89,9 @@ class Pupil:
         said += self.desk.passed[:-1]
         for words in expected:
             said.remove(next(one for one in said if re.fullmatch(words, one)))
-        own = [*self.names, *also]
-        chatter = [one for one in said if len(one) > 1 and not any(one.lower().startswith(name.lower())
-                                                  for name in own)]
+        own = [*self.names, "F2 repite el ejercicio", *also]
+        chatter = [one for one in said
+                   if len(one) > 1 and not any(re.match(name, one) for name in own)]
         if chatter:
             raise Silence(f"heard {chatter} besides {expected}")
 
@@ -98,8 +108,6 @@ def main():
             pupil.transcript.clear()
             try:
                 activity(pupil)
-                pupil.reads_the_tree()
-                pupil.close()
             finally:
                 print(f"== {activity.__name__}")
                 for keys, said in pupil.transcript:

@@ -4,6 +4,7 @@
 #include "problems/selection_screen.h"
 #include "support/bank_folder.h"
 #include "support/screen_bench.h"
+#include "ui/tray.h"
 
 #include <QAbstractButton>
 #include <QTextEdit>
@@ -70,6 +71,32 @@ private slots:
     {
         open(1);
         bench->verifyCommandColours();
+    }
+
+    void answerVerdictAndButtonsStandOnOneAxis()
+    {
+        open(1);
+        const auto place = [this](const QString& name) {
+            return bench->control<QWidget>(name).geometry();
+        };
+        const QRect answer = place(u"TBRespuesta"_s);
+        QCOMPARE(place(u"TBCorrecto"_s).left(), answer.left());
+        QCOMPARE(place(u"Command1"_s).left() - ui::Tray::Margin, answer.left());
+        QCOMPARE(place(u"LBUnidad"_s).center().y(), answer.center().y());
+        QVERIFY(place(u"LBUnidad"_s).left() > answer.right());
+        QVERIFY(place(u"TBCorrecto"_s).top() - answer.bottom() < answer.height() / 2);
+
+        QRect before = place(u"Command1"_s);
+        for (const QString& name : {u"Command2(1)"_s, u"Command2(0)"_s, u"Command2(2)"_s}) {
+            const QRect next = place(name);
+            QCOMPARE(next.top(), before.top());
+            QVERIFY2(next.left() > before.right(), qPrintable(name));
+            before = next;
+        }
+        const QRect statement = place(u"TBEnunciado"_s);
+        QCOMPARE(before.right() + ui::Tray::Margin, statement.right());
+        QCOMPARE(place(u"LBEstado"_s).left(), statement.left());
+        QVERIFY(place(u"LBEstado"_s).top() > before.bottom() + ui::Tray::Margin);
     }
 
     void whatLooksLikeMarkUpIsShownAsItIs()

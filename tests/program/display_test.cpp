@@ -3,6 +3,7 @@
 #include "support/screen_bench.h"
 #include "support/text_fit.h"
 #include "ui/opening_factor.h"
+#include "ui/tray.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +63,29 @@ private slots:
             QVERIFY(display().contains(screen.frameGeometry()));
         }
         QCOMPARE(screen.factor(), before);
+    }
+
+    void dialogsAreLeftAtTheBottomRight_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const QString& name : {u"Dialog"_s, u"DLGProblemas"_s, u"DLGSelProb"_s})
+            QTest::newRow(qPrintable(name)) << name;
+    }
+    void dialogsAreLeftAtTheBottomRight()
+    {
+        const ui::Screen& dialog = open();
+        const auto& accept = ScreenBench::find<QPushButton>(dialog, u"OKButton"_s);
+        const auto& cancel = ScreenBench::find<QPushButton>(dialog, u"CancelButton"_s);
+        const int near = qRound(16 * dialog.factor()) + 1;
+        const QRect corner = placeIn(dialog, cancel);
+        QVERIFY(dialog.width() - corner.right() - 1 <= near);
+        QVERIFY(dialog.height() - corner.bottom() - 1 <= near);
+        const QRect beside = placeIn(dialog, accept);
+        QCOMPARE(beside.top(), corner.top());
+        QCOMPARE(beside.height(), corner.height());
+        QVERIFY(std::abs(beside.width() - corner.width()) <= 1);
+        QVERIFY(corner.left() > beside.right() && corner.left() - beside.right() <= near);
+        QVERIFY(ui::Tray::holds(accept) && ui::Tray::holds(cancel));
     }
 
     void boxesFit()

@@ -23,16 +23,23 @@ public:
     {
     }
 
-    /// Loads, shows and activates a screen, at factor 1 on whatever display.
+    /// Loads, shows and activates a screen at factor 1.
     template <typename S> S& open()
     {
         screens.add<S>();
-        auto& screen = screens.load(S::screenName());
-        screen.resize((QSizeF(screen.size()) / screen.factor()).toSize());
-        screens.show(S::screenName());
+        auto& screen = show(S::screenName());
         makeActive(screen);
         m_screen = &screen;
         return static_cast<S&>(screen);
+    }
+
+    /// Loads and shows a screen at factor 1, at which measures are written, on whatever display.
+    ui::Screen& show(const QString& name)
+    {
+        ui::Screen& screen = screens.load(name);
+        screen.resize((QSizeF(screen.size()) / screen.factor()).toSize());
+        screens.show(name);
+        return screen;
     }
 
     /// Looks for controls in this screen, which the test has opened by itself.

@@ -67,6 +67,44 @@ private slots:
         QCOMPARE(row(), u"4 x 7 = 28"_s);
     }
 
+    void theVerdictEdgesTheGap()
+    {
+        const auto& gap = bench->control<ui::TextBox>(u"TbTermin(1)"_s);
+        answer(u"8"_s);
+        QCOMPARE(gap.edge(), QColor(ui::look::Wrong));
+        bench->type(u"TbTermin(1)"_s, u"7"_s);
+        QCOMPARE(gap.edge(), std::nullopt);
+        bench->key(u"TbTermin(1)"_s, Qt::Key_Return);
+        QCOMPARE(gap.edge(), QColor(ui::look::Right));
+        appendFactors(5, 8);
+        bench->click(u"Command2(0)"_s);
+        QCOMPARE(gap.edge(), std::nullopt);
+    }
+
+    void theOperationStandsInOneLineOnTheBoard()
+    {
+        const QRect gap = placeOf(u"TbTermin(1)"_s);
+        for (const QString& name :
+            {u"TbTermin(0)"_s, u"TbSignos(0)"_s, u"TbSignos(1)"_s, u"TbTermin(2)"_s})
+            QVERIFY2(qAbs(placeOf(name).center().y() - gap.center().y()) <= 1, qPrintable(name));
+        const int beforeGap = gap.left() - placeOf(u"TbSignos(0)"_s).right();
+        const int behindGap = placeOf(u"TbSignos(1)"_s).left() - gap.right();
+        QVERIFY2(qAbs(beforeGap - behindGap) <= 1, qPrintable(QString::number(beforeGap)));
+    }
+
+    void theMarksOfTheGapLieOnPaper()
+    {
+        const QImage picture = screen->grab().toImage();
+        const QWidget& canvas = *bench->control<QWidget>(u"TbTermin(1)"_s).parentWidget();
+        const QRect gap = placeOf(u"TbTermin(1)"_s).translated(canvas.pos());
+        const int beyondRing = ui::look::RingWidth + 2;
+        for (const QPoint& at : {QPoint(gap.left() - beyondRing, gap.center().y()),
+                 QPoint(gap.right() + beyondRing, gap.center().y()),
+                 QPoint(gap.center().x(), gap.top() - beyondRing),
+                 QPoint(gap.center().x(), gap.bottom() + beyondRing)})
+            QCOMPARE(picture.pixelColor(at), QColor(ui::look::Paper));
+    }
+
     void aRightAnswerIsCountedOnce()
     {
         answer(u"7"_s);
@@ -230,7 +268,7 @@ private slots:
         runPendingEvents();
         for (double factor : {0.8, 1.0, 2.3}) {
             screen->resize(qCeil(312 * factor), qCeil(306 * factor));
-            QCOMPARE(textsCutOff(*screen), QStringList());
+            QCOMPARE(textsCutOff(*screen).join(u' '), QString());
         }
     }
 
@@ -267,9 +305,9 @@ private slots:
         screen->resize(qCeil(312 * factor), qCeil(306 * factor));
         answer(u"1"_s);
         answer(u"1"_s);
-        QCOMPARE(textsCutOff(*screen), QStringList());
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
         answer(u"10"_s);
-        QCOMPARE(textsCutOff(*screen), QStringList());
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
     }
 
 private:
@@ -290,6 +328,7 @@ private:
             bench->text(u"TbTermin(2)"_s)}
             .join(u' ');
     }
+    QRect placeOf(const QString& name) const { return bench->control<QWidget>(name).geometry(); }
     QString counters() const { return bench->text(u"TbEjercicios"_s); }
     void verifyShownSelected() const
     {

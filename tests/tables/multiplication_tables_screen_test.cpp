@@ -1,8 +1,13 @@
 #include "tables/multiplication_tables_screen.h"
 
 #include "support/screen_bench.h"
+#include "support/text_fit.h"
+#include "ui/tray.h"
 
 #include <QMenu>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextLayout>
 
 using namespace Qt::StringLiterals;
 using tables::Form2;
@@ -30,6 +35,108 @@ private slots:
         QVERIFY(bench->control<QAction>(u"MnuOpcTabLis(0)"_s).isChecked());
         verifyShown(tableBoxes, true);
         verifyShown(reviewControls, false);
+    }
+
+    void everyLineStandsInTheMiddleOfItsRow_data()
+    {
+        QTest::addColumn<QString>("half");
+        QTest::addColumn<double>("factor");
+
+        for (const QString& half : tableBoxes)
+            for (double factor : {0.8, 1.0, 1.45, 1.9, 3.0})
+                QTest::addRow("%s, factor %g", qPrintable(half), factor) << half << factor;
+    }
+    void everyLineStandsInTheMiddleOfItsRow()
+    {
+        QFETCH(QString, half);
+        QFETCH(double, factor);
+        bench->pick(u"MnuOpcTabLis(3)"_s);
+        zoom(factor);
+        auto& box = bench->control<QPlainTextEdit>(half);
+        const double row = box.height() / 5.0;
+        for (int i = 0; i < 5; ++i) {
+            QTextCursor line(box.document()->findBlockByNumber(i));
+            const QRect start = box.cursorRect(line);
+            line.movePosition(QTextCursor::EndOfBlock);
+            const QRect end = box.cursorRect(line);
+            const QPoint origin = box.viewport()->pos();
+            const double middle = origin.y() + start.y() + start.height() / 2.0;
+            QVERIFY2(qAbs(middle - (i + 0.5) * row) <= 2, qPrintable(QString::number(middle)));
+            const double left = origin.x() + start.x();
+            const double right = box.width() - origin.x() - end.x();
+            QVERIFY2(qAbs(left - right) <= 3, qPrintable(QString::number(left - right)));
+            QVERIFY(left > 0);
+        }
+        QCOMPARE(box.verticalScrollBar()->maximum(), 0);
+        QCOMPARE(box.horizontalScrollBar()->maximum(), 0);
+    }
+
+    void productsAreDarkerThanFactors()
+    {
+        const QTextBlock line =
+            bench->control<QPlainTextEdit>(u"TbTabla1"_s).document()->findBlockByNumber(2);
+        QCOMPARE(line.text(), u" 1x 3 =  3"_s);
+        const QList<QTextLayout::FormatRange> formats = line.layout()->formats();
+        QCOMPARE(formats.size(), 1);
+        QCOMPARE(formats.first().start, 0);
+        QCOMPARE(formats.first().length, 7);
+        QCOMPARE(formats.first().format.foreground().color(), QColor(ui::look::Quiet));
+        QVERIFY(ui::look::contrast(QColor(ui::look::Quiet), QColor(ui::look::Grid))
+            >= ui::look::ReadableContrast);
+    }
+
+    void everyOtherRowIsTintedAcrossBothHalves()
+    {
+        const QImage picture = screen->grab().toImage();
+        const QWidget& left = bench->control<QWidget>(u"TbTabla1"_s);
+        const QWidget& right = bench->control<QWidget>(u"TbTabla2"_s);
+        constexpr int BesideText = 2;
+        for (int i = 0; i < 5; ++i) {
+            const QColor expected(i % 2 == 0 ? ui::look::Grid : ui::look::Card);
+            const int y = static_cast<int>((i + 0.5) * left.height() / 5);
+            QCOMPARE(picture.pixelColor(left.mapTo(screen, QPoint(BesideText, y))), expected);
+            QCOMPARE(
+                picture.pixelColor(right.mapTo(screen, QPoint(right.width() - BesideText, y))),
+                expected);
+        }
+    }
+
+    void thePosterHangsOnlyWhereATableIsShown()
+    {
+        const QWidget& right = bench->control<QWidget>(u"TbTabla2"_s);
+        const QPoint place = right.mapTo(screen, QPoint(right.width() - 3, 3));
+        QCOMPARE(screen->grab().toImage().pixelColor(place), QColor(ui::look::Grid));
+        startReview();
+        QCOMPARE(screen->grab().toImage().pixelColor(place), QColor(ui::look::Paper));
+    }
+
+    void nothingOfWhatIsHiddenPeepsOut()
+    {
+        const QWidget& canvas = *bench->control<QWidget>(u"Command1"_s).parentWidget();
+        const int margin = qCeil(ui::Tray::Margin * screen->factor());
+        for (const QString& name : reviewControls)
+            QVERIFY2(bench->control<QWidget>(name).x() - margin >= canvas.width()
+                    || name.startsWith(u"Tb"_s),
+                qPrintable(name));
+    }
+
+    void nothingIsCutOff_data()
+    {
+        QTest::addColumn<double>("factor");
+
+        for (double factor : {0.8, 1.0, 1.25, 1.45, 1.9, 4.0})
+            QTest::addRow("factor %g", factor) << factor;
+    }
+    void nothingIsCutOff()
+    {
+        QFETCH(double, factor);
+        bench->pick(u"MnuOpcTabLis(3)"_s);
+        zoom(factor);
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
+        startReview();
+        answer(u"999"_s);
+        bench->type(u"TbOperación(4)"_s, u"100"_s);
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
     }
 
     void captionsAreExact()
@@ -110,6 +217,17 @@ private slots:
         QCOMPARE(bench->text(u"TbOperación(4)"_s), QString());
         QVERIFY(bench->control<QPushButton>(u"Command2(2)"_s).isEnabled());
         QCOMPARE(bench->focusName(), u"TbOperación(4)"_s);
+    }
+
+    void theVerdictEdgesTheAnswerOfTheSameQuestion()
+    {
+        const auto& answerBox = bench->control<ui::TextBox>(u"TbOperación(4)"_s);
+        startReview();
+        answer(u"2"_s);
+        QCOMPARE(answerBox.edge(), QColor(ui::look::Wrong));
+        answer(u"1"_s);
+        QCOMPARE(line(), u"1 × 2 = "_s);
+        QCOMPARE(answerBox.edge(), std::nullopt);
     }
 
     void emptyAnswerIsWrong()
@@ -365,6 +483,11 @@ private:
     const QStringList reviewControls{u"TbOperación(0)"_s, u"TbOperación(1)"_s,
         u"TbOperación(2)"_s, u"TbOperación(3)"_s, u"TbOperación(4)"_s, u"Text1"_s, u"Command1"_s,
         u"Command2(0)"_s, u"Command2(1)"_s, u"Command2(2)"_s};
+
+    void zoom(double factor)
+    {
+        screen->resize((QSizeF(screen->size()) / screen->factor() * factor).toSize());
+    }
 
     void startReview() { bench->pick(u"MnuOpcActLis(1)"_s); }
 

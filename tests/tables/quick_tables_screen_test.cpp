@@ -229,6 +229,29 @@ private slots:
         QCOMPARE(row(), u"7 x 8 = "_s);
     }
 
+    void theNumberOfTheTimeIsRounded()
+    {
+        append(7, 8);
+        start();
+        tick(1);
+        const QImage label = screen->grab().toImage();
+        const QWidget& time = bench->control<QWidget>(u"LBTiempo"_s);
+        const QPoint corner = time.mapTo(screen, QPoint(0, 0));
+        QCOMPARE(label.pixelColor(corner), QColor(ui::look::Paper));
+    }
+
+    void thePatchLiesRightUnderTheOperation()
+    {
+        const QRect patch = bench->control<QWidget>(u"TBResul"_s).geometry();
+        const QRect first = bench->control<QWidget>(u"TbDatos(0)"_s).geometry();
+        const QRect answer = bench->control<QWidget>(u"TbDatos(4)"_s).geometry();
+        QCOMPARE(patch.left(), first.left());
+        QCOMPARE(patch.right(), answer.right());
+        QVERIFY(patch.top() > answer.bottom());
+        QVERIFY(patch.top() - answer.bottom() <= answer.height() / 4);
+        QVERIFY(patch.height() <= answer.height() / 2);
+    }
+
     void aNewOperationKeepsTheColourOfTheTime()
     {
         append(7, 8);
@@ -639,12 +662,12 @@ private slots:
         bench->type(u"Text1"_s, u"500"_s);
         append(10, 10);
         screen->resize(qCeil(392 * factor), qCeil(440 * factor));
-        QCOMPARE(textsCutOff(*screen), QStringList());
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
         start();
         bench->type(u"TbDatos(4)"_s, u"1000"_s);
-        QCOMPARE(textsCutOff(*screen), QStringList());
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
         tick(1);
-        QCOMPARE(textsCutOff(*screen), QStringList());
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
     }
 
 private:
@@ -684,10 +707,13 @@ private:
         return texts.join(u' ');
     }
     QString labelText(const QString& name) const { return bench->control<QLabel>(name).text(); }
+    /// As it is seen, beside the number.
     QColor timeColour() const
     {
         const auto& label = bench->control<QLabel>(u"LBTiempo"_s);
-        return label.autoFillBackground() ? label.palette().color(QPalette::Window) : QColor();
+        constexpr int InsideEdge = 4;
+        const QPoint place = label.mapTo(screen, QPoint(InsideEdge, label.height() / 2));
+        return screen->grab().toImage().pixelColor(place);
     }
     void verifyPatch(const QString& text, const QColor& colour, ui::VerdictBox::Mark mark) const
     {

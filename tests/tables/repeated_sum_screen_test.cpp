@@ -80,13 +80,31 @@ private slots:
             ui::toPixels({0, 0, 4680, 7590}, screen->factor()).size());
     }
 
-    void theSignStandsClearOfTheFirstFactor()
+    void theSignStandsHalfwayBetweenTheFactors()
     {
         auto& sign = bench->control<ui::TextBox>(u"Text3(1)"_s);
         QVERIFY(!sign.hasFrame());
-        QCOMPARE(sign.textMargins().left(), qRound(20 * screen->factor())); // 300 twips
+        const QRect first = bench->control<QWidget>(u"Text3(0)"_s).geometry();
+        const QRect second = bench->control<QWidget>(u"Text3(2)"_s).geometry();
+        const int text = sign.geometry().marginsRemoved(sign.textMargins()).center().x();
+        QVERIFY2(qAbs(text - (first.right() + second.left()) / 2) <= 1,
+            qPrintable(QString::number(text)));
         const QPoint shared(qRound(2050 / 15.0 * screen->factor()), sign.geometry().center().y());
         QCOMPARE(sign.parentWidget()->childAt(shared)->objectName(), u"Text3(0)"_s);
+    }
+
+    void theVerdictEdgesBothFactorsUntilTheyAreTypedInto()
+    {
+        type(u"3"_s, u"4"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(edge(u"Text3(0)"_s), QColor(ui::look::Wrong));
+        QCOMPARE(edge(u"Text3(2)"_s), QColor(ui::look::Wrong));
+        QTest::keyClick(&bench->control<QWidget>(u"Text3(2)"_s), Qt::Key_Backspace);
+        QCOMPARE(edge(u"Text3(0)"_s), QColor(ui::look::Wrong));
+        QCOMPARE(edge(u"Text3(2)"_s), std::nullopt);
+        bench->type(u"Text3(2)"_s, u"5"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(edge(u"Text3(2)"_s), QColor(ui::look::Right));
     }
 
     void tabGoesFromLeftToRightAndDown()
@@ -275,7 +293,7 @@ private slots:
         screen->resize(qCeil(312 * factor), qCeil(506 * factor));
         type(u"100"_s, u"100"_s);
         bench->click(u"Command1"_s);
-        QCOMPARE(textsCutOff(*screen), QStringList());
+        QCOMPARE(textsCutOff(*screen).join(u' '), QString());
     }
 
     void theSumFitsTheBoard_data()
@@ -314,6 +332,10 @@ private:
     }
     QString sum() const { return bench->control<QPlainTextEdit>(u"TbSuma"_s).toPlainText(); }
     QString counters() const { return bench->text(u"tbResultados"_s); }
+    std::optional<QColor> edge(const QString& name) const
+    {
+        return bench->control<ui::TextBox>(name).edge();
+    }
     QStringList answer() const
     {
         return {

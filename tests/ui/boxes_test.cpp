@@ -1,6 +1,7 @@
 #include "support/sample_screen.h"
 #include "support/screen_bench.h"
 #include "ui/boxes.h"
+#include "ui/opening_factor.h"
 
 #include <QLabel>
 
@@ -130,6 +131,23 @@ private slots:
         QCOMPARE(boxes.titles, {u"Insertar dato"_s});
         QVERIFY(boxes.buttons.contains(u"Aceptar"_s) && boxes.buttons.contains(u"Cancelar"_s));
         QCOMPARE(boxes.buttons.size(), 2);
+    }
+
+    void aLongTextIsSeenWhole()
+    {
+        QStringList lines;
+        for (int i = 1; i <= 13; ++i)
+            lines << u"número %1: 0 errores."_s.arg(i);
+        const int free = screen->screen()->availableGeometry().height();
+        screen->resize(screen->size() * (free / 450.0));
+        BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog& box) {
+            QVERIFY2(box.height() + ui::FrameHeight <= free,
+                qPrintable(QString::number(box.height())));
+            QVERIFY(QFontInfo(box.font()).pixelSize() >= 15);
+        };
+        ui::MessageBox::show(*screen, lines.join(u"\r\n"_s));
+        QCOMPARE(boxes.texts, {lines.join(u"\r\n"_s)});
     }
 
     void cancelledInputIsEmpty()

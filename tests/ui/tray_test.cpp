@@ -62,6 +62,26 @@ private slots:
         QVERIFY(!ui::Tray::holds(*screen));
     }
 
+    void aStripLiesAlongTheBottom()
+    {
+        const ui::Tray strip({screen->command}, ui::Tray::Shape::Strip);
+        for (const QSize size : {screen->size(), screen->size() * 2, screen->size()}) {
+            screen->resize(size);
+            const QWidget& canvas = *screen->canvas();
+            QCOMPARE(strip.geometry().left(), 0);
+            QCOMPARE(strip.geometry().bottomRight(), canvas.rect().bottomRight());
+            QCOMPARE(
+                strip.y(), screen->command->y() - qRound(ui::Tray::Margin * screen->factor()));
+        }
+        QVERIFY(ui::Tray::holds(*screen->command));
+        screen->entry->hide();
+        screen->lines->hide();
+        tray->hide();
+        const QImage shown = screen->canvas()->grab().toImage();
+        QCOMPARE(shown.pixel(1, strip.y() + 1), ui::look::Slate);
+        QCOMPARE(shown.pixel(shown.width() - 2, shown.height() - 2), ui::look::Slate);
+    }
+
     void letsTheMouseThrough()
     {
         int clicks = 0;

@@ -54,7 +54,12 @@ private slots:
         }
     }
 
-    void noSquareIsCutOff_data() { everyCharacterStandsInItsSquare_data(); }
+    void noSquareIsCutOff_data()
+    {
+        QTest::addColumn<double>("factor");
+        for (const double factor : {0.8, 1.1, 1.33, 2.0})
+            QTest::addRow("factor %g", factor) << factor;
+    }
 
     void noSquareIsCutOff()
     {

@@ -1,0 +1,12 @@
+# Fails where the version is told otherwise than in CMakeLists.txt. VERSION; ROOT.
+function(first_match file pattern)
+  file(STRINGS ${ROOT}/${file} lines REGEX "${pattern}")
+  list(GET lines 0 line)
+  string(REGEX MATCH "${pattern}" _ "${line}")
+  if(NOT CMAKE_MATCH_1 STREQUAL VERSION)
+    message(SEND_ERROR "${file} says ${CMAKE_MATCH_1}, CMakeLists.txt ${VERSION}")
+  endif()
+endfunction()
+first_match(CHANGELOG.md "^## .([0-9][0-9.]*). - ")
+first_match(packaging/org.pizarrin.Pizarrin.metainfo.xml "<release version=\"([0-9.]+)\"")
+first_match(packaging/windows/pizarrin.manifest "org.pizarrin.Pizarrin\" version=\"([0-9]+.[0-9]+.[0-9]+).0\"")
