@@ -121,8 +121,13 @@ void Form5::show(const RainStep& step)
 
 void Form5::showScore()
 {
-    Text2[0]->setText(m_model.pointsText());
-    Text2[1]->setText(m_model.livesText());
+    // Only what has changed: a screen reader looks into every text that is set, and would fall
+    // behind the numbers.
+    const std::array texts{m_model.pointsText(), m_model.livesText()};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (Text2.at(i)->text() != texts.at(i))
+            Text2.at(i)->setText(texts.at(i));
+    }
     m_stars->setLit(m_model.state().Aciertos.value());
     m_hearts->setLit(m_model.state().Vidas.value());
 }
