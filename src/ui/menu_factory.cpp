@@ -4,6 +4,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +42,12 @@ QMenuBar* MenuFactory::bar()
         m_bar = new QMenuBar(m_window);
         m_bar->setNativeMenuBar(false);
         m_bar->setFont(look::scaled(BarFont, m_factor));
+        // The Alt key alone leads there too, but not beside a screen reader.
+        auto* turnTo = new QShortcut(Qt::Key_F10, m_window);
+        QObject::connect(turnTo, &QShortcut::activated, m_bar, [bar = m_bar] {
+            bar->setFocus(Qt::MenuBarFocusReason);
+            bar->setActiveAction(bar->actions().constFirst());
+        });
     }
     return m_bar;
 }

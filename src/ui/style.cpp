@@ -200,8 +200,9 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         return m_accessKeys->areShown(widget) ? 1 : 0;
     case SH_MenuBar_AltKeyNavigation:
         // Beside a screen reader the toolkit hands keys on late: the release of one Alt comes
-        // behind the next press, as if nothing had been pressed in between.
-        return QAccessible::isActive() ? 0 : 1;
+        // behind the next press, as if nothing had been pressed in between. F10 leads to the
+        // bar then; there, the keys work as ever.
+        return QAccessible::isActive() && (widget == nullptr || !widget->hasFocus()) ? 0 : 1;
     case SH_MessageBox_CenterButtons: // at the right, as in every dialog
         return 0;
     case SH_BlinkCursorWhenTextSelected:

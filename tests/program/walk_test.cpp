@@ -221,7 +221,9 @@ private:
     {
         if (path.isEmpty()) {
             auto* bar = screen->findChild<QMenuBar*>();
-            bar->setActiveAction(&item); // as the Alt key alone does
+            QTest::keyClick(screen, Qt::Key_F10);
+            QVERIFY(bar->hasFocus());
+            QCOMPARE(bar->activeAction(), &item);
             QTest::keyClick(bar, Qt::Key_Return);
             return;
         }

@@ -41,8 +41,9 @@ private slots:
     {
         QFETCH(double, factor);
         screen->resize((QSizeF(screen->size()) * factor / screen->factor()).toSize());
-        // As long as 70 % of the display allow, beside margins and icon.
-        const double room = 0.7 * screen->screen()->availableGeometry().width() - 110 * factor;
+        // As long as 70 % of the display allow, beside margins and icon, and as reads well.
+        const double room = std::min(
+            0.7 * screen->screen()->availableGeometry().width() - 110 * factor, 600 * factor);
         const QFontMetrics metrics(ui::look::scaled(ui::look::BoxText, factor));
         QString line = u"errores"_s;
         while (metrics.horizontalAdvance(line + u" errores"_s) < room)
