@@ -6,6 +6,19 @@
 
 namespace ui {
 
+namespace {
+
+/// The time from frame to frame, at least, in milliseconds: in a window of very many pixels
+/// every second frame flows as well and costs half as much.
+int leastFrame(const QWidget& control)
+{
+    constexpr double VeryMany = 3e6;
+    const QSizeF size = QSizeF(control.window()->size()) * control.devicePixelRatioF();
+    return size.width() * size.height() < VeryMany ? 0 : 25;
+}
+
+} // namespace
+
 Glide::Glide(Mover move, QObject* parent)
     : QObject(parent)
     , m_move(std::move(move))
@@ -66,9 +79,14 @@ QVariantAnimation& Glide::tripOf(QWidget* control)
     if (!trip) {
         trip = new QVariantAnimation(control);
         connect(trip, &QVariantAnimation::valueChanged, this,
-            [this, control, made = trip.data()](const QVariant& place) {
-                if (made->state() == QVariantAnimation::Running)
-                    m_move(control, place.toPointF().x(), place.toPointF().y());
+            [this, control, made = trip.data(), last = 0](const QVariant& place) mutable {
+                const int now = made->currentTime();
+                if (made->state() != QVariantAnimation::Running
+                    || (now > last && now < made->duration()
+                        && now - last < leastFrame(*control)))
+                    return;
+                last = now;
+                m_move(control, place.toPointF().x(), place.toPointF().y());
             });
     }
     return *trip;

@@ -9,6 +9,12 @@ using namespace Qt::StringLiterals;
 
 namespace ui {
 
+namespace {
+
+constexpr look::Font BarFont{look::Family::Andika, 16}; // the main menu's factor is small
+
+} // namespace
+
 MenuFactory::MenuFactory(QWidget* window)
     : m_window(window)
 {
@@ -24,10 +30,9 @@ void MenuFactory::setMenuFactor(double factor)
     m_factor = factor;
     if (m_bar == nullptr)
         return;
-    const QFont font = look::scaled(look::Instruction, m_factor);
-    m_bar->setFont(font);
+    m_bar->setFont(look::scaled(BarFont, m_factor));
     for (QMenu* menu : m_bar->findChildren<QMenu*>())
-        menu->setFont(font);
+        menu->setFont(look::scaled(look::Instruction, m_factor));
 }
 
 QMenuBar* MenuFactory::bar()
@@ -35,7 +40,7 @@ QMenuBar* MenuFactory::bar()
     if (m_bar == nullptr) {
         m_bar = new QMenuBar(m_window);
         m_bar->setNativeMenuBar(false);
-        m_bar->setFont(look::scaled(look::Instruction, m_factor));
+        m_bar->setFont(look::scaled(BarFont, m_factor));
     }
     return m_bar;
 }

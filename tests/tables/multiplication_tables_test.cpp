@@ -220,6 +220,18 @@ private slots:
 private:
     ScriptedRandom random;
     std::unique_ptr<MultiplicationTables> model;
+
+    void reportsTheErrorsOfTheSeries()
+    {
+        model->chooseTable(0);
+        model->newExercise();
+        model->judge(2);
+        model->judge(3);
+        QCOMPARE(model->seriesReport(),
+            u"Has cometido 2 errores. ¿Deseas volver a realizar esta actividad?"_s);
+        QCOMPARE(model->showSolution(), 1);
+        QCOMPARE(model->seriesErrors(), 2); // showing the solution counts nothing
+    }
 };
 
 QTEST_GUILESS_MAIN(MultiplicationTablesTest)

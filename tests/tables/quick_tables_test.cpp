@@ -588,6 +588,18 @@ private slots:
         QTEST(colour.green, "green");
     }
 
+    void decidesItsTexts()
+    {
+        QCOMPARE(QuickTables::verdictText(Verdict::Right), u"BIEN"_s);
+        QCOMPARE(QuickTables::verdictText(Verdict::Wrong), u"MAL"_s);
+        QCOMPARE(QuickTables::limitWarning(LimitVerdict::TooSmall),
+            u"Ha especificado un valor demasiado pequeño. La actividad continuará hasta   que se "
+            "pulse  el botón salir"_s);
+        QCOMPARE(QuickTables::limitWarning(LimitVerdict::TooLarge),
+            u"Ha especificado un valor demasiado grande. La actividad continuará hasta   que se "
+            "pulse  el botón salir"_s);
+    }
+
     void tellsOfALimitThatNoCounterHolds_data()
     {
         QTest::addColumn<End>("end");

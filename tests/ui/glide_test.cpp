@@ -128,6 +128,22 @@ private slots:
         QCOMPARE(other->pos(), QPoint(100, 0));
     }
 
+    void aVeryLargeWindowIsPaintedEverySecondFrame()
+    {
+        const auto frames = [this](QSize size) {
+            window->resize(size);
+            places.clear();
+            glide->send(control, {0, 0}, {0, 100}, Step);
+            for (int time = 0; time < Trip; time += 10)
+                clock->pass(10);
+            return places.size();
+        };
+        QCOMPARE(frames({400, 400}), Trip / 10);
+        QCOMPARE(places.last(), QPointF(0, 100));
+        QVERIFY(frames({3000, 2000}) < Trip / 20);
+        QCOMPARE(places.last(), QPointF(0, 100));
+    }
+
     void goesOnByItself()
     {
         clock.reset();

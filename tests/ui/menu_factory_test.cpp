@@ -59,7 +59,7 @@ private slots:
         const int twice = 2 * ui::look::Instruction.pixels;
         QCOMPARE(before->font().pixelSize(), twice);
         QCOMPARE(after->font().pixelSize(), twice);
-        QCOMPARE(make.menuBar()->font().pixelSize(), twice);
+        QCOMPARE(make.menuBar()->font().pixelSize(), twice + 2);
     }
 };
 

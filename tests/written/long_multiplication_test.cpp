@@ -419,6 +419,15 @@ private slots:
         QVERIFY(model.isPending());
     }
 
+    void theHintStandsInTheVerdictLine()
+    {
+        LongMultiplication model = board(u"1234"_s, u"567"_s);
+        QVERIFY(model.IndicaProducto(0, 0, 2));
+        QCOMPARE(model.verdict().text(), u"3 × 7"_s);
+        QVERIFY(!model.IndicaProducto(0, 1, 1)); // right of the units there is none
+        QCOMPARE(model.verdict().text(), u"3 × 7"_s);
+    }
+
     void hintsAtTheDigitsThatMeet_data()
     {
         QTest::addColumn<int>("caret");
