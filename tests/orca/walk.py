@@ -2,6 +2,7 @@
 """walk.py PROGRAM [ACTIVITY...]: plays activities with a real screen reader."""
 
 import re
+import signal
 import subprocess
 import sys
 from pathlib import Path
@@ -97,6 +98,7 @@ class Pupil:
 
 
 def main():
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped"))  # what was started ends too
     program, wanted = sys.argv[1], sys.argv[2:]
     with Desk() as desk:
         pupil = Pupil(desk)
