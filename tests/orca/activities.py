@@ -155,9 +155,9 @@ def combined(pupil):
     pupil.does(*str(result + 1), "Return", says=["Resultado incorrecto"])
     pupil.does("Return", says=["Resultado incorrecto"])
     pupil.does("alt+v", says=[f"Solución: {result}"])
-    result = value_of(pupil.goes_on("alt+c", operation, also=[r"\d+ selected"]).group())
+    result = value_of(pupil.goes_on("alt+c", operation, also=[r"(\d+ )?selected"]).group())
     pupil.does(*str(result), "Return", says=["Resultado correcto"])
-    pupil.goes_on("alt+c", operation, also=[r"\d+ selected"])
+    pupil.goes_on("alt+c", operation, also=[r"(\d+ )?selected"])
     pupil.close()
 
 
