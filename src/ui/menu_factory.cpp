@@ -12,7 +12,7 @@ namespace ui {
 
 namespace {
 
-constexpr look::Font BarFont{look::Family::Andika, 16}; // the main menu's factor is small
+constexpr look::Font MenuFont{look::Family::Andika, 16}; // the main menu's factor is small
 
 } // namespace
 
@@ -31,9 +31,9 @@ void MenuFactory::setMenuFactor(double factor)
     m_factor = factor;
     if (m_bar == nullptr)
         return;
-    m_bar->setFont(look::scaled(BarFont, m_factor));
+    m_bar->setFont(look::scaled(MenuFont, m_factor));
     for (QMenu* menu : m_bar->findChildren<QMenu*>())
-        menu->setFont(look::scaled(look::Instruction, m_factor));
+        menu->setFont(look::scaled(MenuFont, m_factor));
 }
 
 QMenuBar* MenuFactory::bar()
@@ -41,7 +41,7 @@ QMenuBar* MenuFactory::bar()
     if (m_bar == nullptr) {
         m_bar = new QMenuBar(m_window);
         m_bar->setNativeMenuBar(false);
-        m_bar->setFont(look::scaled(BarFont, m_factor));
+        m_bar->setFont(look::scaled(MenuFont, m_factor));
         // The Alt key alone leads there too, but not beside a screen reader.
         auto* turnTo = new QShortcut(Qt::Key_F10, m_window);
         QObject::connect(turnTo, &QShortcut::activated, m_bar, [bar = m_bar] {
@@ -56,7 +56,7 @@ QMenu* MenuFactory::named(QMenu* menu, const QString& name) const
 {
     menu->setObjectName(name);
     menu->menuAction()->setObjectName(name);
-    menu->setFont(look::scaled(look::Instruction, m_factor));
+    menu->setFont(look::scaled(MenuFont, m_factor));
     return menu;
 }
 
