@@ -154,6 +154,20 @@ class Desk:
     def type(self, text):
         self.press(*str(text))
 
+    def press_until(self, key, words):
+        """Presses a key until the reader says this: a box that came up by itself takes no key
+        at first."""
+        end = time.monotonic() + LIMIT
+        while not any(re.fullmatch(words, said) for said in self.heard):
+            if time.monotonic() > end:
+                raise Silence(f"{key} does not bring about {words}")
+            self.press(key)
+            try:
+                self.heard.append(self.said.get(timeout=0.3))
+            except queue.Empty:
+                pass
+        self.hear(words)
+
     def hear(self, *wanted):
         """Waits until the reader has said each wanted regular expression, in this order, as
         whole utterances. Returns the matches, and forgets what came before the last one."""
