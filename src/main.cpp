@@ -1,7 +1,7 @@
 #include "activities.h"
 #include "core/clock.h"
-#include "core/system.h"
 #include "core/random.h"
+#include "core/system.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
 #include "ui/screens.h"
