@@ -32,7 +32,7 @@ constexpr double InputWidth = 500; // pixels at factor 1
 constexpr double LongestLine = 600;
 constexpr double ShortestLine = 220; // so that the title can be read
 constexpr double BoxFrame = 110; // what a box needs beside its text, icon included
-constexpr double BoxEnds = 92; // what it needs above and below: margins and buttons
+constexpr double BoxEnds = 106; // what it needs above and below: margins and buttons
 constexpr int SmallestText = 12;
 
 const QString TextLabel = u"qt_msgbox_label"_s; // the toolkit's names
@@ -57,7 +57,7 @@ protected:
     void showEvent(QShowEvent* event) override
     {
         dropIconGap();
-        keepNotesClear();
+        keepTextClear();
         QMessageBox::showEvent(event);
     }
     void keyPressEvent(QKeyEvent* event) override
@@ -86,14 +86,14 @@ private:
 
     /// Of the strip under the buttons; the toolkit has set margins of its own meanwhile, for
     /// the text too, whose lines they would break.
-    void keepNotesClear()
+    void keepTextClear()
     {
+        const int line = fontMetrics().height();
         auto* notes = findChild<QLabel*>(NotesLabel);
-        if (notes == nullptr)
-            return;
-        notes->setContentsMargins(0, 0, 0, fontMetrics().height());
+        if (notes != nullptr)
+            notes->setContentsMargins(0, 0, 0, line);
         if (auto* text = findChild<QLabel*>(TextLabel))
-            text->setContentsMargins({});
+            text->setContentsMargins(0, 0, 0, notes != nullptr ? 0 : line / 2);
     }
 
     /// Without an icon the text begins where the margin ends.
