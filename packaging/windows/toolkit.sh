@@ -13,7 +13,7 @@ options=(
   # The source package lacks its header; classes are laid out without it.
   -DFEATURE_tabletevent=OFF
 )
-for feature in sql network dbus xml printsupport concurrent vulkan direct2d zstd icu glib \
+for feature in sql network dbus xml printsupport concurrent vulkan direct2d1_1 zstd icu glib \
     system_zlib system_pcre2 system_png system_jpeg system_freetype system_harfbuzz \
     system_doubleconversion system_libb2 gif ico style_windowsvista; do
   options+=("-DFEATURE_$feature=OFF")
