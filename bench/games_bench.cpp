@@ -279,9 +279,9 @@ void measureDrawing(int seconds)
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     const QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     measureGames();
     const int seconds = argc > 1 ? std::atoi(argv[1]) : 10;
     if (seconds > 0)

@@ -55,9 +55,9 @@ void measure(ui::Screens& screens, const char* what, int mode, problems::Operati
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     const QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     const QTemporaryDir folder;
     problems::GuardarBanco(folder.path(), largestBank());
     core::SeededRandom random;

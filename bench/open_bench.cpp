@@ -83,9 +83,9 @@ void measure(ui::Screens& screens, QPushButton& button, const QString& screen, P
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     core::SeededRandom random;
     const core::SystemClock clock;
     ui::Screens screens(random, clock, QString::fromUtf8(PIZARRIN_RESOURCES));

@@ -96,9 +96,9 @@ void measureOpening(ui::Screens& screens)
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     const QTemporaryDir folder;
     core::SeededRandom random;
     const core::SystemClock clock;

@@ -15,10 +15,10 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
     QApplication application(nameAlone, argv);
-    ui::dress();
+    ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
     QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));
 

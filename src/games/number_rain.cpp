@@ -31,8 +31,8 @@ const Setting& settingOf(Difficulty difficulty)
 
 } // namespace
 
-NumberRain::NumberRain(core::RandomSource& random, int height)
-    : m_fall(random, height)
+NumberRain::NumberRain(core::RandomSource& random, int lastRow)
+    : m_fall(random, lastRow)
 {
     chooseDifficulty(Difficulty::Facil);
 }

@@ -2,6 +2,7 @@
 
 #include "games/night_sky.h"
 #include "games/rain_field.h"
+#include "games/rain_grid.h"
 #include "games/token_row.h"
 #include "ui/screens.h"
 
@@ -55,7 +56,7 @@ QPalette textOn(QPalette palette, QRgb fill, QRgb text)
 
 Form5::Form5(ui::Screens& screens)
     : Screen(screens, screenName(), u"Lluvia de números - Fase 1"_s, Width, Height)
-    , m_model(screens.random(), static_cast<int>(Height))
+    , m_model(screens.random(), RainGrid::lastRow(static_cast<int>(Height)))
     , m_sky(new NightSky(this))
     , m_field(new RainField(*this, this))
 {

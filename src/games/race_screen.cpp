@@ -155,7 +155,7 @@ void FrmCarrera::showRightAnswer()
     }
     m_scene->setRunning(true);
     m_scene->setSolved(m_race.solved());
-    m_scene->drive(RaceScene::Pupil, m_race.playerLeft(), PupilStep);
+    m_scene->drive(RaceScene::Pupil, m_course.playerLeft(m_race.solved()), PupilStep);
     if (!m_race.isOver())
         return;
     m_scene->celebrate(true);
@@ -174,7 +174,8 @@ void FrmCarrera::Timer2_Timer()
     const auto step = m_race.rivalStep();
     if (step == Race::RivalStep::Ignored)
         return;
-    m_scene->drive(RaceScene::Rival, m_race.rivalLeft(), Timer2->intervalAsDuration());
+    m_scene->drive(
+        RaceScene::Rival, m_course.rivalLeft(m_race.rivalSteps()), Timer2->intervalAsDuration());
     if (step == Race::RivalStep::Won)
         endRace(m_race.lostText());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "games/race.h"
+#include "games/race_course.h"
 #include "games/race_scene.h"
 #include "ui/screen.h"
 
@@ -55,6 +56,7 @@ private:
     void showTime();
 
     Race m_race;
+    RaceCourse m_course;
     PictureNames NombresImagen;
     RaceScene* m_scene; ///< road, cars, landscape, podium
     ui::TextBox* TBOperacion = nullptr; ///< the operation to solve

@@ -27,7 +27,7 @@ QStringView trimBlanks(QStringView text)
 }
 
 /// Where it cannot be worked out, the notes come first: they name the cause more plainly.
-WorkedOutText drawOf(const QString& text, const QStringList& notes, core::RandomSource& random,
+WorkedOutText workOut(const QString& text, const QStringList& notes, core::RandomSource& random,
     const ExpressionEvaluator& evaluator)
 {
     try {
@@ -103,12 +103,12 @@ TryOut tryOut(const TemplateFields& fields, core::RandomSource& random,
     QStringList notes;
     for (const TemplateFault& fault : faultsOf(fields))
         notes << fault.text;
-    const WorkedOutText draw = drawOf(text, notes, random, evaluator);
-    for (const TemplateFault& fault : faultsOf(draw))
+    const WorkedOutText worked = workOut(text, notes, random, evaluator);
+    for (const TemplateFault& fault : faultsOf(worked))
         notes << fault.text;
-    if (!notes.isEmpty() && !draw.dataMarkers.isEmpty())
-        notes << u"Datos: %1."_s.arg(dataText(draw));
-    return {draw.text, notes.join(u'\n')};
+    if (!notes.isEmpty() && !worked.dataMarkers.isEmpty())
+        notes << u"Datos: %1."_s.arg(dataText(worked));
+    return {worked.text, notes.join(u'\n')};
 }
 
 QString separatorRefusal()

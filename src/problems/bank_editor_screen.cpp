@@ -57,7 +57,7 @@ void DLGProblemas::closeRequested()
 void DLGProblemas::List1_Click()
 {
     const int entry = selectedEntry();
-    CBAccion[2]->setEnabled(entry != m_model.newEntry());
+    CBAccion[static_cast<std::size_t>(Action::Delete)]->setEnabled(entry != m_model.newEntry());
     if (!m_model.isLine(entry))
         return;
     const TemplateFields shown = m_model.show(entry);
@@ -142,16 +142,16 @@ void DLGProblemas::CBProbar_Click()
 
 void DLGProblemas::CBAccion_Click(int Index)
 {
-    switch (Index) {
-    case 0:
+    switch (static_cast<Action>(Index)) {
+    case Action::Store:
         storeEntry();
         break;
-    case 1:
+    case Action::Empty:
         Text1->clear();
         Text2->clear();
         Text3->clear();
         break;
-    default:
+    case Action::Delete:
         deleteEntry();
         break;
     }

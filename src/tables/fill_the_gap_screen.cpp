@@ -94,7 +94,7 @@ void FrmMultHuecos::makeButtons()
 
 void FrmMultHuecos::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     ui::Ground::pose(*this, ui::Pose::Waiting);
     newExercise();
     TbTermin[1]->setFocus();

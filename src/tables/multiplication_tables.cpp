@@ -84,7 +84,7 @@ void MultiplicationTables::newExercise()
 void MultiplicationTables::shuffle()
 {
     for (int swap = 0; swap < Swaps; ++swap) {
-        const int r = core::drawInteger(m_random, 9, 1).value();
+        const int r = core::randomInteger(m_random, 9, 1).value();
         std::swap(Orden.at(at(r - 1)), Orden.at(at(r)));
     }
 }

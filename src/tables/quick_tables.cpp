@@ -157,8 +157,8 @@ void QuickTables::NuevaOperacion()
     const core::Int16 previousA = m_state.FactorA;
     const core::Int16 previousB = m_state.FactorB;
     do {
-        m_state.FactorA = core::drawInteger(m_random, LargestNumber, 1);
-        m_state.FactorB = core::drawInteger(m_random, LargestNumber, 1);
+        m_state.FactorA = core::randomInteger(m_random, LargestNumber, 1);
+        m_state.FactorB = core::randomInteger(m_random, LargestNumber, 1);
     } while (m_state.FactorA + m_state.FactorB < SmallestSum
         || (m_state.FactorA == previousA && m_state.FactorB == previousB));
     m_state.Producto = m_state.FactorA * m_state.FactorB;

@@ -16,8 +16,8 @@ RepeatedSum::RepeatedSum(core::RandomSource& random)
 void RepeatedSum::newExercise()
 {
     m_canContinue = true;
-    Sumando = core::drawInteger(m_random, 10, 1);
-    Veces = core::drawInteger(m_random, 9, 2);
+    Sumando = core::randomInteger(m_random, 10, 1);
+    Veces = core::randomInteger(m_random, 9, 2);
     Pendiente = true;
     m_verdict.clear();
 }

@@ -23,9 +23,9 @@ const QString& CombinedOperations::sign(Operator oper)
 void CombinedOperations::newExercise()
 {
     for (core::Int16& number : Numeros)
-        number = core::drawInteger(m_random, 8, 2);
+        number = core::randomInteger(m_random, 8, 2);
     for (Operator& oper : OperGrupo)
-        oper = static_cast<Operator>(core::drawInteger(m_random, 4, Plus).value());
+        oper = static_cast<Operator>(core::randomInteger(m_random, 4, Plus).value());
     for (std::size_t group = 0; group < Groups; ++group)
         evaluate(group);
     join();

@@ -103,7 +103,7 @@ void FRMCombi::makeAnswer()
 
 void FRMCombi::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     newExercise();
 }
 

@@ -45,8 +45,9 @@ LongMultiplication::LongMultiplication(core::RandomSource& random)
 
 void LongMultiplication::newExercise()
 {
-    const double factor1 = drawFactor(m_CifrasFactor1);
-    const double factor2 = m_CualquierCifra ? drawFactor(m_CifrasFactor2) : drawChosenDigits();
+    const double factor1 = randomFactor(m_CifrasFactor1);
+    const double factor2 =
+        m_CualquierCifra ? randomFactor(m_CifrasFactor2) : randomFromChosenDigits();
     if (!prepare({factor1, factor2, factor1 * factor2, true, {}}))
         throw core::OverflowError(
             u"Los factores de %1 y %2 cifras son demasiado grandes: elige menos cifras en el menú Opciones."_s
@@ -55,7 +56,7 @@ void LongMultiplication::newExercise()
     m_verdict.clear();
 }
 
-double LongMultiplication::drawFactor(core::Int16 digits)
+double LongMultiplication::randomFactor(core::Int16 digits)
 {
     const double limit = std::pow(10.0, digits.value());
     if (!std::isfinite(limit))
@@ -68,13 +69,13 @@ double LongMultiplication::drawFactor(core::Int16 digits)
     return factor;
 }
 
-double LongMultiplication::drawChosenDigits()
+double LongMultiplication::randomFromChosenDigits()
 {
     QString digits;
     QString allowed = m_CifrasElegidas;
     for (int place = 0; place < m_CifrasFactor2.value(); ++place) {
         const core::Int16 drawn =
-            core::drawInteger(m_random, static_cast<int>(allowed.size()), 0);
+            core::randomInteger(m_random, static_cast<int>(allowed.size()), 0);
         digits += allowed[drawn.value()];
         allowed = m_CifrasElegidas + u'0'; // zeros everywhere but in front
     }

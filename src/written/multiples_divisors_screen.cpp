@@ -94,7 +94,7 @@ void FrmMultidivi::makeBoxes()
 
 void FrmMultidivi::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     newExercise();
 }
 

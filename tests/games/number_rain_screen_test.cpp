@@ -2,6 +2,7 @@
 
 #include "games/rain_drop.h"
 #include "games/rain_game.h"
+#include "games/rain_grid.h"
 #include "games/rain_halo.h"
 #include "games/rain_splash.h"
 #include "games/token_row.h"
@@ -14,6 +15,7 @@
 #include <random>
 
 using games::RainFall;
+using games::RainGrid;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -738,7 +740,7 @@ private:
     {
         screen = &bench->open<QuietForm5>();
         guard = screen;
-        model = std::make_unique<RainGame>(Height);
+        model = std::make_unique<RainGame>(RainGrid::lastRow(Height));
     }
 
     // Both, the screen and the model beside it.
@@ -831,7 +833,7 @@ private:
                 continue;
             const auto& gota = model->gota(slot);
             QCOMPARE(drop(slot).text(), QString::number(gota.Valor.value()));
-            QCOMPARE(drop(slot).pos(), at(gota.left(), gota.top()));
+            QCOMPARE(drop(slot).pos(), at(RainGrid::left(gota), RainGrid::top(gota)));
         }
     }
 

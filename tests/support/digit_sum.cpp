@@ -12,8 +12,8 @@ DigitSum::DigitSum(core::RandomSource& random)
 
 void DigitSum::newExercise()
 {
-    m_first = core::drawInteger(m_random, 9, 1);
-    m_second = core::drawInteger(m_random, 9, 1);
+    m_first = core::randomInteger(m_random, 9, 1);
+    m_second = core::randomInteger(m_random, 9, 1);
     Pendiente = true;
     m_verdict.clear();
 }

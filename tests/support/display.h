@@ -34,9 +34,9 @@ template <typename Test> int runOnDisplay(int argc, char* argv[])
         description.close();
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toUtf8());
     }
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     if (sized && QGuiApplication::primaryScreen()->name() != QStringLiteral("display"))
         return 1; // this platform takes no description
     QStringList arguments = QCoreApplication::arguments();

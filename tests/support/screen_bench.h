@@ -108,13 +108,13 @@ private:
     QPointer<ui::Screen> m_screen;
 };
 
-/// main() of a screen test: the application is dressed as the program's is.
+/// main() of a screen test: the application looks and behaves as the program's.
 #define PIZARRIN_SCREEN_TEST_MAIN(TestClass)                                                     \
     int main(int argc, char* argv[])                                                             \
     {                                                                                            \
-        ui::prepareApplication();                                                                \
+        ui::ignoreDesktopSettings();                                                             \
         QApplication application(argc, argv);                                                    \
-        ui::dress();                                                                             \
+        ui::setUpApplication();                                                                  \
         TestClass test;                                                                          \
         return QTest::qExec(&test, argc, argv);                                                  \
     }
