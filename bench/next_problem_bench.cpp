@@ -6,7 +6,7 @@
 #include "problems/bank.h"
 #include "problems/problem_session_screen.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -62,7 +62,7 @@ int main(int argc, char* argv[])
     problems::GuardarBanco(folder.path(), largestBank());
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, folder.path());
+    ui::ScreenSet screens(random, clock, folder.path());
     screens.add<problems::FormProblemas>();
     screens.show(problems::FormProblemas::screenName());
 

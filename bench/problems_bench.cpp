@@ -8,7 +8,7 @@
 #include "problems/expression.h"
 #include "problems/problem_template.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -102,7 +102,7 @@ int main(int argc, char* argv[])
     const QTemporaryDir folder;
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, folder.path());
+    ui::ScreenSet screens(random, clock, folder.path());
     screens.add<problems::DLGProblemas>();
 
     writeLargestBank(folder.path());

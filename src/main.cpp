@@ -4,7 +4,7 @@
 #include "core/system.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -24,7 +24,7 @@ int main(int argc, char* argv[])
 
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
+    ui::ScreenSet screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
         core::commonBankFolder());
     addScreens(screens);
     screens.show(shell::Form1::screenName());

@@ -7,12 +7,6 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
-/// Every screen of the program, by name.
-inline const QStringList ScreenNames = QStringLiteral(
-    "Form1 Form2 Form3 Form4 Form5 Form6 Form8 FrmMultHuecos FrmMultidivi FRMCombi FormProblemas "
-    "FrmCarrera Dialog DLGProblemas DLGSelProb DlgCarrera")
-                                           .split(QLatin1Char(' '));
-
 /// A description of one display, for the toolkit's offscreen platform.
 inline QByteArray displayOf(const QList<QByteArray>& size)
 {

@@ -7,7 +7,7 @@
 #include "support/window_manager.h"
 #include "ui/application.h"
 #include "ui/screen.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QAction>
 #include <QMenu>
@@ -102,7 +102,7 @@ public:
     QTemporaryDir folder;
     ScriptedRandom random;
     FakeClock clock;
-    ui::Screens screens;
+    ui::ScreenSet screens;
 
 private:
     QPointer<ui::Screen> m_screen;
