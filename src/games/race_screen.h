@@ -57,7 +57,8 @@ private:
 
     Race m_race;
     RaceCourse m_course;
-    PictureNames NombresImagen;
+    RaceOptions m_options; ///< as they were chosen last
+    PictureNames NombresImagen; ///< the files of the cars, by position
     RaceScene* m_scene; ///< road, cars, landscape, podium
     ui::TextBox* TBOperacion = nullptr; ///< the operation to solve
     ui::TextBox* TBResultado = nullptr; ///< the pupil's answer
