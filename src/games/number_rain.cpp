@@ -123,7 +123,7 @@ RainStep NumberRain::click(int slot)
         showPoints();
         m_step.cleared = true;
         m_fall.release(slot);
-    } else {
+    } else { // with exactly 0 points left the number stays and falls on: meant
         CompruebaPuntos(slot, true);
     }
     return take();
@@ -296,6 +296,7 @@ void NumberRain::showPoints()
 
 void NumberRain::showLives()
 {
+    // The blank before the colon is meant.
     m_livesText = u"Vidas : %1"_s.arg(m_state.Vidas.value());
 }
 

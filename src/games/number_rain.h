@@ -20,8 +20,8 @@ struct RainState {
     core::Int16 Vidas = FullLives;
     core::Int16 Lanzados; ///< numbers launched in the current phase; read by nothing: meant
     core::Int16 Aciertos; ///< right clicks since the screen was made, whatever the game: meant
-    core::Int16 PenaEscape;
-    core::Int16 PenaError;
+    core::Int16 PenaEscape; ///< for a right number that escapes, each step of its speed class
+    core::Int16 PenaError; ///< for a wrong number that is clicked, likewise
 };
 
 enum class Difficulty { Facil, Normal, Dificil };

@@ -16,7 +16,7 @@ constexpr int Factors = 9;
 constexpr int SmallValue = 10; // below it, a term of 2 to 10 could make the result negative
 
 // Milliseconds from step to step of the rival: 60 of the quickest car's take 27 seconds, and
-// every later car in the catalogue is a little slower.
+// every later car in the catalogue is a little slower, the racing car slowest: meant.
 constexpr int QuickestRival = 450;
 constexpr int SlowerByCar = 20;
 
@@ -107,7 +107,7 @@ Verdict Race::judge(double answer)
         m_verdict.tell(Verdict::Wrong, u"Error"_s, shell::Repeat::Alternate);
         return Verdict::Wrong;
     }
-    m_verdict.tell(Verdict::Right, u"Correcto "_s, shell::Repeat::Alternate);
+    m_verdict.tell(Verdict::Right, u"Correcto "_s, shell::Repeat::Alternate); // blank: meant
     newExercise();
     countSolved();
     return Verdict::Right;
@@ -183,6 +183,7 @@ QString Race::wonText() const
 
 QString Race::lostText() const
 {
+    // The small letter is meant.
     return u"tu adversario ha ganado la carrera. Ha tardado %1 segundos."_s.arg(Segundos.value());
 }
 

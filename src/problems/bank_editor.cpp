@@ -78,6 +78,7 @@ QString answerFault(const TemplateFields& fields)
 {
     if (!hasLooseAmpersand(fields.answer))
         return {};
+    // The blank at the end is meant, here alone.
     return u"Hay una expresión incorrecta en el resultado. "
            "No debe dejar espacios entre el signo & y el número que lo sigue. "_s;
 }
@@ -98,6 +99,7 @@ void markFromAnswer(TemplateFields& fields)
 TryOut tryOut(const TemplateFields& fields, core::RandomSource& random,
     const ExpressionEvaluator& evaluator)
 {
+    // The blank behind the first word is meant.
     const QString text = u"Enunciado \r\n"_s + fields.statement + u"\r\nRespuesta\r\n"_s
         + fields.answer + u"\r\n"_s + fields.unit;
     QStringList notes;

@@ -106,6 +106,7 @@ void DLGProblemas::insertDatum(Target target)
 void DLGProblemas::insertComputed(Target target, const QString& promptEnd)
 {
     const QString prompt =
+        // The two blanks before "y" are meant.
         u"Escriba la expresión a insertar. Utilice &1 para insertar el primer dato, "
         "&2 para el segundo  y así sucesivamente hasta &9"_s;
     const QString expression =

@@ -79,6 +79,7 @@ FormProblemas::FormProblemas(ui::Screens& screens)
         .next = commandPlace(2),
         .clear = commandPlace(1),
         .solution = commandPlace(3)});
+    // No numbers before the first check: meant.
     LBEstado = label(u"LBEstado"_s, u"Ejercicios:   Errores:   "_s,
         {Margin, CountersTop, FullWidth, CountersHeight}, ui::look::Counters);
     makeQuiet(*LBEstado);

@@ -34,7 +34,7 @@ shell::Verdict FillTheGap::judge(double answer)
 {
     const Verdict verdict = answer == hiddenFactor() ? Verdict::Right : Verdict::Wrong;
     if (verdict == Verdict::Right)
-        m_verdict.tell(verdict, u"Respuesta correcta "_s);
+        m_verdict.tell(verdict, u"Respuesta correcta "_s); // the last blank is meant
     else
         m_verdict.tell(verdict, u"Respuesta incorrecta"_s, shell::Repeat::BlankInFront);
     try {

@@ -13,18 +13,17 @@ namespace tables {
 
 namespace {
 
-constexpr int Shuffled = 2;
-constexpr int Swaps = 100;
+constexpr int Swaps = 100; // of neighbours, after which the ascending order still shows: meant
 
 QString activityName(int activity)
 {
     switch (activity) {
-    case 0:
+    case MultiplicationTables::ViewTable:
         return u"Ver tabla"_s;
-    case 1:
+    case MultiplicationTables::ReviewInOrder:
         return u"Repasar tabla en orden"_s;
     default:
-        return u"repasar tabla salteada"_s;
+        return u"repasar tabla salteada"_s; // in small letters: meant
     }
 }
 
@@ -76,7 +75,7 @@ void MultiplicationTables::newExercise()
     Pregunta = 1;
     for (int i = 0; i < 10; ++i)
         Orden.at(at(i)) = i + 1;
-    if (ActividadActual == Shuffled)
+    if (ActividadActual == ReviewShuffled)
         shuffle();
     ErroresRepaso = 0;
 }
@@ -106,6 +105,7 @@ shell::Verdict MultiplicationTables::judge(double answer)
         return Verdict::NotJudged;
     if (answer != product()) {
         ++ErroresRepaso;
+        // The small letter and the blank at the end are meant.
         m_verdict.tell(Verdict::Wrong, u"resultado incorrecto "_s);
         return Verdict::Wrong;
     }

@@ -91,6 +91,7 @@ QuickTables::LimitVerdict QuickTables::setLimit(core::Int16 limit)
 QString QuickTables::limitWarning(LimitVerdict verdict)
 {
     const QString size = verdict == LimitVerdict::TooSmall ? u"pequeño"_s : u"grande"_s;
+    // The runs of blanks are meant.
     return u"Ha especificado un valor demasiado %1. La actividad continuará hasta   que se "
            "pulse  el botón salir"_s.arg(size);
 }
@@ -126,7 +127,7 @@ QuickTables::Events QuickTables::tickOperation()
         if (ended())
             return; // before this time-out is counted as one
         ++m_state.ErroresTiempo;
-        NuevaOperacion();
+        NuevaOperacion(); // the second one, behind that of Fallo: meant
     });
 }
 
@@ -150,6 +151,7 @@ void QuickTables::end()
 
 void QuickTables::NuevaOperacion()
 {
+    // The one about to be drawn counts: of five operations the pupil answers four. Meant.
     if (m_state.FinActividad == End::Operations)
         advance();
     if (ended())

@@ -57,7 +57,7 @@ QString RepeatedSum::sumText() const
     QString text = term;
     for (int k = 2; k <= times(); ++k) {
         text += u" + "_s + term;
-        if (k == TermsPerLine)
+        if (k == TermsPerLine) // behind the last term too: meant
             text += u"\r\n"_s;
     }
     return text;

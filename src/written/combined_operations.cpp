@@ -16,6 +16,7 @@ CombinedOperations::CombinedOperations(core::RandomSource& random)
 
 const QString& CombinedOperations::sign(Operator oper)
 {
+    // The times sign is a letter: meant.
     static const std::array Signos{u" + "_s, u" - "_s, u" x "_s, u" ÷ "_s};
     return Signos.at(static_cast<std::size_t>(oper - Plus));
 }

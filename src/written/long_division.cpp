@@ -197,7 +197,7 @@ bool LongDivision::typeDivisor(const QString& typed)
 shell::Verdict LongDivision::judge(const Answer& answer)
 {
     const double remainder = core::readNumber(answer.work.lastWrittenLine());
-    // Without a comma the position is 0, so that every character counts as a decimal.
+    // Without a comma the position is 0, so that every character counts as a decimal: meant.
     const auto decimals =
         static_cast<int>(answer.quotient.size() - (answer.quotient.indexOf(u',') + 1));
     const int wanted = m_settings.DecimalesCociente.value();

@@ -145,6 +145,7 @@ QString LongMultiplication::zerosCaption() const
 TypedFactor LongMultiplication::typeFactor1(QStringView typed)
 {
     const std::optional<double> factor = readFactor(typed);
+    // The second factor then stands there without its sign: meant.
     return factor ? replaceFactors(*factor, Factor2(), false) : TypedFactor::Ignored;
 }
 
@@ -174,7 +175,7 @@ shell::Verdict LongMultiplication::judge(const Answer& answer)
     if (right)
         m_verdict.tell(Verdict::Right, u"Resultado correcto "_s); // the last blank is meant
     else
-        m_verdict.tell(Verdict::Wrong, u"resultado incorrecto"_s);
+        m_verdict.tell(Verdict::Wrong, u"resultado incorrecto"_s); // so is the small letter
     m_wrongRows = right ? std::vector<int>() : compareRows(answer.rows);
     return *m_verdict.verdict();
 }
@@ -235,6 +236,7 @@ std::optional<QString> LongMultiplication::productHint(int posicion, int fila, i
     const QString factor2 = factor2Text();
     const QString digit1 =
         -place < factor1.size() ? factor1.sliced(factor1.size() + place - 1, 1) : u"0"_s;
+    // By the number of the row, whether rows of zeros are hidden or not: meant.
     const QString digit2 = factor2.mid(factor2.size() - fila - 1, 1);
     return digit1 + u" × "_s + digit2;
 }
