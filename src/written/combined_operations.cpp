@@ -1,6 +1,7 @@
 #include "written/combined_operations.h"
 
 #include "core/aloud.h"
+#include "core/defect.h"
 #include "core/random.h"
 
 #include <utility>
@@ -18,7 +19,7 @@ const QString& CombinedOperations::sign(Operator oper)
 {
     // The times sign is a letter: meant.
     static const std::array Signos{u" + "_s, u" - "_s, u" x "_s, u" ÷ "_s};
-    return Signos.at(static_cast<std::size_t>(oper - Plus));
+    return core::at(Signos, oper - Plus);
 }
 
 void CombinedOperations::newExercise()
