@@ -275,9 +275,9 @@ private slots:
     void bankAndBackupKeepTheBanksPermissions_data()
     {
         QTest::addColumn<unsigned>("mode");
-        QTest::newRow("a class shares it") << 0664u;
-        QTest::newRow("one person's") << 0600u;
-        QTest::newRow("everybody's") << 0666u;
+        QTest::newRow("a class shares it") << 0664U;
+        QTest::newRow("one person's") << 0600U;
+        QTest::newRow("everybody's") << 0666U;
     }
     void bankAndBackupKeepTheBanksPermissions()
     {
