@@ -9,6 +9,7 @@
 #include "ui/scaling.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
@@ -37,6 +38,7 @@ constexpr int SmallestText = 12;
 
 const QString TextLabel = u"qt_msgbox_label"_s; // the toolkit's names
 const QString NotesLabel = u"qt_msgbox_informativelabel"_s;
+const QString IconLabel = u"qt_msgboxex_icon_label"_s;
 
 /// A message box that is left only by one of its buttons when it asks a question: a stray
 /// Escape must not answer "No".
@@ -94,6 +96,10 @@ private:
             notes->setContentsMargins(0, 0, 0, line);
         if (auto* text = findChild<QLabel*>(TextLabel))
             text->setContentsMargins(0, 0, 0, notes != nullptr ? 0 : line / 2);
+        if (auto* sign = findChild<QLabel*>(IconLabel)) {
+            sign->setContentsMargins(0, 0, 0, line / 2);
+            layout()->invalidate();
+        }
     }
 
     /// Without an icon the text begins where the margin ends.
@@ -156,7 +162,7 @@ double largestWidth(const QWidget& owner)
 /// The usual font, or the largest in which all lines of a long text are seen at once.
 QFont fontFor(const QString& text, const QWidget& owner)
 {
-    const double factor = factorOf(&owner);
+    const double factor = overlayFactorOf(owner);
     const double room =
         owner.screen()->availableGeometry().height() - FrameHeight - BoxEnds * factor;
     const auto lines = static_cast<int>(text.count(u'\n')) + 1;
@@ -173,7 +179,7 @@ QFont fontFor(const QString& text, const QWidget& owner)
 /// Left alone, the box would wrap at the same number of pixels at every factor.
 void widen(const Box& box, const QWidget& owner)
 {
-    const double factor = factorOf(&owner);
+    const double factor = overlayFactorOf(owner);
     auto* label = box.findChild<QLabel*>(TextLabel);
     if (label == nullptr)
         return;
@@ -201,6 +207,7 @@ QPointer<Box> makeBox(HandlerGuard& owner, const QString& text, const QString& t
 {
     installToolkitTexts(); // a text in a box can be copied
     QPointer<Box> box(new Box(parentOf(owner), question));
+    setWindowFactor(*box, overlayFactorOf(owner.guardedWindow()));
     box->setFont(fontFor(text, owner.guardedWindow()));
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
@@ -247,8 +254,9 @@ bool MessageBox::ask(HandlerGuard& owner, const QString& text, const QString& ti
 
 QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString& title)
 {
-    const double factor = factorOf(&owner.guardedWindow());
+    const double factor = overlayFactorOf(owner.guardedWindow());
     const QPointer<QInputDialog> box(new QInputDialog(parentOf(owner)));
+    setWindowFactor(*box, factor);
     box->setFont(look::scaled(look::BoxText, factor));
     box->setWindowTitle(title);
     box->setOkButtonText(u"Aceptar"_s);
@@ -266,6 +274,8 @@ QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString&
         edit->setTextMargins(margin, 0, margin, 0);
         edit->setAccessibleName(prompt.isEmpty() ? title : prompt);
     }
+    if (auto* column = qobject_cast<QBoxLayout*>(box->layout())) // clear of the strip below
+        column->insertSpacing(column->count() - 1, box->fontMetrics().height() / 2);
     QString answer;
     QObject::connect(box, &QInputDialog::textValueSelected, box,
         [&answer](const QString& text) { answer = text; });
