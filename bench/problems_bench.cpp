@@ -8,7 +8,7 @@
 #include "problems/expression.h"
 #include "problems/problem_template.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -96,13 +96,13 @@ void measureOpening(ui::Screens& screens)
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     const QTemporaryDir folder;
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, folder.path());
+    ui::ScreenSet screens(random, clock, folder.path());
     screens.add<problems::DLGProblemas>();
 
     writeLargestBank(folder.path());
