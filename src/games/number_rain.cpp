@@ -33,8 +33,8 @@ const Setting& settingOf(Difficulty difficulty)
 
 } // namespace
 
-NumberRain::NumberRain(core::RandomSource& random, int height)
-    : m_fall(random, height)
+NumberRain::NumberRain(core::RandomSource& random, int lastRow)
+    : m_fall(random, lastRow)
 {
     chooseDifficulty(Difficulty::Facil);
 }
@@ -125,7 +125,7 @@ RainStep NumberRain::click(int slot)
         showPoints();
         m_step.cleared = true;
         m_fall.release(slot);
-    } else {
+    } else { // with exactly 0 points left the number stays and falls on: meant
         CompruebaPuntos(slot, true);
     }
     return take();
@@ -298,6 +298,7 @@ void NumberRain::showPoints()
 
 void NumberRain::showLives()
 {
+    // The blank before the colon is meant.
     m_livesText = u"Vidas : %1"_s.arg(m_state.Vidas.value());
 }
 

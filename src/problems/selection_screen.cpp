@@ -140,7 +140,8 @@ OperationMask DLGSelProb::checkedOperations() const
 void DLGSelProb::OKButton_Click()
 {
     const auto chosen = option();
-    m_choice = {chosen == ProblemSelection::NoOption ? 0 : chosen, checkedOperations()};
+    m_choice = {chosen == ProblemSelection::NoOption ? ProblemSelection::AllTypes : chosen,
+        checkedOperations()};
     unload();
 }
 

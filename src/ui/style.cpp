@@ -2,7 +2,7 @@
 
 #include "ui/access_keys.h"
 #include "ui/box_icons.h"
-#include "ui/faces.h"
+#include "ui/control_painting.h"
 #include "ui/indicators.h"
 #include "ui/look.h"
 #include "ui/scaling.h"

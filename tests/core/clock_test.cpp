@@ -54,11 +54,11 @@ private slots:
         QVERIFY(first <= passed && passed <= steadily());
     }
 
-    void seedByTimerKeepsTheFraction()
+    void seedBySecondsOfDayKeepsTheFraction()
     {
         FakeClock clock(QTime(0, 1, 1, 250));
         ScriptedRandom random;
-        core::seedByTimer(random, clock);
+        core::seedBySecondsOfDay(random, clock);
         QCOMPARE(random.seeds, std::vector<double>{61.25});
     }
 };
