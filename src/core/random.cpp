@@ -25,7 +25,7 @@ float SeededRandom::next()
 Int16 drawInteger(RandomSource& random, int count, int first)
 {
     // In double: the single-precision product could round up to count.
-    const double r = static_cast<double>(random.next());
+    const double r = random.next();
     return {static_cast<int>(std::floor(r * count)) + first};
 }
 

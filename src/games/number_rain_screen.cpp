@@ -1,6 +1,7 @@
 #include "games/number_rain_screen.h"
 
 #include "core/clock.h"
+#include "core/defect.h"
 #include "games/night_sky.h"
 #include "games/rain_field.h"
 #include "games/token_row.h"
@@ -134,8 +135,8 @@ void Form5::showScore()
 
 void Form5::showNumber(int slot, bool launched)
 {
-    const Gota& gota = m_model.fall().Gotas().at(static_cast<std::size_t>(slot));
-    if (m_model.fall().Libre().at(static_cast<std::size_t>(slot))) {
+    const Gota& gota = core::at(m_model.fall().Gotas(), slot);
+    if (core::at(m_model.fall().Libre(), slot)) {
         leaveWithFocus(m_field->drop(slot));
         m_field->clear(slot);
     } else if (launched) {

@@ -1,5 +1,6 @@
 #include "games/rain_fall.h"
 
+#include "core/defect.h"
 #include "core/random.h"
 #include "games/rain_phase.h"
 
@@ -37,7 +38,7 @@ RainFall::RainFall(core::RandomSource& random, int height)
 
 bool RainFall::move(int slot)
 {
-    Gota& gota = m_Gotas[slot];
+    Gota& gota = core::at(m_Gotas, slot);
     if (--gota.Espera > 0)
         return false;
     gota.Espera = gota.ticksPerStep();
@@ -85,14 +86,14 @@ void RainFall::launch(int slot, const RainPhase& phase)
     gota.Espera = gota.ticksPerStep();
     const auto& numbers = m_random.next() <= TargetShare ? phase.Objetivos() : phase.Otros();
     const int index = core::drawInteger(m_random, static_cast<int>(numbers.size()), 1).value();
-    gota.Valor = numbers[static_cast<std::size_t>(index - 1)];
-    m_Gotas[slot] = gota;
-    m_Libre[slot] = false;
+    gota.Valor = core::at(numbers, index - 1);
+    core::at(m_Gotas, slot) = gota;
+    core::at(m_Libre, slot) = false;
 }
 
 void RainFall::release(int slot)
 {
-    m_Libre[slot] = true;
+    core::at(m_Libre, slot) = true;
 }
 
 void RainFall::resetFirstSlots()

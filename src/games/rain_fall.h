@@ -70,7 +70,7 @@ private:
     core::RandomSource& m_random;
     int m_height;
     int m_ticks = 0; ///< since the last launch was due
-    std::array<bool, Slots> m_Libre;
+    std::array<bool, Slots> m_Libre{};
     std::array<Gota, Slots> m_Gotas;
 };
 

@@ -1,5 +1,6 @@
 #include "games/rain_field.h"
 
+#include "core/defect.h"
 #include "games/rain_splash.h"
 #include "ui/control_factory.h"
 #include "ui/focus_ring.h"
@@ -20,7 +21,7 @@ constexpr std::array<QRgb, Gota::Fastest> Colores{
 
 QRgb colourOf(const Gota& gota)
 {
-    return Colores.at(static_cast<std::size_t>(gota.Velocidad.value() - 1));
+    return core::at(Colores, gota.Velocidad.value() - 1);
 }
 
 double distance(const QRectF& area, QPointF place)
@@ -52,7 +53,7 @@ RainDrop* RainField::make(int slot)
     drop->setEnabled(false);
     ui::FocusRing::leaveOut(*drop); // it has the halo
     watch(drop);
-    return CbNave.at(static_cast<std::size_t>(slot)) = drop;
+    return core::at(CbNave, slot) = drop;
 }
 
 void RainField::watch(QWidget* control)

@@ -130,7 +130,7 @@ QString BankEditor::refusal(const TemplateFields& fields)
 
 TemplateFields BankEditor::show(int entry)
 {
-    const TemplateFields shown = splitLine(line(entry));
+    TemplateFields shown = splitLine(line(entry));
     m_saved = joinLine(shown);
     return shown;
 }

@@ -69,7 +69,7 @@ private:
     void selectEntry(int entry);
     int selectedEntry() const;
     TemplateFields fields() const;
-    void showOperations(const TemplateFields& fields);
+    void showOperations(const TemplateFields& shown);
     void showWhetherSaved();
     void closeDialog();
 

@@ -1,5 +1,6 @@
 #include "problems/problem_session.h"
 
+#include "core/defect.h"
 #include "core/random.h"
 
 #include <algorithm>
@@ -69,8 +70,7 @@ bool ProblemSession::isSelected(OperationMask operations) const
 
 bool ProblemSession::isEligible(int index) const
 {
-    const auto at = static_cast<std::size_t>(index);
-    return !m_bank.used[at] && isSelected(m_operations[at]);
+    return !core::at(m_bank.used, index) && isSelected(core::at(m_operations, index));
 }
 
 void ProblemSession::beginCycle()
@@ -139,7 +139,7 @@ void ProblemSession::newExercise(const std::function<void()>& beforeDraw)
 {
     ensureDrawable();
     const int index = drawLine(beforeDraw);
-    m_bank.used[static_cast<std::size_t>(index)] = true;
+    core::at(m_bank.used, index) = true;
     m_problem = prepare(index);
     Pendiente = true;
     m_verdict.clear();

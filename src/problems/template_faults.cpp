@@ -1,5 +1,6 @@
 #include "problems/template_faults.h"
 
+#include "core/defect.h"
 #include "core/numbers.h"
 #include "problems/bank_editor.h"
 #include "problems/problem_template.h"
@@ -104,7 +105,7 @@ void addNegative(std::vector<TemplateFault>& faults, const WorkedOutText& draw)
                 {Fault::Negative, u"%1 da %2, menos que cero."_s.arg(marker, asWritten(value))});
     };
     for (qsizetype k = 0; k < draw.dataMarkers.size(); ++k)
-        add(draw.dataMarkers.at(k), draw.data[static_cast<std::size_t>(k)]);
+        add(draw.dataMarkers.at(k), core::at(draw.data, k));
     for (const ComputedValue& computed : draw.computed)
         add(computed.marker, computed.value);
 }
@@ -135,7 +136,7 @@ QString dataText(const WorkedOutText& draw)
 {
     QStringList data;
     for (qsizetype k = 0; k < draw.dataMarkers.size(); ++k)
-        data << u"&%1 = %2"_s.arg(k + 1).arg(draw.data[static_cast<std::size_t>(k)]);
+        data << u"&%1 = %2"_s.arg(k + 1).arg(core::at(draw.data, k));
     return data.join(u", "_s);
 }
 

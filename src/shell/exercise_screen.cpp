@@ -1,5 +1,6 @@
 #include "shell/exercise_screen.h"
 
+#include "core/defect.h"
 #include "ui/tray.h"
 
 using namespace Qt::StringLiterals;
@@ -20,8 +21,7 @@ void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& so
         button(u"Command2(1)"_s, u"&Borrar"_s, places.clear, ui::look::Green),
         button(u"Command2(2)"_s, solutionCaption, places.solution, ui::look::Red)};
     for (int i = 0; i < 3; ++i)
-        on(Command2.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
-            &ExerciseScreen::Command2_Click, i);
+        on(core::at(Command2, i), &QPushButton::clicked, &ExerciseScreen::Command2_Click, i);
     new ui::Tray({Command1, Command2[0], Command2[1], Command2[2]});
     const auto inReadingOrder = [](const ui::TwipRect& place) {
         return std::pair(place.top, place.left);

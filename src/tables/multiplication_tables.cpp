@@ -1,5 +1,6 @@
 #include "tables/multiplication_tables.h"
 
+#include "core/defect.h"
 #include "core/random.h"
 
 #include <QStringList>
@@ -28,11 +29,6 @@ QString activityName(int activity)
     }
 }
 
-std::size_t at(int index)
-{
-    return static_cast<std::size_t>(index);
-}
-
 } // namespace
 
 MultiplicationTables::MultiplicationTables(core::RandomSource& random)
@@ -42,7 +38,7 @@ MultiplicationTables::MultiplicationTables(core::RandomSource& random)
 
 int MultiplicationTables::tableAt(int index) const
 {
-    return Tablas.at(at(index)).value();
+    return core::at(Tablas, index).value();
 }
 
 int MultiplicationTables::nextTable() const
@@ -75,7 +71,7 @@ void MultiplicationTables::newExercise()
 {
     Pregunta = 1;
     for (int i = 0; i < 10; ++i)
-        Orden.at(at(i)) = i + 1;
+        core::at(Orden, i) = i + 1;
     if (ActividadActual == Shuffled)
         shuffle();
     ErroresRepaso = 0;
@@ -85,13 +81,13 @@ void MultiplicationTables::shuffle()
 {
     for (int swap = 0; swap < Swaps; ++swap) {
         const int r = core::drawInteger(m_random, 9, 1).value();
-        std::swap(Orden.at(at(r - 1)), Orden.at(at(r)));
+        std::swap(core::at(Orden, r - 1), core::at(Orden, r));
     }
 }
 
 int MultiplicationTables::multiplier() const
 {
-    return !isSeriesOver() ? Orden.at(at(Pregunta.value() - 1)).value() : 0;
+    return !isSeriesOver() ? core::at(Orden, Pregunta.value() - 1).value() : 0;
 }
 
 QString MultiplicationTables::seriesReport() const

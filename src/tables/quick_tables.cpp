@@ -1,5 +1,6 @@
 #include "tables/quick_tables.h"
 
+#include "core/defect.h"
 #include "core/numbers.h"
 #include "core/random.h"
 
@@ -186,7 +187,7 @@ void QuickTables::countUse(Verdict verdict)
     m_events.verdict = verdict;
     const std::size_t column = verdict == Verdict::Right ? 0 : 1;
     for (const core::Int16 factor : {m_state.FactorA, m_state.FactorB})
-        ++m_state.Usos[static_cast<std::size_t>(factor.value() - 1)][column];
+        ++core::at(m_state.Usos, factor.value() - 1)[column];
 }
 
 void QuickTables::advance()
@@ -224,7 +225,7 @@ QString QuickTables::report(const QLocale& locale) const
                        .arg(m_state.ErroresTotales.value());
     text += u"Errores cometidos al usar cada número y porcentaje: \r\n"_s;
     for (int number = 1; number <= LargestNumber; ++number) {
-        const auto& uses = m_state.Usos[static_cast<std::size_t>(number - 1)];
+        const auto& uses = core::at(m_state.Usos, number - 1);
         text += numberLine(number, uses[0].value(), uses[1].value(), locale);
     }
     return text + u"Errores por tiempo: %1."_s.arg(m_state.ErroresTiempo.value());

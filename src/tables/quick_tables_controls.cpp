@@ -1,5 +1,6 @@
 #include "tables/quick_tables_screen.h"
 
+#include "core/defect.h"
 #include "tables/quick_tables_widgets.h"
 #include "ui/screens.h"
 #include "ui/tray.h"
@@ -92,7 +93,7 @@ void Form8::makeOptions()
         // One stop of the tab order: the toolkit sees to it only once an option has had the
         // focus.
         option->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);
-        Option1.at(static_cast<std::size_t>(i)) = option;
+        core::at(Option1, i) = option;
     }
     Label1 = add(new QLabel(Frame1), u"Label1"_s, ui::TwipRect{2640, 900, 2520, 480});
     Text1 = add(new ui::TextBox(ui::TextBox::Kind::Entry, Frame1), u"Text1"_s,

@@ -240,7 +240,8 @@ bool MessageBox::ask(HandlerGuard& owner, const QString& text, const QString& ti
     addButton(*box, u"No"_s, QMessageBox::NoRole);
     box->setDefaultButton(yes);
     bool answer = false;
-    QObject::connect(yes, &QPushButton::clicked, yes, [&answer] { answer = true; });
+    QObject::connect(box, &QMessageBox::buttonClicked, box,
+        [&answer, yes](const QAbstractButton* pressed) { answer = pressed == yes; });
     run(owner, box.data());
     return answer;
 }

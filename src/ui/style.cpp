@@ -204,11 +204,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         // bar then; there, the keys work as ever.
         return QAccessible::isActive() && (widget == nullptr || !widget->hasFocus()) ? 0 : 1;
     case SH_MessageBox_CenterButtons: // at the right, as in every dialog
-        return 0;
     case SH_BlinkCursorWhenTextSelected:
-        return 0;
     case SH_RequestSoftwareInputPanel:
-        return 0;
     case SH_DialogButtonBox_ButtonsHaveIcons: // they would push the captions out
         return 0;
     default:

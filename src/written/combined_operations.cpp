@@ -1,6 +1,7 @@
 #include "written/combined_operations.h"
 
 #include "core/aloud.h"
+#include "core/defect.h"
 #include "core/random.h"
 
 #include <utility>
@@ -17,7 +18,7 @@ CombinedOperations::CombinedOperations(core::RandomSource& random)
 const QString& CombinedOperations::sign(Operator oper)
 {
     static const std::array Signos{u" + "_s, u" - "_s, u" x "_s, u" ÷ "_s};
-    return Signos.at(static_cast<std::size_t>(oper - Plus));
+    return core::at(Signos, oper - Plus);
 }
 
 void CombinedOperations::newExercise()

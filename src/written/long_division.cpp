@@ -85,7 +85,7 @@ QString LongDivision::operationText() const
 QString LongDivision::spokenExercise() const
 {
     const int decimals = m_settings.DecimalesCociente.value();
-    const QString division = u"%1 entre %2"_s.arg(Dividendo()).arg(Divisor());
+    QString division = u"%1 entre %2"_s.arg(Dividendo()).arg(Divisor());
     if (decimals == 0)
         return division;
     return decimals == 1 ? division + u", con 1 decimal"_s
@@ -221,9 +221,11 @@ bool LongDivision::isRight(double quotient, double remainder, int decimals) cons
 {
     const qint64 dividend = Dividendo(); // 64 bits: the smallest number ÷ -1 has room
     const qint64 divisor = Divisor();
-    if (m_settings.DecimalesCociente == 0)
+    if (m_settings.DecimalesCociente == 0) {
+        const qint64 whole = dividend / divisor;
         return remainder == static_cast<double>(dividend % divisor)
-            && quotient == static_cast<double>(dividend / divisor);
+            && quotient == static_cast<double>(whole);
+    }
     const double product = quotient * 100000 * static_cast<double>(divisor) / 100000;
     const double sum = product + remainder / std::pow(10.0, decimals);
     return core::roundHalfEven(sum) == static_cast<double>(dividend);

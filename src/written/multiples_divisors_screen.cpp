@@ -1,6 +1,7 @@
 #include "written/multiples_divisors_screen.h"
 
 #include "core/clock.h"
+#include "core/defect.h"
 #include "core/numbers.h"
 #include "ui/screens.h"
 
@@ -81,7 +82,7 @@ void FrmMultidivi::makeBoxes()
             AnswerFont, u"Respuesta %1"_s.arg(i + 1));
         box->setAlignment(Qt::AlignCenter);
         enterChecks(box);
-        Text3.at(static_cast<std::size_t>(i)) = box;
+        core::at(Text3, i) = box;
     }
 
     TBMensajes = verdictBox(u"TBMensajes"_s,
@@ -123,7 +124,7 @@ void FrmMultidivi::check()
         Command2[0]->setFocus();
     } else {
         edgeWrongAnswers();
-        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(m_model.wrongAnswers().front()));
+        ui::TextBox* wrong = core::at(Text3, m_model.wrongAnswers().front());
         wrong->setFocus();
         wrong->selectAll();
     }

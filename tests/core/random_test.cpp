@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "core/random.h"
 
 #include "support/scripted_random.h"
@@ -60,7 +61,7 @@ private slots:
         random.seed(1);
         std::array<int, 9> counts{};
         for (int i = 0; i < 90'000; ++i)
-            ++counts.at(static_cast<std::size_t>(core::drawInteger(random, 9, 2).value() - 2));
+            ++core::at(counts, core::drawInteger(random, 9, 2).value() - 2);
         for (int count : counts)
             QVERIFY2(std::abs(count - 10'000) < 500, qPrintable(QString::number(count)));
     }

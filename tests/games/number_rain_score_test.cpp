@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "core/errors.h"
 #include "games/rain_game.h"
 
@@ -165,7 +166,7 @@ private slots:
         QCOMPARE(game.state().Puntos.value(), 0);
         QCOMPARE(game.rain.pointsText(), u"0"_s);
         QCOMPARE(game.state().Vidas.value(), 3);
-        QVERIFY(!game.rain.fall().Libre()[slot]);
+        QVERIFY(!core::at(game.rain.fall().Libre(), slot));
         QVERIFY(asksNoFocus(step));
         QVERIFY(!step.box);
         QVERIFY(game.rain.running());
@@ -182,7 +183,7 @@ private slots:
         for (const int velocidad : {5, 5, 5, 5, 5, 5}) { // 25 each
             const int slot = game.launch(8, velocidad, 5);
             game.calmTick();
-            QVERIFY(game.rain.fall().Libre()[slot]);
+            QVERIFY(core::at(game.rain.fall().Libre(), slot));
         }
         QCOMPARE(game.state().Puntos.value(), 0);
         QCOMPARE(game.rain.pointsText(), u"0"_s);
@@ -222,7 +223,7 @@ private slots:
         QCOMPARE(game.state().Puntos.value(), 100);
         QCOMPARE(game.rain.pointsText(), u"100"_s);
         QCOMPARE(game.taken(), 0);
-        QVERIFY(game.rain.fall().Libre()[other]);
+        QVERIFY(core::at(game.rain.fall().Libre(), other));
         QCOMPARE(game.state().Lanzados.value(), 0);
         QVERIFY(game.rain.waiting());
         QVERIFY(!game.rain.running());
@@ -448,8 +449,8 @@ private slots:
         QCOMPARE(game.state().PuntosTotales.value(), 260);
         QCOMPARE(game.state().Puntos.value(), 260);
         QCOMPARE(game.rain.pointsText(), u"240"_s);
-        QVERIFY(!game.rain.fall().Libre()[slot]);
-        QVERIFY(!game.rain.fall().Libre()[leftover]);
+        QVERIFY(!core::at(game.rain.fall().Libre(), slot));
+        QVERIFY(!core::at(game.rain.fall().Libre(), leftover));
         QCOMPARE(game.rain.phase().Fase().value(), 1);
         QVERIFY(!game.rain.running());
         QVERIFY(!game.rain.waiting());
@@ -495,7 +496,7 @@ private slots:
         QVERIFY(game.rain.click(clicked).box);
         game.rain.answer();
         for (int slot = 0; slot < RainFall::Slots; ++slot)
-            QCOMPARE(game.rain.fall().Libre()[slot], slot < 10 || slot > 12);
+            QCOMPARE(core::at(game.rain.fall().Libre(), slot), slot < 10 || slot > 12);
         const int row = game.gota(10).Fila.value();
         game.rain.start();
         for (int tick = 0; tick < 5; ++tick)
@@ -592,7 +593,7 @@ private slots:
         QCOMPARE(game.state().PuntosTotales.value(), total.value());
         QCOMPARE(game.state().Aciertos.value(), hits.value());
         QCOMPARE(game.state().Puntos.value(), 100);
-        QVERIFY(!game.rain.fall().Libre()[slot]);
+        QVERIFY(!core::at(game.rain.fall().Libre(), slot));
         QVERIFY(asksNoFocus(game.rain.answer())); // no box is open
     }
 

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "games/number_rain_screen.h"
 
 #include "games/rain_drop.h"
@@ -594,7 +595,7 @@ private slots:
         launch(19, 5, 3);
         for (int row = 1; row < Rows; ++row) {
             for (int slot = 0; slot < RainFall::Slots; ++slot) {
-                if (model->rain.fall().Libre()[slot] || model->gota(slot).Espera != 1
+                if (core::at(model->rain.fall().Libre(), slot) || model->gota(slot).Espera != 1
                     || model->gota(slot).Deriva > 0)
                     continue;
                 if (slot == 0)
@@ -824,7 +825,7 @@ private:
         QCOMPARE(start().isVisible(), rain.waiting());
         QCOMPARE(start().isEnabled(), rain.waiting());
         for (int slot = 0; slot < RainFall::Slots; ++slot) {
-            const bool taken = !model->rain.fall().Libre()[slot];
+            const bool taken = !core::at(model->rain.fall().Libre(), slot);
             QCOMPARE(drop(slot).isVisible(), taken);
             QCOMPARE(drop(slot).isEnabled(), taken);
             if (!taken)

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "games/rain_game.h"
 
 #include <QtTest>
@@ -111,7 +112,7 @@ private slots:
         QVERIFY(game.rain.waiting());
         QVERIFY(!game.rain.running());
         for (int slot = 0; slot < RainFall::Slots; ++slot)
-            QCOMPARE(game.rain.fall().Libre()[slot], slot != 10 && slot != 11);
+            QCOMPARE(core::at(game.rain.fall().Libre(), slot), slot != 10 && slot != 11);
     }
 
     void theTickCounterOutlivesANewGame()

@@ -87,9 +87,9 @@ private:
     QStringList read() const { return LeerBanco(m_folder->path()).value_or(Bank{}).lines; }
 
     /// Of an octal mode, for the owner, the group and all others.
-    static QFile::Permissions permissions(int mode)
+    static QFile::Permissions permissions(unsigned mode)
     {
-        const int digits = (mode & 0700) << 6 | (mode & 0070) << 1 | (mode & 0007);
+        const unsigned digits = (mode & 0700) << 6 | (mode & 0070) << 1 | (mode & 0007);
         return QFile::Permissions::fromInt(digits);
     }
 
