@@ -104,6 +104,19 @@ leave() {
   wait
 }
 
+# A child minimises an activity, and clicks the menu, which it still blocks.
+lose_an_activity() {
+  local activity
+  press Return
+  activity=$(active)
+  xdotool windowminimize "$activity"
+  until_so "an activity does not minimise" eval "! is_active $activity"
+  picture menu-y-actividad-minimizada
+  xdotool mousemove --window "$menu" 20 20 click 1
+  until_so "a click on the menu does not bring the activity back" is_active "$activity"
+  close_down_to "$menu"
+}
+
 open_activities() {
   local name
   for name in suma-repetida tablas tablas-rapidas completa-el-hueco multiplos-y-divisores \
@@ -146,6 +159,7 @@ walk_archive() {
   unzip -q "$archive" -d "$folder"
   cd "$folder"/*
   start pizarrin.exe menu
+  lose_an_activity
   open_activities
   cp Recursos/Problemas3.dat "$work/starter.dat"
   save_a_problem gestion
