@@ -6,10 +6,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . scripts/setup.sh
 . packaging/windows/setup.sh
 
-# The program may ask for no more libraries than Windows has had since version 10.
+# The programs may ask for no more libraries than Windows has had since version 10.
 check_imports() {
   local strange
-  x86_64-w64-mingw32-objdump -p "$windows_build/bin/pizarrin.exe" |
+  x86_64-w64-mingw32-objdump -p "$windows_build"/bin/pizarrin{,-banco}.exe |
     sed -n 's/^\tDLL Name: //p' | tr '[:upper:]' '[:lower:]' | sort -u >"$windows_build/imports"
   strange=$(grep -vxFf packaging/windows/imports.txt "$windows_build/imports" || true)
   [ -z "$strange" ] || { echo "not on every Windows: $strange" >&2 && return 1; }
@@ -33,8 +33,10 @@ check_imports
 gather_fonts
 export QT_QPA_FONTDIR=$PWD/$windows_build/fonts
 quietly "preparar wine" packaging/windows/wine.sh cmd /c ver
-quietly "probar wine" ctest --test-dir "$windows_build" -j "$(nproc)"
-grep 'tests passed' build/probar-wine.log
+# What a test says goes to a debugger else, where there is no console.
+QT_FORCE_STDERR_LOGGING=1 quietly "probar wine" ctest --test-dir "$windows_build" --verbose \
+  -j "$(nproc)"
+grep -E 'tests passed|^[0-9]+: SKIP' build/probar-wine.log
 WINDOW_PLATFORM=windows quietly "recorrer wine" tests/support/on_display.sh \
   packaging/windows/walk.sh \
   dist/Pizarrin-*-windows.zip dist/Pizarrin-*-setup.exe "$windows_build/pictures"

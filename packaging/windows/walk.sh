@@ -42,11 +42,11 @@ fail() {
   exit 1
 }
 
-# Asks until it is so, and gives up after a minute.
+# Asks until it is so, and gives up after two minutes.
 until_so() { # what is wrong else, command...
-  local what=$1 i
+  local what=$1 end=$((SECONDS + 120))
   shift
-  for ((i = 0; i < 600; ++i)); do
+  while [ "$SECONDS" -lt "$end" ]; do
     "$@" && return
     sleep 0.1
   done
@@ -104,17 +104,33 @@ leave() {
   wait
 }
 
-# A child minimises an activity, and clicks the menu, which it still blocks.
+still() { # picture of the display, taken anew if it has changed since
+  [ "$(pixels_off "$1")" -eq 0 ] || ! mv "$work/now.png" "$1"
+}
+pixels_off() { # picture that the display is compared with
+  import -window root "$work/now.png"
+  compare -metric AE "$1" "$work/now.png" null: 2>&1 | xargs printf '%.0f' || true
+}
+is_covered() { [ "$(pixels_off "$1")" -gt 100000 ]; }
+is_bare() { [ "$(pixels_off "$1")" -lt 50000 ]; } # the frame has another colour
+
+# A child minimises an activity and clicks the menu, which it still blocks. On a desktop of
+# Wine's own, where windows belong together and are minimised as on Windows, by no window
+# manager.
 lose_an_activity() {
-  local activity
-  press Return
-  activity=$(active)
-  xdotool windowminimize "$activity"
-  until_so "an activity does not minimise" eval "! is_active $activity"
-  picture menu-y-actividad-minimizada
-  xdotool mousemove --window "$menu" 20 20 click 1
-  until_so "a click on the menu does not bring the activity back" is_active "$activity"
-  close_down_to "$menu"
+  local before="$pictures/escritorio.png"
+  "$here/wine.sh" explorer /desktop=escuela,1366x768 pizarrin.exe &
+  until_so "the menu does not come up on Wine's desktop" is_other none
+  picture escritorio
+  until_so "the menu on Wine's desktop is never whole" still "$before"
+  xdotool key Return
+  until_so "no activity comes up on Wine's desktop" is_covered "$before"
+  xdotool mousemove 683 20 click 3 key n # "Minimize" in the menu of its frame
+  until_so "an activity does not minimise" is_bare "$before"
+  picture actividad-minimizada
+  xdotool mousemove 300 400 click 1
+  until_so "a click on the menu does not bring the activity back" is_covered "$before"
+  leave
 }
 
 open_activities() {
@@ -158,8 +174,8 @@ walk_archive() {
   mkdir -p "$folder"
   unzip -q "$archive" -d "$folder"
   cd "$folder"/*
-  start pizarrin.exe menu
   lose_an_activity
+  start pizarrin.exe menu
   open_activities
   cp Recursos/Problemas3.dat "$work/starter.dat"
   save_a_problem gestion
