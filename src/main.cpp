@@ -7,7 +7,6 @@
 #include "ui/screen_set.h"
 
 #include <QApplication>
-#include <QIcon>
 
 #include <algorithm>
 
@@ -20,7 +19,6 @@ int main(int argc, char* argv[])
     QApplication application(nameAlone, argv);
     ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
-    QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));
 
     core::SeededRandom random;
     const core::SystemClock clock;
