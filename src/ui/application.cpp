@@ -31,6 +31,7 @@ void ignoreDesktopSettings()
 {
     QApplication::setDesktopSettingsAware(false);
     QApplication::setAttribute(Qt::AA_DontShowIconsInMenus); // some desktops have them
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); // some desktops show it elsewhere
 }
 
 void setUpApplication()

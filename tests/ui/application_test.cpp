@@ -43,6 +43,11 @@ private slots:
         QCOMPARE(QColor(screen.grab().toImage().pixel(2, 100)), QColor(ui::look::Paper));
     }
 
+    void noMenuBarIsTheDesktops()
+    {
+        QVERIFY(QApplication::testAttribute(Qt::AA_DontUseNativeMenuBar));
+    }
+
     void windowsCarryTheBoard()
     {
         const QImage icon = QApplication::windowIcon().pixmap(64, 64).toImage();
