@@ -4,19 +4,23 @@
 #include "core/system.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
+#include "ui/fonts.h"
 #include "ui/screen_set.h"
 
 #include <QApplication>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
     ui::ignoreDesktopSettings();
+    std::jthread fontSettings = ui::look::readFontSettings();
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
     QApplication application(nameAlone, argv);
+    const std::jthread fonts = ui::look::readFontList(std::move(fontSettings));
     ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
 

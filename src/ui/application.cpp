@@ -5,6 +5,7 @@
 #include "ui/look.h"
 #include "ui/style.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QResource>
 #include <QTranslator>
@@ -36,6 +37,7 @@ void ignoreDesktopSettings()
 
 void setUpApplication()
 {
+    QAccessible::isActive(); // waits for the desktop's bus, while the fonts are read beside it
     QApplication::setStyle(new Style);
     QApplication::setPalette(look::palette());
     QApplication::setFont(look::scaled(look::Instruction, 1));
