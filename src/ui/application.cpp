@@ -21,7 +21,7 @@ void prepareApplication()
 void dress()
 {
     QApplication::setStyle(new Style);
-    QApplication::setPalette(look::palette());
+    look::setContrast(look::Contrast::Usual);
     QApplication::setFont(look::scaled(look::Instruction, 1));
     QApplication::setQuitOnLastWindowClosed(false);
     new HeldKeys(qApp);
