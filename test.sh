@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the program and its tests, optimised and with the
-# sanitizers, and runs every test in both; the optimised ones of screens in real windows too,
+# Installs what is missing, builds the program and its tests, optimised (GCC) and with the
+# sanitizers (Clang), and runs every test in both; the optimised ones of screens in real windows too,
 # and with a screen reader.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
@@ -17,7 +17,7 @@ run_tests() { # test preset
   grep -A 3 'tests passed' "build/probar-$1.log"
 }
 
-need_packages "${build_packages[@]}" xvfb openbox xdotool dbus-daemon dbus-bin at-spi2-core \
+need_packages "${build_packages[@]}" clang libclang-rt-dev xvfb openbox xdotool dbus-daemon dbus-bin at-spi2-core \
   orca speech-dispatcher python3-gi gir1.2-atspi-2.0
 for preset in release asan; do
   build_preset "$preset"

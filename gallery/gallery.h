@@ -3,7 +3,7 @@
 #include "core/clock.h"
 #include "core/random.h"
 #include "ui/screen.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QTemporaryDir>
 
@@ -21,7 +21,7 @@ public:
     Stage(const QString& screen, const QString& resources, std::optional<double> factor);
 
     ui::Screen& screen() const { return *m_screen; }
-    ui::Screens& screens() { return m_screens; }
+    ui::ScreenSet& screens() { return m_screens; }
 
     /// A control or menu item by its object name; ends the program when there is none.
     template <typename T> T& control(const QString& name) const
@@ -74,7 +74,7 @@ private:
     std::optional<double> m_factor;
     core::SeededRandom m_random;
     StandingClock m_clock;
-    ui::Screens m_screens;
+    ui::ScreenSet m_screens;
     ui::Screen* m_screen;
 };
 

@@ -43,6 +43,8 @@ QString ownBank()
 
 int main(int argc, char* argv[])
 {
+    // The toolkit's remarks, on the locale for one, are not for whoever shares banks.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const QCoreApplication application(argc, argv);
     core::writeUtf8ToTerminal();
     QTextStream out(stdout);

@@ -5,7 +5,7 @@
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
 #include "ui/desktop_contrast.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -16,16 +16,16 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
     QApplication application(nameAlone, argv);
-    ui::dress();
+    ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
     QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));
 
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
+    ui::ScreenSet screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
         core::commonBankFolder());
     addScreens(screens);
     screens.show(shell::Form1::screenName());

@@ -36,7 +36,7 @@ private:
 
 /// The element at an index from 0; throws Defect where there is none.
 template <typename Container, typename Index>
-auto& at(Container& container, Index index, SourceLine where = SourceLine::here())
+decltype(auto) at(Container& container, Index index, SourceLine where = SourceLine::here())
 {
     if (std::cmp_less(index, 0) || std::cmp_greater_equal(index, std::size(container)))
         throw Defect("no element " + std::to_string(index), where);

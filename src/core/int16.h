@@ -41,6 +41,7 @@ public:
     {
         return {a.value() % nonZero(b.value())};
     }
+    // NOLINTNEXTLINE(modernize-use-nullptr): there is no null pointer here
     friend constexpr auto operator<=>(Int16 a, Int16 b) = default;
 
 private:

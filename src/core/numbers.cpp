@@ -2,8 +2,10 @@
 
 #include "core/errors.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <string>
 #include <vector>
@@ -93,8 +95,8 @@ std::vector<int> digitsFromUnits(double whole)
 {
     const QString text = wholeText(std::abs(whole));
     std::vector<int> digits;
-    for (auto digit = text.crbegin(); digit != text.crend(); ++digit)
-        digits.push_back(digit->digitValue());
+    std::transform(text.crbegin(), text.crend(), std::back_inserter(digits),
+        [](QChar digit) { return digit.digitValue(); });
     return digits;
 }
 

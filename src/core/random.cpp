@@ -22,10 +22,10 @@ float SeededRandom::next()
     return fractionOf(static_cast<std::uint32_t>(m_engine()));
 }
 
-Int16 drawInteger(RandomSource& random, int count, int first)
+Int16 randomInteger(RandomSource& random, int count, int first)
 {
     // In double: the single-precision product could round up to count.
-    const double r = static_cast<double>(random.next());
+    const double r = random.next();
     return {static_cast<int>(std::floor(r * count)) + first};
 }
 

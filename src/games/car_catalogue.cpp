@@ -1,5 +1,6 @@
 #include "games/car_catalogue.h"
 
+#include "core/defect.h"
 #include "core/errors.h"
 
 #include <algorithm>
@@ -44,7 +45,7 @@ QString pictureName(const PictureNames& names, core::Int16 position)
     const int index = position.value();
     if (index < 0 || index >= Cars)
         throw core::Error(u"No hay ningún coche elegido. Elige uno en «Opciones»."_s);
-    return names.at(static_cast<std::size_t>(index));
+    return core::at(names, index);
 }
 
 } // namespace games

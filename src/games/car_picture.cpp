@@ -46,10 +46,10 @@ QImage withoutRoad(const QImage& picture)
         open.pop_back();
         if (!car.rect().contains(point))
             continue;
-        QRgb& pixel = reinterpret_cast<QRgb*>(car.scanLine(point.y()))[point.x()];
-        if (!isRoad(pixel))
+        if (!isRoad(car.pixel(point)))
             continue;
-        pixel = LaneGrey & 0x00FFFFFF; // its colour, so that scaling makes no dark fringe
+        car.setPixel(
+            point, LaneGrey & 0x00FFFFFF); // its colour, so that scaling makes no dark fringe
         for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
             open.push_back(point + step);
     }

@@ -1,5 +1,7 @@
 #include "games/number_rain.h"
 
+#include "core/defect.h"
+
 #include <utility>
 
 using core::Int16;
@@ -26,13 +28,13 @@ constexpr std::array Settings{
 
 const Setting& settingOf(Difficulty difficulty)
 {
-    return Settings[static_cast<std::size_t>(difficulty)];
+    return core::at(Settings, static_cast<int>(difficulty));
 }
 
 } // namespace
 
-NumberRain::NumberRain(core::RandomSource& random, int height)
-    : m_fall(random, height)
+NumberRain::NumberRain(core::RandomSource& random, int lastRow)
+    : m_fall(random, lastRow)
 {
     chooseDifficulty(Difficulty::Facil);
 }
@@ -92,7 +94,7 @@ void NumberRain::runTick(int first)
 bool NumberRain::MueveNumeros(int first)
 {
     for (int slot = first; slot < RainFall::Slots; ++slot) {
-        if (m_fall.Libre()[slot] || !m_fall.move(slot))
+        if (core::at(m_fall.Libre(), slot) || !m_fall.move(slot))
             continue;
         CompruebaPuntos(slot, false);
         if (m_box) {
@@ -113,9 +115,9 @@ void NumberRain::launchWhenDue()
 
 RainStep NumberRain::click(int slot)
 {
-    if (blocked() || slot < 0 || slot >= RainFall::Slots || m_fall.Libre()[slot])
+    if (blocked() || slot < 0 || slot >= RainFall::Slots || core::at(m_fall.Libre(), slot))
         return {};
-    if (!m_phase.EsObjetivo(m_fall.Gotas()[slot].Valor))
+    if (!m_phase.EsObjetivo(core::at(m_fall.Gotas(), slot).Valor))
         miss(slot);
     else if (hit(slot))
         return take();
@@ -123,7 +125,7 @@ RainStep NumberRain::click(int slot)
         showPoints();
         m_step.cleared = true;
         m_fall.release(slot);
-    } else {
+    } else { // with exactly 0 points left the number stays and falls on: meant
         CompruebaPuntos(slot, true);
     }
     return take();
@@ -132,7 +134,7 @@ RainStep NumberRain::click(int slot)
 bool NumberRain::hit(int slot)
 {
     // Every sum before the first change: one that overflows leaves the game as it was.
-    const Int16 won = HitPoints * m_fall.Gotas()[slot].Velocidad;
+    const Int16 won = HitPoints * core::at(m_fall.Gotas(), slot).Velocidad;
     const Int16 points = m_state.Puntos + won;
     const Int16 hits = m_state.Aciertos + 1;
     const bool passed = hits >= HitsToPass;
@@ -147,19 +149,19 @@ bool NumberRain::hit(int slot)
 
 void NumberRain::miss(int slot)
 {
-    const Int16 lost = m_state.PenaError * m_fall.Gotas()[slot].Velocidad;
+    const Int16 lost = m_state.PenaError * core::at(m_fall.Gotas(), slot).Velocidad;
     m_state.Puntos -= lost;
     report(RainEvent::Kind::Miss, slot, -lost);
 }
 
 void NumberRain::report(RainEvent::Kind kind, int slot, Int16 points)
 {
-    m_step.events.push_back({kind, slot, m_fall.Gotas()[slot], points});
+    m_step.events.push_back({kind, slot, core::at(m_fall.Gotas(), slot), points});
 }
 
 void NumberRain::CompruebaPuntos(int slot, bool porError)
 {
-    const Gota& gota = m_fall.Gotas()[slot];
+    const Gota& gota = core::at(m_fall.Gotas(), slot);
     if (!porError) {
         const bool target = m_phase.EsObjetivo(gota.Valor);
         const Int16 lost = target ? m_state.PenaEscape * gota.Velocidad : Int16(0);
@@ -296,6 +298,7 @@ void NumberRain::showPoints()
 
 void NumberRain::showLives()
 {
+    // The blank before the colon is meant.
     m_livesText = u"Vidas : %1"_s.arg(m_state.Vidas.value());
 }
 

@@ -20,8 +20,8 @@ struct RainState {
     core::Int16 Vidas = FullLives;
     core::Int16 Lanzados; ///< numbers launched in the current phase; read by nothing: meant
     core::Int16 Aciertos; ///< right clicks since the screen was made, whatever the game: meant
-    core::Int16 PenaEscape;
-    core::Int16 PenaError;
+    core::Int16 PenaEscape; ///< for a right number that escapes, each step of its speed class
+    core::Int16 PenaError; ///< for a wrong number that is clicked, likewise
 };
 
 enum class Difficulty { Facil, Normal, Dificil };
@@ -47,12 +47,12 @@ struct RainEvent {
     core::Int16 points; ///< that it brought; below 0 when it cost some
 };
 
-/// What a call asks of the screen besides showing the state: first the texts and the focus,
-/// then the beeps, then the box.
+/// What a call asks for besides showing the state: first what has changed, then the beeps, then
+/// the box.
 struct RainStep {
-    bool phasePrepared = false; ///< the instruction was written anew: select it whole
+    bool phasePrepared = false; ///< the instruction was written anew
     bool cleared = false; ///< a clicked number is gone
-    bool waits = false; ///< the start button has come up
+    bool waits = false; ///< the pupil is to start the rain
     std::optional<int> launched; ///< the slot whose number is new, launched after all the rest
     std::vector<RainEvent> events; ///< in the order in which they happened
     int beeps = 0;
@@ -67,11 +67,11 @@ struct RainStep {
 /// box. Until then every other call does nothing.
 class NumberRain {
 public:
-    static constexpr int HitsToPass = 15;
+    static constexpr int HitsToPass = 15; ///< in the first phase; one in any later: see Aciertos
 
     /// Ready to start phase 1 on Easy; draws nothing. random must outlive the model. A number
-    /// whose top edge is below height (twips) has escaped.
-    NumberRain(core::RandomSource& random, int height);
+    /// that has fallen beyond lastRow has escaped.
+    NumberRain(core::RandomSource& random, int lastRow);
 
     const RainState& state() const { return m_state; }
     const RainFall& fall() const { return m_fall; }
@@ -81,8 +81,8 @@ public:
     QString pointsText() const { return m_pointsText; }
     QString livesText() const { return m_livesText; }
     bool running() const { return m_running; } ///< the clock is to tick
-    bool waiting() const { return m_waiting; } ///< the start button is there
-    bool over() const { return m_over; } ///< the pupil will not play again: close
+    bool waiting() const { return m_waiting; } ///< the pupil is to start the rain
+    bool over() const { return m_over; } ///< the pupil will not play again
     Difficulty difficulty() const { return m_difficulty; }
     int interval() const; ///< milliseconds from tick to tick
 
@@ -92,7 +92,7 @@ public:
     /// The pupil starts the rain.
     RainStep start();
 
-    /// Lets the clock run without touching the start button.
+    /// Lets the clock run, and what waits for the pupil waits on.
     void enableClock();
 
     /// One tick of the clock: all numbers move, every sixth time one is launched.

@@ -2,6 +2,7 @@
 
 #include "games/night_sky.h"
 #include "games/rain_field.h"
+#include "games/rain_grid.h"
 #include "games/token_row.h"
 #include "ui/screens.h"
 
@@ -55,7 +56,7 @@ QPalette textOn(QPalette palette, QRgb fill, QRgb text)
 
 Form5::Form5(ui::Screens& screens)
     : Screen(screens, screenName(), u"Lluvia de números - Fase 1"_s, Width, Height)
-    , m_model(screens.random(), static_cast<int>(Height))
+    , m_model(screens.random(), RainGrid::lastRow(static_cast<int>(Height)))
     , m_sky(new NightSky(this))
     , m_field(new RainField(*this, this))
 {
@@ -101,7 +102,7 @@ void Form5::makeScoreboard()
         u"rainLives"_s, {LivesLeft - HeartsWidth - 150, ScoreTop, HeartsWidth, ScoreHeight});
     Text1 =
         displayBox(u"Text1"_s, {Margin, InstructionTop, Width - 2 * Margin, InstructionHeight},
-            InstructionFont, u"Instrucción"_s, u"Elimina 15 números impares "_s);
+            InstructionFont, u"Instrucción"_s, u"Elimina 15 números impares "_s); // never seen
     Text1->setAlignment(Qt::AlignCenter);
     Text1->setPalette(textOn(ui::look::displayed(), 0, Moonlight));
 }
@@ -124,7 +125,7 @@ void Form5::makeClocks()
     Timer1 = timer(u"Timer1"_s, m_model.interval());
     Timer1->setTimerType(Qt::PreciseTimer);
     on(Timer1, &QTimer::timeout, &Form5::Timer1_Timer);
-    Timer2 = timer(u"Timer2"_s, 10000);
+    Timer2 = timer(u"Timer2"_s, 10000); // nothing starts it: meant
     on(Timer2, &QTimer::timeout, &Form5::Timer2_Timer);
 }
 

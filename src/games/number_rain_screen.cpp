@@ -1,8 +1,10 @@
 #include "games/number_rain_screen.h"
 
 #include "core/clock.h"
+#include "core/defect.h"
 #include "games/night_sky.h"
 #include "games/rain_field.h"
+#include "games/rain_grid.h"
 #include "games/token_row.h"
 #include "ui/screens.h"
 
@@ -36,7 +38,7 @@ void Form5::Form_Load()
 void Form5::resizeEvent(QResizeEvent* event)
 {
     Screen::resizeEvent(event);
-    constexpr double CloudEnd = RainFall::Pitch * (RainFall::Columns + 1) + RainDrop::Width;
+    constexpr double CloudEnd = RainGrid::Pitch * (RainFall::Columns + 1) + RainDrop::Width;
     m_sky->setFactor(factor());
     m_sky->cover(canvas()->geometry(), CloudEnd * factor() / ui::TwipsPerPixel);
 }
@@ -134,8 +136,8 @@ void Form5::showScore()
 
 void Form5::showNumber(int slot, bool launched)
 {
-    const Gota& gota = m_model.fall().Gotas().at(static_cast<std::size_t>(slot));
-    if (m_model.fall().Libre().at(static_cast<std::size_t>(slot))) {
+    const Gota& gota = core::at(m_model.fall().Gotas(), slot);
+    if (core::at(m_model.fall().Libre(), slot)) {
         leaveWithFocus(m_field->drop(slot));
         m_field->clear(slot);
     } else if (launched) {

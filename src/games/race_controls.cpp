@@ -1,5 +1,6 @@
 #include "games/race_screen.h"
 
+#include "core/defect.h"
 #include "games/race_keypad.h"
 #include "ui/screens.h"
 #include "ui/tray.h"
@@ -13,6 +14,7 @@ namespace games {
 
 namespace {
 
+// Twips.
 constexpr double Margin = 240;
 constexpr double Width = RaceScene::Width + 2 * Margin;
 constexpr double Top = 180;
@@ -26,6 +28,8 @@ constexpr double CommandTop = SceneTop + RaceScene::Height + 240;
 constexpr double CommandWidth = 2520;
 constexpr double CommandHeight = 560;
 constexpr double Height = CommandTop + CommandHeight + 240;
+
+constexpr int Second = 1000; // milliseconds
 
 constexpr ui::look::Font OperationFont{Family::CourierNew, 40, true};
 constexpr ui::look::Font TimeFont{Family::Arial, 17, true};
@@ -41,7 +45,7 @@ FrmCarrera::FrmCarrera(ui::Screens& screens)
     makeRow();
     makeKeypad();
     makeCommands();
-    Timer1 = timer(u"Timer1"_s, 1000);
+    Timer1 = timer(u"Timer1"_s, Second);
     Timer2 = timer(u"Timer2"_s, m_race.rivalInterval());
     for (QTimer* timer : {Timer1, Timer2})
         timer->setTimerType(Qt::PreciseTimer);
@@ -67,18 +71,17 @@ void FrmCarrera::makeBoxes()
     showTime();
 }
 
-// No race type fills this row with an operation, so it does not show.
+// No race type fills this row with an operation, so it does not show: meant.
 void FrmCarrera::makeRow()
 {
     const std::array<QString, 5> texts{u"888"_s, {}, u"888"_s, {}, u"888"_s};
     for (int i = 0; i < 5; ++i) {
-        const auto index = static_cast<std::size_t>(i);
-        Text2[index] = entryBox(u"Text2(%1)"_s.arg(i), {Margin + 1200 * i, VerdictTop, 1140, 450},
+        auto*& box = core::at(Text2, i);
+        box = entryBox(u"Text2(%1)"_s.arg(i), {Margin + 1200 * i, VerdictTop, 1140, 450},
             ui::look::Instruction, u"Casilla %1"_s.arg(i + 1));
-        Text2[index]->setText(texts.at(index));
-        Text2[index]->hide();
-        onKeyPress(
-            Text2[index], [this, i](QChar character) { return Text2_KeyPress(i, character); });
+        box->setText(core::at(texts, i));
+        box->hide();
+        onKeyPress(box, [this, i](QChar character) { return Text2_KeyPress(i, character); });
     }
 }
 
@@ -98,8 +101,7 @@ void FrmCarrera::makeCommands()
         button(u"Command1(1)"_s, u"&Repetir carrera"_s,
             {Width / 2 + 120, CommandTop, CommandWidth, CommandHeight}, neutral)};
     for (int i = 0; i < 2; ++i)
-        on(Command1.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
-            &FrmCarrera::Command1_Click, i);
+        on(core::at(Command1, i), &QPushButton::clicked, &FrmCarrera::Command1_Click, i);
     new ui::Tray({Command1[0], Command1[1]});
 }
 

@@ -1,5 +1,6 @@
 #include "games/race_keypad.h"
 
+#include "core/defect.h"
 #include "games/race_keypad_button.h"
 #include "ui/control_factory.h"
 
@@ -68,13 +69,14 @@ RaceKeypad::RaceKeypad(ui::ControlFactory& factory, QPointF upperRight, QObject*
 void RaceKeypad::CreaTeclado()
 {
     for (int i = 1; i <= EnterKey; ++i) {
-        const ui::TwipRect place{
-            (i - 1) % Columns * KeySize, (i - 1) / Columns * KeySize + KeySize, KeySize, KeySize};
+        const int column = (i - 1) % Columns;
+        const int row = (i - 1) / Columns + 1; // below the key that hides them all
+        const ui::TwipRect place{column * KeySize, row * KeySize, KeySize, KeySize};
         auto* key = m_factory.add(new ui::Button(keyCaption(i), QColor(keyColour(i)), PBTeclado),
             u"CBCalcu(%1)"_s.arg(i), place, KeyFont);
         key->setFocusPolicy(Qt::TabFocus); // a click leaves the caret in the answer
         connect(key, &QPushButton::clicked, this, [this, i] { emit pressed(i); });
-        CBCalcu.at(static_cast<std::size_t>(i)) = key;
+        core::at(CBCalcu, i) = key;
     }
     CBCalcu[ClearKey]->setAccessibleName(u"Borrar"_s);
     CBCalcu[EnterKey]->setAccessibleName(u"Comprobar"_s);

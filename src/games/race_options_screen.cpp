@@ -1,5 +1,6 @@
 #include "games/race_options_screen.h"
 
+#include "core/defect.h"
 #include "games/car_picture.h"
 #include "ui/list_box.h"
 #include "ui/picture.h"
@@ -119,7 +120,7 @@ void DlgCarrera::List2_Click()
 {
     const int row = List2->currentRow();
     if (row >= 0 && row < Cars)
-        showPicture(Image2, NombresImagen.at(static_cast<std::size_t>(row)));
+        showPicture(Image2, core::at(NombresImagen, row));
 }
 
 void DlgCarrera::showPicture(QLabel* image, const QString& fileName)

@@ -1,5 +1,6 @@
 #include "games/race_podium.h"
 
+#include "core/defect.h"
 #include "ui/look.h"
 #include "ui/scaling.h"
 
@@ -55,7 +56,7 @@ void drawPodium(QPainter& painter, QSizeF size, double factor)
 {
     constexpr std::array<int, 3> Places{2, 1, 3}; // from left to right
     for (int i = 0; i < 3; ++i) {
-        const int place = Places.at(static_cast<std::size_t>(i));
+        const int place = core::at(Places, i);
         const double height = (Tallest - (place - 1) * StepDown) * factor;
         const double width = BlockWidth * factor;
         drawBlock(painter,

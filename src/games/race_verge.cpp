@@ -1,5 +1,6 @@
 #include "games/race_verge.h"
 
+#include "core/defect.h"
 #include "games/race_track.h"
 
 #include <QPainter>
@@ -74,7 +75,7 @@ void drawFlag(QPainter& painter, double left, double top)
     painter.drawRoundedRect(QRectF(left, top, 45, RaceVerge::Above - top), 20, 20);
     for (int column = 0; column < Columns; ++column) {
         const double x = left + 45 + column * Square;
-        const double y = top + 30 + Wave.at(static_cast<std::size_t>(column));
+        const double y = top + 30 + core::at(Wave, column);
         for (int row = 0; row < 5; ++row)
             painter.fillRect(QRectF(x, y + row * Square, Square + 2, Square + 2),
                 QColor((row + column) % 2 == 0 ? Black : Paint));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/defect.h"
 #include "games/number_rain.h"
 #include "games/rain_drop.h"
 #include "games/rain_halo.h"
@@ -30,7 +31,7 @@ public:
 
     /// Makes the number of a slot; it does not show yet.
     RainDrop* make(int slot);
-    RainDrop* drop(int slot) const { return CbNave[static_cast<std::size_t>(slot)]; }
+    RainDrop* drop(int slot) const { return core::at(CbNave, slot); }
 
     /// Notices at this control too whether the pupil plays by keyboard or by mouse.
     void watch(QWidget* control);

@@ -23,7 +23,7 @@ RainPhase::RainPhase(Int16 fase)
     const Int16 divisor = byParity ? Int16(2) : fase;
     const Int16 remainder = fase == 1 ? 1 : 0;
     for (int v = 1; v <= last.value(); ++v)
-        (v % divisor == remainder ? m_Objetivos : m_Otros).push_back(v);
+        (v % divisor == remainder ? m_Objetivos : m_Otros).emplace_back(v);
 }
 
 bool RainPhase::EsObjetivo(Int16 number) const

@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace games {
 
@@ -26,11 +27,11 @@ constexpr ui::look::Font PointsFont{ui::look::Family::Andika, 22, true};
 
 } // namespace
 
-RainSplash::RainSplash(QWidget& canvas, Kind kind, const QColor& colour, const QString& text)
+RainSplash::RainSplash(QWidget& canvas, Kind kind, const QColor& colour, QString text)
     : QWidget(&canvas)
     , m_kind(kind)
     , m_colour(colour)
-    , m_text(text)
+    , m_text(std::move(text))
     , m_factor(ui::factorOf(&canvas))
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -25,7 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    RainSplash(QWidget& canvas, Kind kind, const QColor& colour, const QString& text);
+    RainSplash(QWidget& canvas, Kind kind, const QColor& colour, QString text);
 
     void drawDrops(QPainter& painter) const;
     void drawPoints(QPainter& painter) const;

@@ -1,5 +1,6 @@
 #include "problems/bank_editor_screen.h"
 
+#include "core/defect.h"
 #include "ui/leave_check.h"
 #include "ui/list_box.h"
 #include "ui/tray.h"
@@ -159,11 +160,12 @@ void DLGProblemas::makeActions()
         return ui::TwipRect{
             FieldLeft + column * (ActionWidth + Gap), ActionsTop, ActionWidth, CommandHeight};
     };
+    // The blank at the end of "Probar" is meant.
     on(button(u"CBProbar"_s, u"&Probar "_s, place(0), commandColour()), &QPushButton::clicked,
         &DLGProblemas::CBProbar_Click);
     const QStringList captions{u"&Guardar"_s, u"&Limpiar"_s, u"&Borrar"_s};
     for (int i = 0; i < captions.size(); ++i) {
-        auto*& action = CBAccion.at(static_cast<std::size_t>(i));
+        auto*& action = core::at(CBAccion, i);
         action = button(u"CBAccion(%1)"_s.arg(i), captions.at(i), place(i + 1), commandColour());
         on(action, &QPushButton::clicked, &DLGProblemas::CBAccion_Click, i);
     }
@@ -186,7 +188,7 @@ void DLGProblemas::checkOnLeaving(
     QWidget* box, QString (*fault)(const TemplateFields&), void (DLGProblemas::*validate)())
 {
     const auto check = [this, fault, validate] {
-        const QString reason = fault(fields());
+        QString reason = fault(fields());
         if (reason.isEmpty())
             guarded([&] { (this->*validate)(); });
         return reason;

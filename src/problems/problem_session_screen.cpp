@@ -48,9 +48,9 @@ ui::TwipRect commandPlace(int position)
 }
 
 // Events run before each draw. Only where hardly a line of a huge bank is selected are there
-// more draws than this; then a draw takes a hundredth of what looking for events does, so
+// more choices than this; then a draw takes a hundredth of what looking for events does, so
 // they run every few microseconds instead.
-constexpr int DrawsWithEvents = 500;
+constexpr int ChoicesWithEvents = 500;
 
 constexpr ui::look::Font AnswerFont{Family::Andika, 26, true};
 constexpr ui::look::Font CaptionFont{Family::Andika, 18, true};
@@ -79,6 +79,7 @@ FormProblemas::FormProblemas(ui::Screens& screens)
         .next = commandPlace(2),
         .clear = commandPlace(1),
         .solution = commandPlace(3)});
+    // No numbers before the first check: meant.
     LBEstado = label(u"LBEstado"_s, u"Ejercicios:   Errores:   "_s,
         {Margin, CountersTop, FullWidth, CountersHeight}, ui::look::Counters);
     makeQuiet(*LBEstado);
@@ -152,11 +153,11 @@ void FormProblemas::CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera)
 
 void FormProblemas::NuevoProblema()
 {
-    int draws = 0;
+    int choices = 0;
     m_model.newExercise([&] {
-        if (draws < DrawsWithEvents || draws % DrawsWithEvents == 0)
+        if (choices < ChoicesWithEvents || choices % ChoicesWithEvents == 0)
             letEventsRun();
-        ++draws;
+        ++choices;
     });
     TBEnunciado->setStatement(m_model.problem().statement);
     LBUnidad->setText(m_model.problem().unit);

@@ -1,5 +1,6 @@
 #include "problems/selection_screen.h"
 
+#include "core/defect.h"
 #include "problems/bank.h"
 #include "ui/screens.h"
 #include "ui/tray.h"
@@ -71,8 +72,8 @@ void DLGSelProb::makeOptions()
     const std::array captions{u"Todos los tipos"_s, u"Con alguna de las seleccionadas"_s,
         u"Con todas las seleccionadas"_s};
     for (int i = 0; i < 3; ++i) {
-        auto*& option = Option1.at(static_cast<std::size_t>(i));
-        option = new QRadioButton(captions.at(static_cast<std::size_t>(i)), parent);
+        auto*& option = core::at(Option1, i);
+        option = new QRadioButton(core::at(captions, i), parent);
         addChoice(option, u"Option1(%1)"_s.arg(i), i, OptionsWidth);
         on(option, &QRadioButton::toggled, [this] { Option1_Click(); });
     }
@@ -84,8 +85,8 @@ void DLGSelProb::makeChecks()
         frame(u"Frame2"_s, u"&Operaciones"_s, {ChecksLeft, FrameTop, ChecksWidth, FrameHeight});
     const std::array captions{u"&Multiplic"_s, u"&Divisiones"_s, u"&Sumas"_s, u"&Restas"_s};
     for (int i = 0; i < 4; ++i) {
-        auto*& check = Check1.at(static_cast<std::size_t>(i));
-        check = new QCheckBox(captions.at(static_cast<std::size_t>(i)), parent);
+        auto*& check = core::at(Check1, i);
+        check = new QCheckBox(core::at(captions, i), parent);
         addChoice(check, u"Check1(%1)"_s.arg(i), i, ChecksWidth);
         on(check, &QCheckBox::toggled, [this] { Check1_Click(); });
     }
@@ -139,7 +140,8 @@ OperationMask DLGSelProb::checkedOperations() const
 void DLGSelProb::OKButton_Click()
 {
     const auto chosen = option();
-    m_choice = {chosen == ProblemSelection::NoOption ? 0 : chosen, checkedOperations()};
+    m_choice = {chosen == ProblemSelection::NoOption ? ProblemSelection::AllTypes : chosen,
+        checkedOperations()};
     unload();
 }
 

@@ -1,10 +1,21 @@
 #include "shell/exercise_screen.h"
 
+#include "core/defect.h"
 #include "ui/tray.h"
 
 using namespace Qt::StringLiterals;
 
 namespace shell {
+
+void showVerdict(ui::VerdictBox& box, const VerdictLine& line)
+{
+    using Mark = ui::VerdictBox::Mark;
+    const auto verdict = line.verdict();
+    const Mark mark = verdict == Verdict::Right ? Mark::Right
+        : verdict == Verdict::Wrong             ? Mark::Wrong
+                                                : Mark::None;
+    box.setVerdict(line.text(), mark);
+}
 
 QString ExerciseScreen::defaultSolutionCaption()
 {
@@ -20,8 +31,7 @@ void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& so
         button(u"Command2(1)"_s, u"&Borrar"_s, places.clear, ui::look::Green),
         button(u"Command2(2)"_s, solutionCaption, places.solution, ui::look::Red)};
     for (int i = 0; i < 3; ++i)
-        on(Command2.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
-            &ExerciseScreen::Command2_Click, i);
+        on(core::at(Command2, i), &QPushButton::clicked, &ExerciseScreen::Command2_Click, i);
     new ui::Tray({Command1, Command2[0], Command2[1], Command2[2]});
     const auto inReadingOrder = [](const ui::TwipRect& place) {
         return std::pair(place.top, place.left);
@@ -53,16 +63,6 @@ void ExerciseScreen::Command2_Click(int Index)
 void ExerciseScreen::enterChecks(QWidget* answerBox)
 {
     onEnter(answerBox, [this] { Command1_Click(); });
-}
-
-void ExerciseScreen::showVerdict(ui::VerdictBox& box, const VerdictLine& line)
-{
-    using Mark = ui::VerdictBox::Mark;
-    const auto verdict = line.verdict();
-    const Mark mark = verdict == Verdict::Right ? Mark::Right
-        : verdict == Verdict::Wrong             ? Mark::Wrong
-                                                : Mark::None;
-    box.setVerdict(line.text(), mark);
 }
 
 bool ExerciseScreen::askToRepeat()

@@ -1,5 +1,6 @@
 #include "shell/main_menu_screen.h"
 
+#include "core/defect.h"
 #include "shell/main_menu.h"
 #include "shell/pictograms.h"
 #include "ui/ground.h"
@@ -42,15 +43,14 @@ void Form1::Form_Load()
     const int count = static_cast<int>(m_activities.size()) + 1;
     const MainMenuLayout layout(count, static_cast<int>(ClientHeight));
     for (int i = 0; i < count; ++i) {
-        const auto index = static_cast<std::size_t>(i);
         const bool isExit = i == count - 1;
-        const auto& place = layout.places().at(index);
+        const auto& place = core::at(layout.places(), i);
         ui::Button* button = this->button(u"Command1(%1)"_s.arg(i),
-            isExit ? u"&Salir"_s : m_activities.at(index).caption,
+            isExit ? u"&Salir"_s : core::at(m_activities, i).caption,
             {place.left, place.top, place.width, place.height},
             isExit ? ui::look::Red : ui::look::Green, ButtonFont);
         button->setIcon(
-            pictogramIcon(isExit ? Pictogram::Exit : m_activities.at(index).pictogram));
+            pictogramIcon(isExit ? Pictogram::Exit : core::at(m_activities, i).pictogram));
         on(button, &QPushButton::clicked, &Form1::Command1_Click, i);
         Command1.push_back(button);
     }
@@ -64,7 +64,7 @@ void Form1::Command1_Click(int Index)
         exitProgram();
         return;
     }
-    const Activity& activity = m_activities.at(static_cast<std::size_t>(Index));
+    const Activity& activity = core::at(m_activities, Index);
     if (activity.shown == Activity::Shown::Modal)
         screens().showModal(activity.screen, *this);
     else
@@ -73,6 +73,8 @@ void Form1::Command1_Click(int Index)
 
 void Form1::exitProgram()
 {
+    // In this order; a dialog or an activity that is not here is closed whenever the menu can be
+    // clicked.
     for (const QString& name : {u"FormProblemas"_s, u"Form8"_s, u"Form6"_s, u"Form5"_s,
              u"Form4"_s, u"Form3"_s, u"Form2"_s})
         screens().unload(name);

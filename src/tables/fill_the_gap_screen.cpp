@@ -31,7 +31,7 @@ FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Completa el hueco"_s, Width, Height)
 {
     displayBox(u"TbInstruc"_s, {180, 180, 4320, 420}, ui::look::Instruction, u"Instrucciones"_s,
-        u"Completa el Cuadro vacío "_s)
+        u"Completa el Cuadro vacío "_s) // capital and last blank are meant
         ->setAlignment(Qt::AlignCenter);
     makeRow();
     TbResultado = verdictBox(u"TbResultado"_s, {180, 2400, 4320, 540}, u"Comprobación"_s);
@@ -94,7 +94,7 @@ void FrmMultHuecos::makeButtons()
 
 void FrmMultHuecos::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     ui::Ground::pose(*this, ui::Pose::Waiting);
     newExercise();
     TbTermin[1]->setFocus();

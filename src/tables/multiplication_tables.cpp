@@ -1,5 +1,6 @@
 #include "tables/multiplication_tables.h"
 
+#include "core/defect.h"
 #include "core/random.h"
 
 #include <QStringList>
@@ -13,24 +14,18 @@ namespace tables {
 
 namespace {
 
-constexpr int Shuffled = 2;
-constexpr int Swaps = 100;
+constexpr int Swaps = 100; // of neighbours, after which the ascending order still shows: meant
 
 QString activityName(int activity)
 {
     switch (activity) {
-    case 0:
+    case MultiplicationTables::ViewTable:
         return u"Ver tabla"_s;
-    case 1:
+    case MultiplicationTables::ReviewInOrder:
         return u"Repasar tabla en orden"_s;
     default:
-        return u"repasar tabla salteada"_s;
+        return u"repasar tabla salteada"_s; // in small letters: meant
     }
-}
-
-std::size_t at(int index)
-{
-    return static_cast<std::size_t>(index);
 }
 
 } // namespace
@@ -42,7 +37,7 @@ MultiplicationTables::MultiplicationTables(core::RandomSource& random)
 
 int MultiplicationTables::tableAt(int index) const
 {
-    return Tablas.at(at(index)).value();
+    return core::at(Tablas, index).value();
 }
 
 int MultiplicationTables::nextTable() const
@@ -75,8 +70,8 @@ void MultiplicationTables::newExercise()
 {
     Pregunta = 1;
     for (int i = 0; i < 10; ++i)
-        Orden.at(at(i)) = i + 1;
-    if (ActividadActual == Shuffled)
+        core::at(Orden, i) = i + 1;
+    if (ActividadActual == ReviewShuffled)
         shuffle();
     ErroresRepaso = 0;
 }
@@ -84,14 +79,14 @@ void MultiplicationTables::newExercise()
 void MultiplicationTables::shuffle()
 {
     for (int swap = 0; swap < Swaps; ++swap) {
-        const int r = core::drawInteger(m_random, 9, 1).value();
-        std::swap(Orden.at(at(r - 1)), Orden.at(at(r)));
+        const int r = core::randomInteger(m_random, 9, 1).value();
+        std::swap(core::at(Orden, r - 1), core::at(Orden, r));
     }
 }
 
 int MultiplicationTables::multiplier() const
 {
-    return !isSeriesOver() ? Orden.at(at(Pregunta.value() - 1)).value() : 0;
+    return !isSeriesOver() ? core::at(Orden, Pregunta.value() - 1).value() : 0;
 }
 
 QString MultiplicationTables::seriesReport() const
@@ -106,6 +101,7 @@ shell::Verdict MultiplicationTables::judge(double answer)
         return Verdict::NotJudged;
     if (answer != product()) {
         ++ErroresRepaso;
+        // The small letter and the blank at the end are meant.
         m_verdict.tell(Verdict::Wrong, u"resultado incorrecto "_s);
         return Verdict::Wrong;
     }

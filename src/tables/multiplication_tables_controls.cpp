@@ -1,5 +1,6 @@
 #include "tables/multiplication_tables_screen.h"
 
+#include "core/defect.h"
 #include "tables/poster.h"
 #include "ui/marker_stripe.h"
 #include "ui/screens.h"
@@ -52,8 +53,7 @@ void Form2::makeWayOn()
         button(
             u"Command3(1)"_s, u"Siguiente &tabla"_s, {3287, Top, 2515, ButtonHeight}, neutral)};
     for (int i = 0; i < 2; ++i)
-        on(Command3.at(static_cast<std::size_t>(i)), &QPushButton::clicked,
-            &Form2::Command3_Click, i);
+        on(core::at(Command3, i), &QPushButton::clicked, &Form2::Command3_Click, i);
     new ui::Tray({Command3[0], Command3[1]});
 }
 

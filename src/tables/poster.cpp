@@ -22,11 +22,6 @@ constexpr double EndMargin = 6; // of paper above and below them
 constexpr double Rod = 9;
 constexpr double RodOverhang = 7;
 
-constexpr double twips(double pixels)
-{
-    return pixels * ui::TwipsPerPixel;
-}
-
 class FactorsQuieter final : public QSyntaxHighlighter {
 public:
     using QSyntaxHighlighter::QSyntaxHighlighter;
@@ -68,8 +63,8 @@ Poster::Poster(QWidget* parent)
 
 ui::TwipRect Poster::around(const ui::TwipRect& rows)
 {
-    const double side = twips(SideMargin + RodOverhang);
-    const double end = twips(EndMargin + Rod);
+    const double side = ui::twips(SideMargin + RodOverhang);
+    const double end = ui::twips(EndMargin + Rod);
     return {rows.left - side, rows.top - end, rows.width + 2 * side, rows.height + 2 * end};
 }
 

@@ -1,5 +1,6 @@
 #include "tables/quick_tables.h"
 
+#include "core/defect.h"
 #include "core/numbers.h"
 #include "core/random.h"
 
@@ -91,6 +92,7 @@ QuickTables::LimitVerdict QuickTables::setLimit(core::Int16 limit)
 QString QuickTables::limitWarning(LimitVerdict verdict)
 {
     const QString size = verdict == LimitVerdict::TooSmall ? u"pequeño"_s : u"grande"_s;
+    // The runs of blanks are meant.
     return u"Ha especificado un valor demasiado %1. La actividad continuará hasta   que se "
            "pulse  el botón salir"_s.arg(size);
 }
@@ -126,7 +128,7 @@ QuickTables::Events QuickTables::tickOperation()
         if (ended())
             return; // before this time-out is counted as one
         ++m_state.ErroresTiempo;
-        NuevaOperacion();
+        NuevaOperacion(); // the second one, behind that of Fallo: meant
     });
 }
 
@@ -150,6 +152,7 @@ void QuickTables::end()
 
 void QuickTables::NuevaOperacion()
 {
+    // The one about to be drawn counts: of five operations the pupil answers four. Meant.
     if (m_state.FinActividad == End::Operations)
         advance();
     if (ended())
@@ -157,8 +160,8 @@ void QuickTables::NuevaOperacion()
     const core::Int16 previousA = m_state.FactorA;
     const core::Int16 previousB = m_state.FactorB;
     do {
-        m_state.FactorA = core::drawInteger(m_random, LargestNumber, 1);
-        m_state.FactorB = core::drawInteger(m_random, LargestNumber, 1);
+        m_state.FactorA = core::randomInteger(m_random, LargestNumber, 1);
+        m_state.FactorB = core::randomInteger(m_random, LargestNumber, 1);
     } while (m_state.FactorA + m_state.FactorB < SmallestSum
         || (m_state.FactorA == previousA && m_state.FactorB == previousB));
     m_state.Producto = m_state.FactorA * m_state.FactorB;
@@ -186,7 +189,7 @@ void QuickTables::countUse(Verdict verdict)
     m_events.verdict = verdict;
     const std::size_t column = verdict == Verdict::Right ? 0 : 1;
     for (const core::Int16 factor : {m_state.FactorA, m_state.FactorB})
-        ++m_state.Usos[static_cast<std::size_t>(factor.value() - 1)][column];
+        ++core::at(m_state.Usos, factor.value() - 1)[column];
 }
 
 void QuickTables::advance()
@@ -224,7 +227,7 @@ QString QuickTables::report(const QLocale& locale) const
                        .arg(m_state.ErroresTotales.value());
     text += u"Errores cometidos al usar cada número y porcentaje: \r\n"_s;
     for (int number = 1; number <= LargestNumber; ++number) {
-        const auto& uses = m_state.Usos[static_cast<std::size_t>(number - 1)];
+        const auto& uses = core::at(m_state.Usos, number - 1);
         text += numberLine(number, uses[0].value(), uses[1].value(), locale);
     }
     return text + u"Errores por tiempo: %1."_s.arg(m_state.ErroresTiempo.value());

@@ -1,5 +1,6 @@
 #include "tables/quick_tables_screen.h"
 
+#include "core/defect.h"
 #include "tables/quick_tables_widgets.h"
 #include "ui/screens.h"
 #include "ui/tray.h"
@@ -32,7 +33,7 @@ Form8::Form8(ui::Screens& screens)
     , m_model(screens.random())
 {
     TBInstruc = displayBox(u"TBInstruc"_s, {240, 180, 5400, 420}, ui::look::Instruction,
-        u"Instrucciones"_s, u"Escribe el resultado correcto y pulsa enter "_s);
+        u"Instrucciones"_s, u"Escribe el resultado correcto y pulsa enter "_s); // the last blank is meant
     makeRow();
     TBResul = add(new VerdictPatch(canvas()), u"TBResul"_s, ui::TwipRect{240, 1980, 5400, 540});
     TBResul->setAccessibleName(u"Resultado"_s);
@@ -92,7 +93,7 @@ void Form8::makeOptions()
         // One stop of the tab order: the toolkit sees to it only once an option has had the
         // focus.
         option->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);
-        Option1.at(static_cast<std::size_t>(i)) = option;
+        core::at(Option1, i) = option;
     }
     Label1 = add(new QLabel(Frame1), u"Label1"_s, ui::TwipRect{2640, 900, 2520, 480});
     Text1 = add(new ui::TextBox(ui::TextBox::Kind::Entry, Frame1), u"Text1"_s,

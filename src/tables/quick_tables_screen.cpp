@@ -44,6 +44,7 @@ void Form8::Option1_Click(int Index)
 {
     m_model.endBy(static_cast<QuickTables::End>(Index));
     const bool limited = Index != 0;
+    // The "h" is meant.
     const QStringList captions{{}, u"Mihnutos: "_s, u"Operaciones: "_s, u"Errores: "_s};
     Label1->setText(captions.at(Index));
     Label1->setEnabled(limited);

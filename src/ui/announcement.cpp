@@ -7,6 +7,7 @@
 #include <QWindow>
 
 #include <deque>
+#include <utility>
 
 namespace ui {
 
@@ -26,10 +27,10 @@ void speak(QWidget& window, const QString& text)
 /// tree does not come upon it.
 class Notice : public QAccessibleInterface {
 public:
-    Notice(QAccessible::Role role, QAccessibleInterface* parent, const QString& text)
+    Notice(QAccessible::Role role, QAccessibleInterface* parent, QString text)
         : m_role(role)
         , m_parent(parent)
-        , m_text(text)
+        , m_text(std::move(text))
     {
     }
 

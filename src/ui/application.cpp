@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 
 namespace ui {
 
-void prepareApplication()
+void ignoreDesktopSettings()
 {
     QApplication::setDesktopSettingsAware(false);
     QApplication::setAttribute(Qt::AA_DontShowIconsInMenus); // some desktops have them
 }
 
-void dress()
+void setUpApplication()
 {
     QApplication::setStyle(new Style);
     look::setContrast(look::Contrast::Usual);

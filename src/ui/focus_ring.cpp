@@ -1,6 +1,6 @@
 #include "ui/focus_ring.h"
 
-#include "ui/faces.h"
+#include "ui/control_painting.h"
 #include "ui/look.h"
 #include "ui/tray.h"
 

@@ -1,9 +1,9 @@
 #include "ui/indicators.h"
 
 #include "ui/look.h"
+#include "ui/marks.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -66,16 +66,9 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option, double factor)
     painter.drawRoundedRect(square, CornerRadius * factor, CornerRadius * factor);
     if (!(option.state & QStyle::State_On))
         return;
-    const auto at = [&](double x, double y) {
-        return square.topLeft() + QPointF(x * square.width(), y * square.height());
-    };
-    QPainterPath tick(at(0.22, 0.52));
-    tick.lineTo(at(0.42, 0.74));
-    tick.lineTo(at(0.8, 0.26));
-    painter.setBrush(Qt::NoBrush);
     painter.setPen(
         QPen(markColour(option), TickWidth * factor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(tick);
+    drawTick(painter, square);
 }
 
 void drawRadioButton(QPainter& painter, const QStyleOption& option, double factor)

@@ -30,10 +30,10 @@ inline constexpr QRgb Wrong = 0xFFC62828;
 inline constexpr QRgb Gold = 0xFFF5B301; ///< star of a right answer
 
 // Fills of action buttons.
-inline constexpr QRgb Red = 0xFFFF0000; ///< 255 as a stored 24-bit colour
-inline constexpr QRgb Green = 0xFF00FF00; ///< 65280
-inline constexpr QRgb Yellow = 0xFFFFFF00; ///< 65535
-inline constexpr QRgb Cyan = 0xFF00FFFF; ///< 16776960
+inline constexpr QRgb Red = 0xFFFF0000;
+inline constexpr QRgb Green = 0xFF00FF00;
+inline constexpr QRgb Yellow = 0xFFFFFF00;
+inline constexpr QRgb Cyan = 0xFF00FFFF;
 
 inline constexpr int MenuBarHeight = 28;
 inline constexpr int BoxMargin = 6; ///< between the edge of an entry box and its text

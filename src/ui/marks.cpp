@@ -52,6 +52,20 @@ QPolygonF star()
 
 } // namespace
 
+void drawTick(QPainter& painter, const QRectF& square)
+{
+    const auto at = [&](double x, double y) {
+        return square.topLeft() + QPointF(x * square.width(), y * square.height());
+    };
+    painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.74), at(0.8, 0.26)});
+}
+
+void drawCross(QPainter& painter, const QRectF& square)
+{
+    painter.drawLine(square.topLeft(), square.bottomRight());
+    painter.drawLine(square.topRight(), square.bottomLeft());
+}
+
 void drawRightDisc(QPainter& painter, const QRectF& square)
 {
     inUnitSquare(painter, square, [&] {
@@ -64,8 +78,7 @@ void drawWrongDisc(QPainter& painter, const QRectF& square)
 {
     inUnitSquare(painter, square, [&] {
         drawDisc(painter, look::Wrong);
-        painter.drawLine(QPointF(0.33, 0.33), QPointF(0.67, 0.67));
-        painter.drawLine(QPointF(0.67, 0.33), QPointF(0.33, 0.67));
+        drawCross(painter, {QPointF(0.33, 0.33), QPointF(0.67, 0.67)});
     });
 }
 

@@ -36,7 +36,7 @@ QImage loadPicture(const QString& folder, const QString& fileName)
     if (!file.open(QIODevice::ReadOnly))
         fail(fileName, folder, u"el archivo no se puede leer"_s);
     const QByteArray data = file.readAll();
-    const QImage image = QImage::fromData(data);
+    QImage image = QImage::fromData(data);
     if (image.isNull() || breaksOff(data))
         fail(fileName, folder, u"el archivo está dañado"_s);
     return image;

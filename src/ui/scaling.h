@@ -51,7 +51,7 @@ public:
 
 private:
     struct Entry {
-        QWidget* control;
+        QWidget* control = nullptr;
         TwipRect place;
         look::Font font;
     };

@@ -91,7 +91,7 @@ void SquaredBox::setLeftAligned(double indent)
 
 void SquaredBox::setFactor(double factor)
 {
-    Scalable::setFactor(factor);
+    TextBox::setFactor(factor);
     const double pixels = factor / TwipsPerPixel;
     QFont type = font();
     type.setPixelSize(std::min(fittingSize(type, m_width * pixels, m_height * pixels),

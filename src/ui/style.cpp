@@ -2,7 +2,7 @@
 
 #include "ui/access_keys.h"
 #include "ui/box_icons.h"
-#include "ui/faces.h"
+#include "ui/control_painting.h"
 #include "ui/indicators.h"
 #include "ui/look.h"
 #include "ui/scaling.h"
@@ -205,11 +205,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         // bar then; there, the keys work as ever.
         return QAccessible::isActive() && (widget == nullptr || !widget->hasFocus()) ? 0 : 1;
     case SH_MessageBox_CenterButtons: // at the right, as in every dialog
-        return 0;
     case SH_BlinkCursorWhenTextSelected:
-        return 0;
     case SH_RequestSoftwareInputPanel:
-        return 0;
     case SH_DialogButtonBox_ButtonsHaveIcons: // they would push the captions out
         return 0;
     default:

@@ -79,7 +79,7 @@ bool TextBox::event(QEvent* event)
 {
     // QLineEdit would drop the highlight of a box without focus here.
     if (event->type() == QEvent::WindowActivate)
-        return QWidget::event(event);
+        return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call)
     return QLineEdit::event(event);
 }
 

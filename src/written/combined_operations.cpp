@@ -1,6 +1,7 @@
 #include "written/combined_operations.h"
 
 #include "core/aloud.h"
+#include "core/defect.h"
 #include "core/random.h"
 
 #include <utility>
@@ -16,16 +17,17 @@ CombinedOperations::CombinedOperations(core::RandomSource& random)
 
 const QString& CombinedOperations::sign(Operator oper)
 {
+    // The times sign is a letter: meant.
     static const std::array Signos{u" + "_s, u" - "_s, u" x "_s, u" ÷ "_s};
-    return Signos.at(static_cast<std::size_t>(oper - Plus));
+    return core::at(Signos, oper - Plus);
 }
 
 void CombinedOperations::newExercise()
 {
     for (core::Int16& number : Numeros)
-        number = core::drawInteger(m_random, 8, 2);
+        number = core::randomInteger(m_random, 8, 2);
     for (Operator& oper : OperGrupo)
-        oper = static_cast<Operator>(core::drawInteger(m_random, 4, Plus).value());
+        oper = static_cast<Operator>(core::randomInteger(m_random, 4, Plus).value());
     for (std::size_t group = 0; group < Groups; ++group)
         evaluate(group);
     join();

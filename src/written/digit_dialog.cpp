@@ -1,5 +1,6 @@
 #include "written/digit_dialog.h"
 
+#include "core/defect.h"
 #include "ui/tray.h"
 
 #include <QCheckBox>
@@ -36,12 +37,13 @@ Dialog::Dialog(ui::Screens& screens)
     : Screen(screens, screenName(), u"Tablas a usar"_s, Width, Height)
 {
     for (int i = 0; i < 9; ++i) {
-        const ui::TwipRect place{GridLeft + ColumnWidth * (i % Columns),
-            GridTop + RowHeight * (i / Columns), ColumnWidth - 120, RowHeight - 120};
+        const int column = i % Columns;
+        const int row = i / Columns;
+        const ui::TwipRect place{GridLeft + ColumnWidth * column, GridTop + RowHeight * row,
+            ColumnWidth - 120, RowHeight - 120};
         auto* box = new QCheckBox(u"&%1"_s.arg(i + 1), canvas());
         box->setAccessibleName(u"Tabla del %1"_s.arg(i + 1));
-        Check1.at(static_cast<std::size_t>(i)) =
-            add(box, u"Check1(%1)"_s.arg(i), place, DigitFont);
+        core::at(Check1, i) = add(box, u"Check1(%1)"_s.arg(i), place, DigitFont);
     }
     makeWaysOut();
 }

@@ -76,7 +76,7 @@ void DivisionBoard::makeWork()
         "deja el cuadro en blanco"_s);
     // A sample until the first exercise replaces it.
     constexpr int SampleColumns = 12;
-    Text1->setGrid(GridText(u" 12053041   "_s, SampleColumns));
+    Text1->setGrid(GridText(u" 12053041   "_s, SampleColumns)); // until there is an exercise
 }
 
 void DivisionBoard::makeNumbers()

@@ -16,7 +16,7 @@ namespace written {
 namespace {
 
 /// From 10^(digits-1) + 1 to 10^digits - 1; the largest is deliberately twice as likely.
-double drawNumber(core::RandomSource& random, int digits)
+double randomNumber(core::RandomSource& random, int digits)
 {
     const double limit = std::pow(10.0, digits);
     const double excluded = std::pow(10.0, digits - 1);
@@ -85,7 +85,7 @@ QString LongDivision::operationText() const
 QString LongDivision::spokenExercise() const
 {
     const int decimals = m_settings.DecimalesCociente.value();
-    const QString division = u"%1 entre %2"_s.arg(Dividendo()).arg(Divisor());
+    QString division = u"%1 entre %2"_s.arg(Dividendo()).arg(Divisor());
     if (decimals == 0)
         return division;
     return decimals == 1 ? division + u", con 1 decimal"_s
@@ -156,17 +156,17 @@ void LongDivision::toggleForcedZeros()
 void LongDivision::start(const DivisionSettings& settings)
 {
     const core::Int16 width = lineWidth(settings);
-    m_operands = drawOperands(settings);
+    m_operands = randomOperands(settings);
     m_AnchoLinea = width;
     m_settings = settings;
 }
 
-LongDivision::Operands LongDivision::drawOperands(const DivisionSettings& settings) const
+LongDivision::Operands LongDivision::randomOperands(const DivisionSettings& settings) const
 {
     Operands drawn;
     do {
-        drawn.Dividendo = core::toInt32(drawNumber(m_random, settings.CifrasDividendo.value()));
-        drawn.Divisor = core::toInt32(drawNumber(m_random, settings.CifrasDivisor.value()));
+        drawn.Dividendo = core::toInt32(randomNumber(m_random, settings.CifrasDividendo.value()));
+        drawn.Divisor = core::toInt32(randomNumber(m_random, settings.CifrasDivisor.value()));
     } while (settings.ForzarCeros && !hasZeroOrIsShort(drawn.Dividendo, drawn.Divisor));
     return drawn;
 }
@@ -197,7 +197,7 @@ bool LongDivision::typeDivisor(const QString& typed)
 shell::Verdict LongDivision::judge(const Answer& answer)
 {
     const double remainder = core::readNumber(answer.work.lastWrittenLine());
-    // Without a comma the position is 0, so that every character counts as a decimal.
+    // Without a comma the position is 0, so that every character counts as a decimal: meant.
     const auto decimals =
         static_cast<int>(answer.quotient.size() - (answer.quotient.indexOf(u',') + 1));
     const int wanted = m_settings.DecimalesCociente.value();
@@ -221,9 +221,11 @@ bool LongDivision::isRight(double quotient, double remainder, int decimals) cons
 {
     const qint64 dividend = Dividendo(); // 64 bits: the smallest number ÷ -1 has room
     const qint64 divisor = Divisor();
-    if (m_settings.DecimalesCociente == 0)
+    if (m_settings.DecimalesCociente == 0) {
+        const qint64 whole = dividend / divisor;
         return remainder == static_cast<double>(dividend % divisor)
-            && quotient == static_cast<double>(dividend / divisor);
+            && quotient == static_cast<double>(whole);
+    }
     const double product = quotient * 100000 * static_cast<double>(divisor) / 100000;
     const double sum = product + remainder / std::pow(10.0, decimals);
     return core::roundHalfEven(sum) == static_cast<double>(dividend);

@@ -89,7 +89,7 @@ private:
         qint32 Divisor = 1;
     };
 
-    Operands drawOperands(const DivisionSettings& settings) const;
+    Operands randomOperands(const DivisionSettings& settings) const;
     void start(const DivisionSettings& settings);
     bool isRight(double quotient, double remainder, int decimals) const;
 

@@ -1,6 +1,7 @@
 #include "written/multiples_divisors_screen.h"
 
 #include "core/clock.h"
+#include "core/defect.h"
 #include "core/numbers.h"
 #include "ui/screens.h"
 
@@ -81,20 +82,20 @@ void FrmMultidivi::makeBoxes()
             AnswerFont, u"Respuesta %1"_s.arg(i + 1));
         box->setAlignment(Qt::AlignCenter);
         enterChecks(box);
-        Text3.at(static_cast<std::size_t>(i)) = box;
+        core::at(Text3, i) = box;
     }
 
     TBMensajes = verdictBox(u"TBMensajes"_s,
         centred(AnswerTop + AnswerHeight + TrayMargin / 2, VerdictWidth, 640), u"Comprobación"_s);
     TBMensajes->setJudged({Text3.begin(), Text3.end()});
-    // Nothing is counted here: the line stays as it is.
+    // Nothing is counted here, and the line stays as it is: meant.
     displayBox(u"TbResultados"_s, {Margin, CountersTop, FullWidth, CountersHeight},
         ui::look::Counters, u"Ejercicios y errores"_s, u"Ejercicios: 0; Errores: 0"_s);
 }
 
 void FrmMultidivi::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     newExercise();
 }
 
@@ -123,7 +124,7 @@ void FrmMultidivi::check()
         Command2[0]->setFocus();
     } else {
         edgeWrongAnswers();
-        ui::TextBox* wrong = Text3.at(static_cast<std::size_t>(m_model.wrongAnswers().front()));
+        ui::TextBox* wrong = core::at(Text3, m_model.wrongAnswers().front());
         wrong->setFocus();
         wrong->selectAll();
     }

@@ -1,5 +1,6 @@
 #include "written/multiplication_board.h"
 
+#include "core/defect.h"
 #include "ui/control_factory.h"
 #include "ui/rule.h"
 #include "ui/squared_box.h"
@@ -135,7 +136,7 @@ void MultiplicationBoard::makeFactors()
             u"TbFactor(%1)"_s.arg(i), rowPlace(i - 2), DigitFont);
         box->setAccessibleName(names.at(i));
         box->allowFocus(Qt::ClickFocus);
-        TbFactor.at(static_cast<std::size_t>(i)) = box;
+        core::at(TbFactor, i) = box;
     }
     TbFactor[1]->setBlankRun(BlanksBehindSign);
 }
@@ -280,7 +281,7 @@ void MultiplicationBoard::empty()
 
 void MultiplicationBoard::showWrongRow(int fila)
 {
-    showWrong(*row(fila), *m_crosses.at(static_cast<std::size_t>(fila) + 1));
+    showWrong(*row(fila), *core::at(m_crosses, fila + 1));
 }
 
 void MultiplicationBoard::showWrongResult()

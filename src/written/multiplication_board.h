@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/defect.h"
 #include <QStringList>
 
 #include <array>
@@ -35,7 +36,7 @@ public:
     /// Places what stands below the rows, and empties all.
     void placeRows();
     int rowCount() const { return static_cast<int>(TbParcial.size()); }
-    ui::SquaredBox* row(int fila) const { return TbParcial.at(static_cast<std::size_t>(fila)); }
+    ui::SquaredBox* row(int fila) const { return core::at(TbParcial, fila); }
     QStringList rowTexts() const;
     /// The rows and the result.
     std::vector<ui::SquaredBox*> answerBoxes() const;

@@ -1,5 +1,7 @@
 #include "written/spoken.h"
 
+#include "core/defect.h"
+
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -12,7 +14,7 @@ QString spokenPlace(int place)
         u"unidades de millar"_s, u"decenas de millar"_s, u"centenas de millar"_s,
         u"unidades de millón"_s, u"decenas de millón"_s, u"centenas de millón"_s};
     if (place >= 0 && place < static_cast<int>(Names.size()))
-        return Names.at(static_cast<std::size_t>(place));
+        return core::at(Names, place);
     return u"lugar %1 desde la derecha"_s.arg(place + 1);
 }
 

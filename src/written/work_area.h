@@ -18,7 +18,7 @@ class WorkArea : public QWidget, public ui::Scalable {
     Q_PROPERTY(QString plainText READ toPlainText NOTIFY textChanged USER true)
     Q_PROPERTY(int cursorPosition READ cursorPosition WRITE setCursorPosition NOTIFY
             cursorPositionChanged)
-    Q_PROPERTY(QString selectedText READ selectedText)
+    Q_PROPERTY(QString selectedText READ selectedText NOTIFY cursorPositionChanged)
 
 public:
     explicit WorkArea(QWidget* parent);

@@ -126,7 +126,7 @@ private:
             return {};
         }
         const int row = offset / grid.columns();
-        const QString line = grid.line(row);
+        QString line = grid.line(row);
         *start = row * grid.columns();
         *end = *start + static_cast<int>(line.size());
         return line;

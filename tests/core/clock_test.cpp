@@ -37,11 +37,11 @@ private slots:
         QVERIFY(clock.readings.empty());
     }
 
-    void seedByTimerKeepsTheFraction()
+    void seedBySecondsOfDayKeepsTheFraction()
     {
         FakeClock clock(QTime(0, 1, 1, 250));
         ScriptedRandom random;
-        core::seedByTimer(random, clock);
+        core::seedBySecondsOfDay(random, clock);
         QCOMPARE(random.seeds, std::vector<double>{61.25});
     }
 };

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "games/car_catalogue.h"
 
 #include "core/errors.h"
@@ -30,7 +31,7 @@ private slots:
     void carsHaveTheirCaptionsAndPictures()
     {
         QFETCH(int, position);
-        const games::Car& car = games::carCatalogue().at(static_cast<std::size_t>(position));
+        const games::Car& car = core::at(games::carCatalogue(), position);
         QTEST(car.caption, "caption");
         QTEST(car.picture, "picture");
         QTEST(games::pictureName(games::pictureNames(), position), "picture");

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "core/random.h"
 #include "games/number_rain.h"
 
@@ -18,7 +19,7 @@ namespace {
 
 using Gotas = std::array<Gota, RainFall::Slots>;
 
-constexpr int Height = 9000; // twips
+constexpr int LastRow = 16;
 
 /// Keeps the books of a game from what happens to it, without asking the model: which numbers
 /// escape in a tick, what that costs, which box must open and what must be free after it.
@@ -114,8 +115,7 @@ class RandomPlayer {
 public:
     RandomPlayer(std::uint32_t seed, Difficulty difficulty)
         : m_engine(seed)
-        , m_rain(m_random, Height)
-        , m_difficulty(difficulty)
+        , m_rain(m_random, LastRow)
         , m_books(difficulty)
     {
         m_random.seed(seed);
@@ -150,7 +150,7 @@ private:
 
     bool escapes(const Gota& gota) const
     {
-        return gota.Espera.value() == 1 && 780 + 500 * (gota.Fila.value() + 1) > Height;
+        return gota.Espera.value() == 1 && gota.Fila.value() + 1 > LastRow;
     }
 
     void tick()
@@ -158,23 +158,23 @@ private:
         const Gotas before = m_rain.fall().Gotas();
         std::array<bool, RainFall::Slots> taken;
         for (int slot = 0; slot < RainFall::Slots; ++slot)
-            taken[slot] = !m_rain.fall().Libre()[slot];
+            core::at(taken, slot) = !core::at(m_rain.fall().Libre(), slot);
         RainStep step = m_rain.tick();
         int beeps = 0;
         for (int slot = 0; slot < RainFall::Slots; ++slot) {
-            if (!taken[slot] || !escapes(before[slot]))
+            if (!core::at(taken, slot) || !escapes(core::at(before, slot)))
                 continue;
-            const auto box = m_books.escape(before[slot], beeps);
+            const auto box = m_books.escape(core::at(before, slot), beeps);
             if (box) {
                 hold(step.beeps == beeps, "beeps before a box");
                 beeps = 0;
-                hold(!m_rain.fall().Libre()[slot], "the escaped number behind its box");
+                hold(!core::at(m_rain.fall().Libre(), slot), "the escaped number behind its box");
                 step = answer(step, *box, false);
                 std::fill_n(taken.begin(), 10, false);
                 if (m_rain.over())
                     return;
             }
-            taken[slot] = false;
+            core::at(taken, slot) = false;
         }
         hold(step.beeps == beeps, "beeps");
         hold(!step.box, "a box without a cause");
@@ -187,9 +187,9 @@ private:
         m_ticks = (m_ticks + 1) % 6;
         bool due = m_ticks == 0;
         for (int slot = 0; slot < RainFall::Slots; ++slot) {
-            const Gota& gota = m_rain.fall().Gotas()[slot];
-            const bool launched = due && !taken[slot];
-            hold(!m_rain.fall().Libre()[slot] == (taken[slot] || launched),
+            const Gota& gota = core::at(m_rain.fall().Gotas(), slot);
+            const bool launched = due && !core::at(taken, slot);
+            hold(!core::at(m_rain.fall().Libre(), slot) == (core::at(taken, slot) || launched),
                 "which slots are taken");
             if (launched) {
                 due = false;
@@ -198,8 +198,8 @@ private:
                 const int last =
                     m_rain.phase().Fase() <= 2 ? 20 : 10 * m_rain.phase().Fase().value();
                 hold(gota.Valor >= 1 && gota.Valor <= last, "launch number");
-            } else if (taken[slot]) {
-                checkMove(before[slot], gota);
+            } else if (core::at(taken, slot)) {
+                checkMove(core::at(before, slot), gota);
             }
         }
     }
@@ -219,12 +219,12 @@ private:
     void click()
     {
         const int slot = static_cast<int>(m_engine() % RainFall::Slots);
-        if (m_rain.fall().Libre()[slot]) {
+        if (core::at(m_rain.fall().Libre(), slot)) {
             const auto before = m_rain.pointsText();
             hold(!m_rain.click(slot).box && m_rain.pointsText() == before, "a free slot");
             return;
         }
-        const Gota gota = m_rain.fall().Gotas()[slot];
+        const Gota gota = core::at(m_rain.fall().Gotas(), slot);
         if (!m_books.isTarget(gota.Valor.value())
             && static_cast<int>(m_engine() % 4) > m_clumsiness)
             return;
@@ -232,13 +232,14 @@ private:
         const auto box = m_books.click(gota);
         hold(step.box.has_value() == box.has_value(), "a box after a click");
         if (box) {
-            hold(!m_rain.fall().Libre()[slot], "the clicked number behind the box");
+            hold(!core::at(m_rain.fall().Libre(), slot), "the clicked number behind the box");
             answer(step, *box, true);
             if (!m_rain.over())
-                hold(m_rain.fall().Libre()[slot] == (slot < 10),
+                hold(core::at(m_rain.fall().Libre(), slot) == (slot < 10),
                     "the clicked number after the box");
         } else {
-            hold(m_rain.fall().Libre()[slot] == (m_books.puntos > 0), "exactly no points");
+            hold(core::at(m_rain.fall().Libre(), slot) == (m_books.puntos > 0),
+                "exactly no points");
         }
         if (!m_rain.over())
             check();
@@ -279,7 +280,6 @@ private:
     std::mt19937 m_engine; ///< the player's own choices
     core::SeededRandom m_random;
     NumberRain m_rain;
-    Difficulty m_difficulty;
     Bookkeeper m_books;
     int m_clumsiness; ///< 0 to 3: how often the player shoots at wrong numbers
     int m_laziness; ///< one shot at this many ticks, on average

@@ -1,7 +1,9 @@
+#include "core/defect.h"
 #include "games/number_rain_screen.h"
 
 #include "games/rain_drop.h"
 #include "games/rain_game.h"
+#include "games/rain_grid.h"
 #include "games/rain_halo.h"
 #include "games/rain_splash.h"
 #include "games/token_row.h"
@@ -14,6 +16,7 @@
 #include <random>
 
 using games::RainFall;
+using games::RainGrid;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -594,7 +597,7 @@ private slots:
         launch(19, 5, 3);
         for (int row = 1; row < Rows; ++row) {
             for (int slot = 0; slot < RainFall::Slots; ++slot) {
-                if (model->rain.fall().Libre()[slot] || model->gota(slot).Espera != 1
+                if (core::at(model->rain.fall().Libre(), slot) || model->gota(slot).Espera != 1
                     || model->gota(slot).Deriva > 0)
                     continue;
                 if (slot == 0)
@@ -738,7 +741,7 @@ private:
     {
         screen = &bench->open<QuietForm5>();
         guard = screen;
-        model = std::make_unique<RainGame>(Height);
+        model = std::make_unique<RainGame>(RainGrid::lastRow(Height));
     }
 
     // Both, the screen and the model beside it.
@@ -824,14 +827,14 @@ private:
         QCOMPARE(start().isVisible(), rain.waiting());
         QCOMPARE(start().isEnabled(), rain.waiting());
         for (int slot = 0; slot < RainFall::Slots; ++slot) {
-            const bool taken = !model->rain.fall().Libre()[slot];
+            const bool taken = !core::at(model->rain.fall().Libre(), slot);
             QCOMPARE(drop(slot).isVisible(), taken);
             QCOMPARE(drop(slot).isEnabled(), taken);
             if (!taken)
                 continue;
             const auto& gota = model->gota(slot);
             QCOMPARE(drop(slot).text(), QString::number(gota.Valor.value()));
-            QCOMPARE(drop(slot).pos(), at(gota.left(), gota.top()));
+            QCOMPARE(drop(slot).pos(), at(RainGrid::left(gota), RainGrid::top(gota)));
         }
     }
 

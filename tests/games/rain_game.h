@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/defect.h"
 #include "games/number_rain.h"
 #include "support/scripted_random.h"
 
@@ -15,15 +16,15 @@ inline bool asksNoFocus(const games::RainStep& step)
 class RainGame {
 public:
     static constexpr float Never = 0.999f; ///< a draw that starts no drift
-    static constexpr int Deep = 30000; ///< a height (twips) from which nothing escapes soon
+    static constexpr int Deep = 60; ///< rows out of which nothing escapes soon
 
-    explicit RainGame(int height = Deep)
-        : rain(random, height)
+    explicit RainGame(int lastRow = Deep)
+        : rain(random, lastRow)
     {
     }
 
     const games::RainState& state() const { return rain.state(); }
-    const games::Gota& gota(int slot) const { return rain.fall().Gotas()[slot]; }
+    const games::Gota& gota(int slot) const { return core::at(rain.fall().Gotas(), slot); }
 
     /// A tick for which these draws are scripted; every one of them must be used up.
     games::RainStep tick(std::initializer_list<float> draws = {})
@@ -77,7 +78,8 @@ public:
     void calm()
     {
         for (int slot = 0; slot < games::RainFall::Slots; ++slot)
-            if (!rain.fall().Libre()[slot] && gota(slot).Espera == 1 && gota(slot).Deriva <= 0)
+            if (!core::at(rain.fall().Libre(), slot) && gota(slot).Espera == 1
+                && gota(slot).Deriva <= 0)
                 random.append({Never});
     }
 

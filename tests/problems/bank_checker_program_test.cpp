@@ -10,6 +10,7 @@ class BankCheckerProgramTest : public QObject {
 
 private:
     QTemporaryDir folder;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     QString out;
     QString err;
 
@@ -23,6 +24,7 @@ private:
     int run(const QStringList& arguments, const QString& program)
     {
         QProcess process;
+        process.setProcessEnvironment(environment);
         process.start(program, arguments);
         if (!process.waitForFinished(-1)) // the test's own time limit is enough
             return -1;
@@ -44,6 +46,12 @@ private:
     }
 
 private slots:
+    void initTestCase()
+    {
+        // A terminal without a language, where the toolkit would have something to say.
+        environment.insert(u"LC_ALL"_s, u"C"_s);
+    }
+
     void findsTheStarterBankClean()
     {
         QCOMPARE(run({QString::fromUtf8(PIZARRIN_RESOURCES) + u"/Problemas3.dat"_s}), 0);

@@ -87,9 +87,9 @@ private:
     QStringList read() const { return LeerBanco(m_folder->path()).value_or(Bank{}).lines; }
 
     /// Of an octal mode, for the owner, the group and all others.
-    static QFile::Permissions permissions(int mode)
+    static QFile::Permissions permissions(unsigned mode)
     {
-        const int digits = (mode & 0700) << 6 | (mode & 0070) << 1 | (mode & 0007);
+        const unsigned digits = (mode & 0700) << 6 | (mode & 0070) << 1 | (mode & 0007);
         return QFile::Permissions::fromInt(digits);
     }
 
@@ -274,14 +274,14 @@ private slots:
 
     void bankAndBackupKeepTheBanksPermissions_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::newRow("a class shares it") << 0664;
-        QTest::newRow("one person's") << 0600;
-        QTest::newRow("everybody's") << 0666;
+        QTest::addColumn<unsigned>("mode");
+        QTest::newRow("a class shares it") << 0664U;
+        QTest::newRow("one person's") << 0600U;
+        QTest::newRow("everybody's") << 0666U;
     }
     void bankAndBackupKeepTheBanksPermissions()
     {
-        QFETCH(int, mode);
+        QFETCH(unsigned, mode);
         write(u"Problemas3.dat"_s, "antes\r\n");
         write(u"Problemas3.bak"_s, "otro\r\n"); // somebody else's, of before
         QVERIFY(QFile::setPermissions(path(u"Problemas3.dat"_s), permissions(mode)));

@@ -117,7 +117,7 @@ private slots:
         script({3, 3}, 5);
         QCOMPARE(next(), u"P3"_s);
         session->showSolution();
-        QVERIFY_EXCEPTION_THROWN(session->newExercise([] { throw 1; }), int);
+        QVERIFY_THROWS_EXCEPTION(int, session->newExercise([] { throw 1; }));
         QCOMPARE(session->problem().statement, u"P3"_s);
         QCOMPARE(random->left(), 1u);
         QCOMPARE(session->judge(13), Verdict::Right);
@@ -450,9 +450,9 @@ private slots:
         show(1);
         for (int i = 0; i < 32767; ++i)
             session->judge(0);
-        QVERIFY_EXCEPTION_THROWN(session->judge(0), core::OverflowError);
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, session->judge(0));
         verifyCounters(32767, 32767);
-        QVERIFY_EXCEPTION_THROWN(session->judge(11), core::OverflowError);
+        QVERIFY_THROWS_EXCEPTION(core::OverflowError, session->judge(11));
         verifyCounters(32767, 32767);
     }
 

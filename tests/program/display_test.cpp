@@ -126,7 +126,7 @@ private:
     static void addScreenRows(const QString& butFor = {})
     {
         QTest::addColumn<QString>("name");
-        for (const QString& name : ScreenNames) {
+        for (const QString& name : screenNames()) {
             if (name != butFor)
                 QTest::newRow(qPrintable(name)) << name;
         }

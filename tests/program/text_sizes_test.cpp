@@ -141,12 +141,12 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<State>("state");
-        for (const QString& name : ScreenNames)
+        for (const QString& name : screenNames())
             if (isJudged(name))
                 QTest::addRow("%s", qPrintable(name)) << name << State::Opening;
         for (const QString& name : {u"DLGProblemas"_s, u"DLGSelProb"_s})
             QTest::addRow("%s, filled", qPrintable(name)) << name << State::Filled;
-        for (const QString& name : Activities) {
+        for (const QString& name : activityScreens()) {
             if (!isJudged(name))
                 continue;
             QTest::addRow("%s, wrong", qPrintable(name)) << name << State::Wrong;
@@ -174,9 +174,6 @@ private slots:
 
 private:
     using Limits = std::array<double, ClassNames.size()>;
-
-    const QStringList Activities = u"Form2 Form3 Form4 Form5 Form6 Form8 FrmMultHuecos "
-                                   "FrmMultidivi FRMCombi FormProblemas FrmCarrera"_s.split(u' ');
 
     /// A laptop at school, and what is larger: a child reads its work at a glance. A netbook:
     /// nothing is too small to read.

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "core/errors.h"
 #include "shell/main_menu.h"
 
@@ -33,7 +34,7 @@ private slots:
     {
         const MainMenuLayout layout(12, 8280);
         for (int i = 0; i < 12; ++i) {
-            const auto& place = layout.places().at(static_cast<std::size_t>(i));
+            const auto& place = core::at(layout.places(), i);
             QCOMPARE(place.left, i % 2 == 0 ? 500.0 : 5500.0);
             QCOMPARE(place.top, (i / 2) * 1380 + 138.0);
             QCOMPARE(place.width, 5000.0);

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "core/errors.h"
 #include "core/random.h"
 #include "tables/repeated_sum.h"
@@ -90,8 +91,7 @@ private slots:
         std::array<std::array<int, 11>, 11> counts{};
         for (int i = 0; i < 90'000; ++i) {
             many.newExercise();
-            ++counts.at(static_cast<std::size_t>(many.addend()))
-                  .at(static_cast<std::size_t>(many.times()));
+            ++core::at(core::at(counts, many.addend()), many.times());
         }
         for (std::size_t addend = 1; addend <= 10; ++addend)
             for (std::size_t times = 2; times <= 10; ++times)

@@ -56,7 +56,7 @@ private:
     QMenu& menu() const { return bench->control<QMenu>(u"MnuOpc"_s); }
 
 private slots:
-    void initTestCase() { ui::dress(); }
+    void initTestCase() { ui::setUpApplication(); }
     void init()
     {
         bench = std::make_unique<ScreenBench>();

@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "written/combined_operations.h"
 
 #include "core/random.h"
@@ -63,8 +64,7 @@ Parsed parse(const QString& text)
     Parsed parsed;
     parsed.valid = match.hasMatch();
     for (int i = 0; i < 3; ++i)
-        parsed.values.at(static_cast<std::size_t>(i)) =
-            groupValue(match.captured(2 * i + 1), parsed);
+        core::at(parsed.values, i) = groupValue(match.captured(2 * i + 1), parsed);
     parsed.links = {match.captured(2), match.captured(4)};
     parsed.result = parsed.values[0];
     for (std::size_t i = 0; i < 2; ++i) {

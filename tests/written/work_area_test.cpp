@@ -1,3 +1,4 @@
+#include "core/defect.h"
 #include "written/work_area.h"
 
 #include "support/screen_bench.h"
@@ -156,7 +157,7 @@ void WorkAreaTest::inkStandsInItsCell()
             if (qGray(picture.pixel(x, y)) > 128)
                 continue;
             QVERIFY2(x < cellWidth, qPrintable(u"ink at %1, %2"_s.arg(x).arg(y)));
-            ++ink.at(static_cast<std::size_t>(y / cellHeight));
+            ++core::at(ink, static_cast<int>(y / cellHeight));
         }
     }
     const auto [least, most] = std::minmax_element(ink.begin(), ink.end());

@@ -1,4 +1,4 @@
-#include "ui/faces.h"
+#include "ui/control_painting.h"
 
 #include "ui/look.h"
 
