@@ -33,7 +33,8 @@ Form8::Form8(ui::Screens& screens)
     , m_model(screens.random())
 {
     TBInstruc = displayBox(u"TBInstruc"_s, {240, 180, 5400, 420}, ui::look::Instruction,
-        u"Instrucciones"_s, u"Escribe el resultado correcto y pulsa enter "_s); // the last blank is meant
+        u"Instrucciones"_s,
+        u"Escribe el resultado correcto y pulsa enter "_s); // the last blank is meant
     makeRow();
     TBResul = add(new VerdictPatch(canvas()), u"TBResul"_s, ui::TwipRect{240, 1980, 5400, 540});
     TBResul->setAccessibleName(u"Resultado"_s);

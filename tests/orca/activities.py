@@ -94,7 +94,7 @@ def quick_tables_to_a_limit(pupil):
 def hear_report(pupil, report):
     pupil.hears("alert Pizarrin", report, "Aceptar (?:push )?button.*")
     pupil.press("Return")
-    pupil.at_the_menu()
+    pupil.back_at_the_menu()
 
 
 def multiples(pupil):

@@ -24,7 +24,7 @@ def rain(pupil):
     pupil.hears(r"En esta partida has conseguido \d+ puntos.*", "Sí (?:push )?button.*")
     pupil.press_until("Tab", "No (?:push )?button.*")
     pupil.press("Return")
-    pupil.at_the_menu()
+    pupil.back_at_the_menu()
 
 
 class Rain:

@@ -74,7 +74,11 @@ class Pupil:
 
     def close(self):
         self.desk.press("alt+F4")
-        self.at_the_menu()
+        self.back_at_the_menu()
+
+    def back_at_the_menu(self):
+        """Where the focus still is on what has been opened."""
+        self.desk.hear(rf"{self.at} (?:push )?button.*")
 
     def _note(self, keys, said=None):
         self.transcript.append((keys, list(self.desk.passed if said is None else said)))
