@@ -4,6 +4,7 @@
 #include "core/system.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
+#include "ui/desktop_contrast.h"
 #include "ui/fonts.h"
 #include "ui/screen_set.h"
 
@@ -47,5 +48,6 @@ int main(int argc, char* argv[])
         core::commonBankFolder());
     addScreens(screens);
     screens.show(shell::Form1::screenName());
+    ui::followDesktopContrast();
     return QApplication::exec();
 }

@@ -113,7 +113,6 @@ void Form5::makeStart()
 {
     PbFoco = add(new QWidget(canvas()), u"PbFoco"_s, {-300, 0, 150, 150});
     PbFoco->setFocusPolicy(Qt::ClickFocus);
-    PbFoco->setAccessibleName(u"Cielo"_s);
     CbEmpezar = button(u"CbEmpezar"_s, u"&EMPEZAR"_s,
         {(Width - StartWidth) / 2, (Height - StartHeight) / 2, StartWidth, StartHeight}, Amber,
         StartFont);

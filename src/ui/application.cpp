@@ -39,7 +39,7 @@ void setUpApplication()
 {
     QAccessible::isActive(); // waits for the desktop's bus, while the fonts are read beside it
     QApplication::setStyle(new Style);
-    QApplication::setPalette(look::palette());
+    look::setContrast(look::Contrast::Usual);
     QApplication::setFont(look::scaled(look::Instruction, 1));
     QApplication::setWindowIcon(windowIcon());
     QApplication::setQuitOnLastWindowClosed(false);
