@@ -103,7 +103,7 @@ void Stage::photographBox(
     QTimer camera;
     QObject::connect(&camera, &QTimer::timeout, &camera, [&] {
         auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible())
+        if (box == nullptr || !box->isVisible() || !box->isActiveWindow())
             return;
         camera.stop();
         if (auto* edit = box->findChild<QLineEdit*>())
