@@ -233,7 +233,7 @@ void measureMotion(
         screen.width(), screen.height(), 100 * cpu / seconds);
 }
 
-void measureRain(ui::Screens& screens, double factor, int seconds)
+void measureRain(ui::ScreenSet& screens, double factor, int seconds)
 {
     screens.add<Downpour>();
     screens.show(u"Downpour"_s);
@@ -243,7 +243,7 @@ void measureRain(ui::Screens& screens, double factor, int seconds)
 }
 
 /// The quickest rival on his way, once the first product is answered.
-void measureRace(ui::Screens& screens, double factor, int seconds)
+void measureRace(ui::ScreenSet& screens, double factor, int seconds)
 {
     screens.add<FrmCarrera>();
     screens.add<DlgCarrera>();

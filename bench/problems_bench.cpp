@@ -79,7 +79,7 @@ void measureInstantiation(const QString& folder, core::RandomSource& random)
         static_cast<double>(lines.size()) / all * 1000);
 }
 
-void measureOpening(ui::Screens& screens)
+void measureOpening(ui::ScreenSet& screens)
 {
     const QString name = problems::DLGProblemas::screenName();
     const double opening = milliseconds([&] {

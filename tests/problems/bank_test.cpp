@@ -274,14 +274,14 @@ private slots:
 
     void bankAndBackupKeepTheBanksPermissions_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::newRow("a class shares it") << 0664;
-        QTest::newRow("one person's") << 0600;
-        QTest::newRow("everybody's") << 0666;
+        QTest::addColumn<unsigned>("mode");
+        QTest::newRow("a class shares it") << 0664U;
+        QTest::newRow("one person's") << 0600U;
+        QTest::newRow("everybody's") << 0666U;
     }
     void bankAndBackupKeepTheBanksPermissions()
     {
-        QFETCH(int, mode);
+        QFETCH(unsigned, mode);
         write(u"Problemas3.dat"_s, "antes\r\n");
         write(u"Problemas3.bak"_s, "otro\r\n"); // somebody else's, of before
         QVERIFY(QFile::setPermissions(path(u"Problemas3.dat"_s), permissions(mode)));

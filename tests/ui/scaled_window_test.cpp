@@ -52,7 +52,7 @@ private slots:
     void everythingFollowsItsSize()
     {
         window->comeUp(1);
-        window->show(); // a window that is not up is told no size
+        window->show(); // a hidden window hears of its new size only then
         window->resize(window->size() * 2);
         QCOMPARE(window->factor(), 2.0);
         QCOMPARE(window->canvas()->size(), QSize(600, 400));
