@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# Tests the program for Windows under Wine: every test of the program, the screens' in real
-# windows too, then the archive and the installer that build.sh has left in dist/.
+# Tests the program for Windows under Wine: every test of models and screens, then the archive
+# and the installer that build.sh has left in dist/, in real windows.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . scripts/setup.sh
 . packaging/windows/setup.sh
 
-# The program may ask for no more libraries than Windows has had since version 10.
+# The programs may ask for no more libraries than Windows has had since version 10.
 check_imports() {
   local strange
-  x86_64-w64-mingw32-objdump -p "$windows_build/bin/pizarrin.exe" |
+  x86_64-w64-mingw32-objdump -p "$windows_build"/bin/pizarrin{,-banco}.exe |
     sed -n 's/^\tDLL Name: //p' | tr '[:upper:]' '[:lower:]' | sort -u >"$windows_build/imports"
   strange=$(grep -vxFf packaging/windows/imports.txt "$windows_build/imports" || true)
   [ -z "$strange" ] || { echo "not on every Windows: $strange" >&2 && return 1; }
@@ -25,10 +25,6 @@ gather_fonts() {
   done
 }
 
-summarise() { # log
-  grep -A 1 'tests passed' "build/$1.log"
-}
-
 configure_windows wine wine64 unzip xvfb openbox dbus-daemon dbus-bin at-spi2-core xdotool \
   x11-xkb-utils imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika \
   fonts-urw-base35
@@ -37,11 +33,11 @@ check_imports
 gather_fonts
 export QT_QPA_FONTDIR=$PWD/$windows_build/fonts
 quietly "preparar wine" packaging/windows/wine.sh cmd /c ver
-quietly "probar wine" ctest --test-dir "$windows_build" -LE windows -j "$(nproc)"
-summarise probar-wine
-# One after the other: a Wine has one display.
-quietly "probar wine en ventanas" ctest --test-dir "$windows_build" -L windows
-summarise probar-wine-en-ventanas
-quietly "recorrer wine" tests/support/on_display.sh packaging/windows/walk.sh \
+# What a test says goes to a debugger else, where there is no console.
+QT_FORCE_STDERR_LOGGING=1 quietly "probar wine" ctest --test-dir "$windows_build" --verbose \
+  -j "$(nproc)"
+grep -E 'tests passed|^[0-9]+: SKIP' build/probar-wine.log
+WINDOW_PLATFORM=windows quietly "recorrer wine" tests/support/on_display.sh \
+  packaging/windows/walk.sh \
   dist/Pizarrin-*-windows.zip dist/Pizarrin-*-setup.exe "$windows_build/pictures"
 tail -n 1 build/recorrer-wine.log

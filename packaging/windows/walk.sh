@@ -42,11 +42,11 @@ fail() {
   exit 1
 }
 
-# Asks until it is so, and gives up after a minute.
+# Asks until it is so, and gives up after two minutes.
 until_so() { # what is wrong else, command...
-  local what=$1 i
+  local what=$1 end=$((SECONDS + 120))
   shift
-  for ((i = 0; i < 600; ++i)); do
+  while [ "$SECONDS" -lt "$end" ]; do
     "$@" && return
     sleep 0.1
   done
@@ -104,6 +104,35 @@ leave() {
   wait
 }
 
+still() { # picture of the display, taken anew if it has changed since
+  [ "$(pixels_off "$1")" -eq 0 ] || ! mv "$work/now.png" "$1"
+}
+pixels_off() { # picture that the display is compared with
+  import -window root "$work/now.png"
+  compare -metric AE "$1" "$work/now.png" null: 2>&1 | xargs printf '%.0f' || true
+}
+is_covered() { [ "$(pixels_off "$1")" -gt 100000 ]; }
+is_bare() { [ "$(pixels_off "$1")" -lt 50000 ]; } # the frame has another colour
+
+# A child minimises an activity and clicks the menu, which it still blocks. On a desktop of
+# Wine's own, where windows belong together and are minimised as on Windows, by no window
+# manager.
+lose_an_activity() {
+  local before="$pictures/escritorio.png"
+  "$here/wine.sh" explorer /desktop=escuela,1366x768 pizarrin.exe &
+  until_so "the menu does not come up on Wine's desktop" is_other none
+  picture escritorio
+  until_so "the menu on Wine's desktop is never whole" still "$before"
+  xdotool key Return
+  until_so "no activity comes up on Wine's desktop" is_covered "$before"
+  xdotool mousemove 683 20 click 3 key n # "Minimize" in the menu of its frame
+  until_so "an activity does not minimise" is_bare "$before"
+  picture actividad-minimizada
+  xdotool mousemove 300 400 click 1
+  until_so "a click on the menu does not bring the activity back" is_covered "$before"
+  leave
+}
+
 open_activities() {
   local name
   for name in suma-repetida tablas tablas-rapidas completa-el-hueco multiplos-y-divisores \
@@ -145,6 +174,7 @@ walk_archive() {
   mkdir -p "$folder"
   unzip -q "$archive" -d "$folder"
   cd "$folder"/*
+  lose_an_activity
   start pizarrin.exe menu
   open_activities
   cp Recursos/Problemas3.dat "$work/starter.dat"

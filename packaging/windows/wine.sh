@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Runs a program for Windows under Wine, as on Windows 10, in the folder WINEPREFIX, which it
-# makes the first time: one of the build's own unless set.
+# makes the first time: one of the build's own unless set. Names of files have accents whatever
+# the locale.
 set -euo pipefail
 prefix=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/build/windows/wine
-export WINEPREFIX=${WINEPREFIX:-$prefix}
+export WINEPREFIX=${WINEPREFIX:-$prefix} LC_ALL=C.UTF-8
 # No offers to fetch what only other programs need, and no entries in this desktop's menus.
 export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
 

@@ -41,6 +41,7 @@ constexpr QRgb Ring = 0xFF8BE9FF; // neither a drop's colour nor the start butto
 constexpr QRgb Moonlight = 0xFFF3F5FF; // texts on the sky
 constexpr QRgb Panel = 0xFF10172C;
 
+constexpr int MenuType = 17; // this screen opens small
 constexpr ui::look::Font ScoreFont{Family::CourierNew, 17, true};
 constexpr ui::look::Font InstructionFont{Family::CourierNew, 17};
 constexpr ui::look::Font StartFont{Family::Arial, 30, true};
@@ -75,6 +76,7 @@ Form5::Form5(ui::Screens& screens)
 
 void Form5::makeMenu()
 {
+    setMenuType(MenuType);
     QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
     MnuOpcMod = menuList(options, u"MnuOpcMod"_s, {u"&Fácil"_s, u"&Normal"_s, u"&Difícil"_s});
     onList(MnuOpcMod, &Form5::MnuOpcMod_Click);

@@ -52,6 +52,7 @@ ui::TwipRect commandPlace(int position)
 // they run every few microseconds instead.
 constexpr int ChoicesWithEvents = 500;
 
+constexpr int MenuType = 13;
 constexpr ui::look::Font AnswerFont{Family::Andika, 26, true};
 constexpr ui::look::Font CaptionFont{Family::Andika, 18, true};
 constexpr ui::look::Font UnitFont{Family::Andika, 20};
@@ -87,6 +88,7 @@ FormProblemas::FormProblemas(ui::Screens& screens)
 
 void FormProblemas::makeMenu()
 {
+    setMenuType(MenuType);
     QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
     on(item(options, u"MnuOpcGes"_s, u"&Gestión de problemas..."_s), &QAction::triggered,
         [this] { MnuOpcGes_Click(); });

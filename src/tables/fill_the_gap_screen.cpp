@@ -18,7 +18,8 @@ constexpr double Width = 4680;
 constexpr double Height = 4590;
 
 constexpr ui::look::Font RowFont{Family::CourierNew, 30, true};
-constexpr ui::look::Font CommandFont{Family::Andika, 12, true};
+constexpr ui::look::Font CommandFont{Family::Andika, 11, true};
+constexpr ui::look::Font CounterFont{Family::Andika, 9}; // this screen opens large
 
 } // namespace
 
@@ -37,8 +38,8 @@ FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
     TbResultado = verdictBox(u"TbResultado"_s, {180, 2400, 4320, 540}, u"Comprobación"_s);
     TbResultado->setJudged({TbTermin[1]});
     makeButtons();
-    TbEjercicios = displayBox(u"TbEjercicios"_s, {180, 4110, 4320, 360}, ui::look::Counters,
-        u"Ejercicios y errores"_s, m_model.counters().FormatoSimple());
+    TbEjercicios = countersBox(u"TbEjercicios"_s, {180, 4140, 4320, 300},
+        m_model.counters().FormatoSimple(), CounterFont);
 }
 
 void FrmMultHuecos::makeRow()

@@ -22,6 +22,7 @@ namespace {
 constexpr double Width = 6400;
 constexpr double Height = 5325;
 
+constexpr int MenuType = 12;
 constexpr ui::look::Font TableFont{Family::CourierNew, 22, true};
 constexpr ui::look::Font QuestionFont{Family::CourierNew, 26, true};
 
@@ -59,6 +60,7 @@ void Form2::makeWayOn()
 
 void Form2::makeMenu()
 {
+    setMenuType(MenuType);
     QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
     QStringList captions;
     for (int i = 0; i < MultiplicationTables::Tables; ++i)
@@ -80,7 +82,7 @@ void Form2::makeMenu()
 
 void Form2::makeTables()
 {
-    constexpr ui::TwipRect Rows{900, 640, 4600, 3100};
+    constexpr ui::TwipRect Rows{540, 640, 5320, 3100};
     constexpr double Half = Rows.width / 2;
     m_poster = add(new Poster(canvas()), {}, Poster::around(Rows));
     TbTabla1 = add(new PosterHalf(canvas()), u"TbTabla1"_s,

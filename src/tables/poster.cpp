@@ -17,7 +17,7 @@ namespace {
 constexpr int LineLength = 10; // characters
 
 // Pixels at factor 1.
-constexpr double SideMargin = 26; // of paper beside the rows
+constexpr double SideMargin = 2; // of paper beside the rows
 constexpr double EndMargin = 6; // of paper above and below them
 constexpr double Rod = 9;
 constexpr double RodOverhang = 7;

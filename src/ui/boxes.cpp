@@ -5,10 +5,12 @@
 #include "ui/handler_guard.h"
 #include "ui/look.h"
 #include "ui/message_window.h"
+#include "ui/opening_factor.h"
 #include "ui/reading_pause.h"
 #include "ui/scaling.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -104,8 +106,9 @@ bool MessageBox::ask(HandlerGuard& owner, const QString& text, const QString& ti
 
 QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString& title)
 {
-    const double factor = factorOf(&owner.guardedWindow());
+    const double factor = overlayFactorOf(owner.guardedWindow());
     const QPointer<QInputDialog> box(new QInputDialog(parentOf(owner)));
+    setWindowFactor(*box, factor);
     box->setFont(look::scaled(look::BoxText, factor));
     box->setWindowTitle(title);
     box->setOkButtonText(u"Aceptar"_s);
@@ -123,6 +126,8 @@ QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString&
         edit->setTextMargins(margin, 0, margin, 0);
         edit->setAccessibleName(prompt.isEmpty() ? title : prompt);
     }
+    if (auto* column = qobject_cast<QBoxLayout*>(box->layout())) // clear of the strip below
+        column->insertSpacing(column->count() - 1, box->fontMetrics().height() / 2);
     QString answer;
     QObject::connect(box, &QInputDialog::textValueSelected, box,
         [&answer](const QString& text) { answer = text; });

@@ -33,6 +33,8 @@ QFont scaled(const Font& font, double factor)
     // Cut, not rounded: a text that fits at factor 1 then fits at every factor.
     result.setPixelSize(std::max(1, static_cast<int>(font.pixels * factor + 0.001)));
     result.setBold(font.bold);
+    if (font.spacing != 100)
+        result.setLetterSpacing(QFont::PercentageSpacing, font.spacing);
     if (font.family == Family::CourierNew)
         result.setStyleHint(QFont::Monospace);
     return result;

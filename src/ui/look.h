@@ -35,7 +35,8 @@ inline constexpr QRgb Green = 0xFF00FF00;
 inline constexpr QRgb Yellow = 0xFFFFFF00;
 inline constexpr QRgb Cyan = 0xFF00FFFF;
 
-inline constexpr int MenuBarHeight = 28;
+inline constexpr int MenuBarHeight = 28; ///< above the canvas, with this type in it:
+inline constexpr int MenuType = 16;
 inline constexpr int BoxMargin = 6; ///< between the edge of an entry box and its text
 inline constexpr int CornerMargin = 3; ///< keeps what a box holds off its round corners
 inline constexpr double BoxRadius = 6; ///< corners of boxes
@@ -53,6 +54,7 @@ struct Font {
     Family family = Family::Andika;
     int pixels = 15;
     bool bold = false;
+    int spacing = 100; ///< of its letters, per cent
 };
 
 inline constexpr Font Counters{Family::Andika, 12};

@@ -53,9 +53,9 @@ void Memo::focusOutEvent(QFocusEvent* event)
 
 void Memo::setSurface(QRgb surface)
 {
-    QPalette own = viewport()->palette();
+    QPalette own = palette();
     own.setColor(QPalette::Base, QColor(surface));
-    viewport()->setPalette(own);
+    setPalette(own); // of the margins, and of the viewport, which follows
 }
 
 void Memo::paintEvent(QPaintEvent* event)

@@ -27,11 +27,12 @@ constexpr int SmallestText = 12;
 
 const QString TextLabel = u"qt_msgbox_label"_s; // the toolkit's names
 const QString NotesLabel = u"qt_msgbox_informativelabel"_s;
+const QString IconLabel = u"qt_msgboxex_icon_label"_s;
 
 /// The usual font, or the largest in which all lines of a long text are seen at once.
 QFont fontFor(const QString& text, const QWidget& window)
 {
-    const double factor = factorOf(&window);
+    const double factor = overlayFactorOf(window);
     const double room =
         window.screen()->availableGeometry().height() - FrameHeight - BoxEnds * factor;
     const auto lines = static_cast<int>(text.count(u'\n')) + 1;
@@ -59,6 +60,7 @@ MessageWindow::MessageWindow(Kind kind, QWidget* parent)
 
 void MessageWindow::setTexts(const QString& text, const QString& notes, const QWidget& window)
 {
+    setWindowFactor(*this, overlayFactorOf(window));
     setFont(fontFor(text, window));
     setTextFormat(Qt::PlainText);
     setText(text);
@@ -80,7 +82,7 @@ void MessageWindow::addNotes(const QString& notes)
 /// Left alone, the box would wrap at the same number of pixels at every factor.
 void MessageWindow::widen(const QWidget& window)
 {
-    const double factor = factorOf(&window);
+    const double factor = overlayFactorOf(window);
     auto* label = findChild<QLabel*>(TextLabel);
     if (label == nullptr)
         return;
@@ -140,6 +142,10 @@ void MessageWindow::keepTextClear()
         notes->setContentsMargins(0, 0, 0, line);
     if (auto* text = findChild<QLabel*>(TextLabel))
         text->setContentsMargins(0, 0, 0, notes != nullptr ? 0 : line / 2);
+    if (auto* sign = findChild<QLabel*>(IconLabel)) {
+        sign->setContentsMargins(0, 0, 0, line / 2);
+        layout()->invalidate();
+    }
 }
 
 /// Without an icon the text begins where the margin ends.

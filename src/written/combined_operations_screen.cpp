@@ -41,7 +41,7 @@ ui::TwipRect commandPlace(int position)
 }
 
 constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
-constexpr ui::look::Font ScratchFont{Family::CourierNew, 18};
+constexpr ui::look::Font ScratchFont{Family::CourierNew, 16, true};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 26, true};
 constexpr ui::look::Font LabelFont{Family::Andika, 18, true};
 

@@ -77,6 +77,12 @@ int LongDivision::rightFigures() const
     return static_cast<int>(std::max(QString::number(Divisor()).size(), quotient));
 }
 
+int LongDivision::workLines() const
+{
+    const int figures = m_settings.CifrasDividendo.value() + m_settings.DecimalesCociente.value();
+    return 1 + 2 * figures + 1;
+}
+
 QString LongDivision::operationText() const
 {
     return u"%1 ÷ %2"_s.arg(Dividendo()).arg(Divisor());

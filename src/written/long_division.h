@@ -40,6 +40,9 @@ public:
 
     /// How many characters the divisor or a quotient may have, whichever is longer.
     int rightFigures() const;
+    /// How many lines the work may take: the dividend, a product and a remainder for each figure
+    /// that the quotient may have, and one to spare.
+    int workLines() const;
 
     /// "84 ÷ 7".
     QString operationText() const;

@@ -89,8 +89,8 @@ void FrmMultidivi::makeBoxes()
         centred(AnswerTop + AnswerHeight + TrayMargin / 2, VerdictWidth, 640), u"Comprobación"_s);
     TBMensajes->setJudged({Text3.begin(), Text3.end()});
     // Nothing is counted here, and the line stays as it is: meant.
-    displayBox(u"TbResultados"_s, {Margin, CountersTop, FullWidth, CountersHeight},
-        ui::look::Counters, u"Ejercicios y errores"_s, u"Ejercicios: 0; Errores: 0"_s);
+    countersBox(u"TbResultados"_s, {Margin, CountersTop, FullWidth, CountersHeight},
+        u"Ejercicios: 0; Errores: 0"_s);
 }
 
 void FrmMultidivi::Form_Load()

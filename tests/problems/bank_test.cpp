@@ -417,6 +417,17 @@ private slots:
         QCOMPARE(contents(u"Problemas3.dat"_s), QByteArray("antes\r\n"));
     }
 
+    void aFolderInPlaceOfTheBackupKeepsTheBank()
+    {
+        write(u"Problemas3.dat"_s, "antes\r\n");
+        QVERIFY(QDir(m_folder->path()).mkdir(u"Problemas3.bak"_s));
+        QCOMPARE(savingFails({u"a"_s}),
+            u"No se puede guardar «%1».\nEl archivo está protegido contra escritura.\n"
+            "El banco de problemas anterior sigue como estaba."_s.arg(
+                QDir::toNativeSeparators(path(u"Problemas3.bak"_s))));
+        QCOMPARE(contents(u"Problemas3.dat"_s), QByteArray("antes\r\n"));
+    }
+
     void aKillAtAnyMomentLeavesAWholeBank()
     {
         GuardarBanco(m_folder->path(), manyLines(0));

@@ -1,0 +1,107 @@
+#include "ui/display_event.h"
+
+#include <cstring>
+
+namespace ui {
+
+namespace {
+
+using Kind = DisplayEvent::Kind;
+
+template <typename Number> Number numberAt(const void* message, std::size_t offset)
+{
+    Number number = 0;
+    std::memcpy(&number, static_cast<const char*>(message) + offset, sizeof number);
+    return number;
+}
+
+// --- X11
+
+/// A window manager's request to take the focus or to close: of all messages to a window it
+/// alone says nothing after what it wants and the time.
+bool isRequest(const void* message)
+{
+    const auto word = [&](std::size_t index) {
+        return numberAt<quint32>(message, 12 + 4 * index);
+    };
+    return word(1) != 0 && word(2) == 0 && word(3) == 0 && word(4) == 0;
+}
+
+/// By the X11 protocol: the window stands at another place in each kind of event.
+DisplayEvent readX11(const void* message)
+{
+    constexpr quint8 KeyPress = 2;
+    constexpr quint8 ButtonPress = 4;
+    constexpr quint8 FocusIn = 9;
+    constexpr quint8 FocusOut = 10;
+    constexpr quint8 Message = 33;
+    constexpr quint8 OfAnExtension = 35;
+    switch (numberAt<quint8>(message, 0) & 0x7F) {
+    case KeyPress:
+    case ButtonPress:
+        return {Kind::Press, numberAt<quint32>(message, 12)};
+    case FocusIn:
+        return {Kind::Activation, numberAt<quint32>(message, 4)};
+    case FocusOut:
+        return {Kind::Deactivation, numberAt<quint32>(message, 4)};
+    case Message:
+        if (isRequest(message))
+            return {Kind::Activation, numberAt<quint32>(message, 4)};
+        break;
+    case OfAnExtension: // the mouse's buttons have the same number in theirs
+        if (numberAt<quint16>(message, 8) == ButtonPress)
+            return {Kind::Press, numberAt<quint32>(message, 24)};
+        break;
+    default:
+        break;
+    }
+    return {};
+}
+
+// --- Windows
+
+/// A blocked window gets no press, only word of the pointer's place: "nowhere to press", and
+/// which button was pressed there.
+bool isPressOnDisabled(quint64 place)
+{
+    constexpr quint16 Nowhere = 0xFFFE;
+    constexpr quint16 LeftButton = 0x0201;
+    constexpr quint16 RightButton = 0x0204;
+    constexpr quint16 MiddleButton = 0x0207;
+    const auto button = static_cast<quint16>(place >> 16);
+    return static_cast<quint16>(place) == Nowhere
+        && (button == LeftButton || button == RightButton || button == MiddleButton);
+}
+
+/// The window, the message's number and its two parameters, 8 bytes each.
+DisplayEvent readWindows(const void* message)
+{
+    constexpr quint32 Activate = 0x0006;
+    constexpr quint32 SetCursor = 0x0020;
+    const auto window = numberAt<quint64>(message, 0);
+    switch (numberAt<quint32>(message, 8)) {
+    case Activate:
+        return {numberAt<quint16>(message, 16) != 0 ? Kind::Activation : Kind::Deactivation,
+            static_cast<quintptr>(window)};
+    case SetCursor:
+        if (isPressOnDisabled(numberAt<quint64>(message, 24)))
+            return {Kind::Press, static_cast<quintptr>(window)};
+        break;
+    default:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+DisplayEvent readDisplayEvent(const QByteArray& type, const void* message)
+{
+    if (type == "xcb_generic_event_t")
+        return readX11(message);
+    if (type == "windows_generic_MSG")
+        return readWindows(message);
+    return {};
+}
+
+} // namespace ui
