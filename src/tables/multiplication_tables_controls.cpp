@@ -82,13 +82,13 @@ void Form2::makeMenu()
 
 void Form2::makeTables()
 {
-    constexpr ui::TwipRect Rows{540, 640, 5320, 3100};
+    constexpr ui::TwipRect Rows{900, 640, 4600, 3100};
     constexpr double Half = Rows.width / 2;
     m_poster = add(new Poster(canvas()), {}, Poster::around(Rows));
-    TbTabla1 = add(new PosterHalf(canvas()), u"TbTabla1"_s,
+    TbTabla1 = add(new PosterHalf(PosterHalf::Side::Left, canvas()), u"TbTabla1"_s,
         ui::TwipRect{Rows.left, Rows.top, Half, Rows.height}, TableFont);
     TbTabla1->setAccessibleName(u"Primera mitad de la tabla"_s);
-    TbTabla2 = add(new PosterHalf(canvas()), u"TbTabla2"_s,
+    TbTabla2 = add(new PosterHalf(PosterHalf::Side::Right, canvas()), u"TbTabla2"_s,
         ui::TwipRect{Rows.left + Half, Rows.top, Half, Rows.height}, TableFont);
     TbTabla2->setAccessibleName(u"Segunda mitad de la tabla"_s);
 }
