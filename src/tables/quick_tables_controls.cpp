@@ -17,6 +17,7 @@ namespace tables {
 
 namespace {
 
+// Twips.
 constexpr double Width = 5880;
 constexpr double Height = 6600;
 
