@@ -66,7 +66,11 @@ active() { # the window manager's word for a window that is gone is worth nothin
   fi
 }
 is_active() { [ "$(active)" = "$1" ]; }
-is_other() { [ "$(active)" != none ] && ! is_active "$1"; }
+is_other() {
+  local now
+  now=$(active) # once: it may be gone the next moment
+  [ "$now" != none ] && [ "$now" != "$1" ]
+}
 is_painted() { # a window of one colour or two is not there yet
   local colours
   colours=$(import -window "$(active)" -format %k info: 2>/dev/null) && [ "${colours:-0}" -ge 8 ]
