@@ -151,8 +151,8 @@ open_activities() {
   done
 }
 
-type_keys() { # as fast as fingers: Wine looks at Shift and AltGr when it gets to a key
-  xdotool key --delay 40 "$@"
+type_keys() { # as fast as fingers: Wine mixes up Shift and AltGr of keys that come faster than read
+  xdotool key --delay 200 "$@"
 }
 
 # With a Spanish keyboard: brackets, braces and the euro are typed with AltGr. Wine makes no
