@@ -33,7 +33,10 @@ mkdir -p "$pictures"
 drive=$WINEPREFIX/drive_c
 installed="$drive/Program Files/Pizarrin"
 shared=$drive/ProgramData/Pizarrin/Recursos
-statement='Con [2_9] cajas de 2,5 € y 3 más, ¿cuántos?'
+statement='A 2,5 € la piña, [2_9] piñas, ¿suman?'
+statement_keys='Shift+a space 2 comma 5 space ISO_Level3_Shift+e space l a space p i ntilde a comma space
+  ISO_Level3_Shift+8 2 Shift+minus 9 ISO_Level3_Shift+9 space p i ntilde a s comma space
+  Shift+21 s u m a n Shift+apostrophe' # 21 is the key of the two exclamation marks
 shortcut="$drive/ProgramData/Microsoft/Windows/Start Menu/Programs/Pizarrin.lnk"
 
 fail() {
@@ -63,7 +66,11 @@ active() { # the window manager's word for a window that is gone is worth nothin
   fi
 }
 is_active() { [ "$(active)" = "$1" ]; }
-is_other() { [ "$(active)" != none ] && ! is_active "$1"; }
+is_other() {
+  local now
+  now=$(active) # once: it may be gone the next moment
+  [ "$now" != none ] && [ "$now" != "$1" ]
+}
 is_painted() { # a window of one colour or two is not there yet
   local colours
   colours=$(import -window "$(active)" -format %k info: 2>/dev/null) && [ "${colours:-0}" -ge 8 ]
@@ -91,11 +98,10 @@ press() { # keys...
 
 close_down_to() { # window
   local over
-  while ! is_active "$1"; do
-    over=$(active)
-    [ "$over" = none ] && continue
-    xdotool key alt+F4
-    until_so "a window does not close" eval "! is_active $over"
+  until_so "no window comes up" is_other none
+  while over=$(active) && [ "$over" != "$1" ]; do
+    [ "$over" = none ] || xdotool key alt+F4
+    until_so "nothing comes up behind a window that closes" is_other "$over"
   done
 }
 
@@ -145,21 +151,23 @@ open_activities() {
   done
 }
 
-# With a Spanish keyboard: brackets, braces and the euro are typed with AltGr.
+type_keys() { # as fast as fingers: Wine mixes up Shift and AltGr of keys that come faster than read
+  xdotool key --delay 200 "$@"
+}
+
+# With a Spanish keyboard: brackets, braces and the euro are typed with AltGr. Wine makes no
+# letter with an accent of two keys.
 save_a_problem() { # name of the picture
   press alt+p
   press alt+o g
   xdotool key alt+e
-  xdotool type --delay 20 "$statement"
-  xdotool key Tab Tab Tab
-  xdotool type --delay 20 '{&1*'
-  xdotool key Num_Lock KP_2 Num_Lock
-  xdotool type --delay 20 '}'
-  xdotool key Tab Tab Tab
-  xdotool type --delay 20 años
+  # shellcheck disable=SC2086 # a key a word
+  type_keys $statement_keys Tab Tab Tab
+  type_keys ISO_Level3_Shift+7 Shift+6 1 Shift+plus Num_Lock KP_2 Num_Lock ISO_Level3_Shift+0
+  type_keys Tab Tab Tab a ntilde o s
   picture "$1"
   xdotool key alt+g
-  xdotool key shift+Tab shift+Tab shift+Tab space # from the new problem to "Aceptar"
+  press shift+Tab shift+Tab shift+Tab space # from the new problem to "Aceptar", which closes
   close_down_to "$menu"
 }
 

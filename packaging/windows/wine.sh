@@ -7,6 +7,10 @@ prefix=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/build/windows/wine
 export WINEPREFIX=${WINEPREFIX:-$prefix} LC_ALL=C.UTF-8
 # No offers to fetch what only other programs need, and no entries in this desktop's menus.
 export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
+# Wine keeps the toolkit's settings from programs, unless they are said to be meant for them.
+for name in "${!QT_@}"; do
+  export "WINE$name=${!name}"
+done
 
 if [ ! -e "$WINEPREFIX/system.reg" ]; then
   mkdir -p "$WINEPREFIX"

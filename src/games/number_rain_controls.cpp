@@ -88,7 +88,7 @@ void Form5::makeScoreboard()
 {
     constexpr double LivesLeft = Width - Margin - LivesWidth;
     constexpr double HeartsWidth = RainState::FullLives * HeartPitch;
-    constexpr double StarsWidth = NumberRain::HitsToPass * StarPitch;
+    constexpr double StarsWidth = RainScore::HitsToPass * StarPitch;
     Text2[0] = displayBox(u"Text2(0)"_s, {Margin, ScoreTop, PointsWidth, ScoreHeight}, ScoreFont,
         u"Puntos"_s, u"100 puntos"_s);
     Text2[1] = displayBox(u"Text2(1)"_s, {LivesLeft, ScoreTop, LivesWidth, ScoreHeight},
@@ -98,7 +98,7 @@ void Form5::makeScoreboard()
         box->setAlignment(Qt::AlignCenter);
         box->setPalette(textOn(ui::look::displayed(), Panel, Amber));
     }
-    m_stars = add(new TokenRow(TokenRow::Shape::Star, NumberRain::HitsToPass, canvas()),
+    m_stars = add(new TokenRow(TokenRow::Shape::Star, RainScore::HitsToPass, canvas()),
         u"rainHits"_s, {(Width - StarsWidth) / 2, ScoreTop, StarsWidth, ScoreHeight});
     m_hearts = add(new TokenRow(TokenRow::Shape::Heart, RainState::FullLives, canvas()),
         u"rainLives"_s, {LivesLeft - HeartsWidth - 150, ScoreTop, HeartsWidth, ScoreHeight});
@@ -113,7 +113,6 @@ void Form5::makeStart()
 {
     PbFoco = add(new QWidget(canvas()), u"PbFoco"_s, {-300, 0, 150, 150});
     PbFoco->setFocusPolicy(Qt::ClickFocus);
-    PbFoco->setAccessibleName(u"Cielo"_s);
     CbEmpezar = button(u"CbEmpezar"_s, u"&EMPEZAR"_s,
         {(Width - StartWidth) / 2, (Height - StartHeight) / 2, StartWidth, StartHeight}, Amber,
         StartFont);

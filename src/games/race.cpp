@@ -187,4 +187,9 @@ QString Race::lostText() const
     return u"tu adversario ha ganado la carrera. Ha tardado %1 segundos."_s.arg(Segundos.value());
 }
 
+QString Race::overText()
+{
+    return u"La carrera ha terminado. Pulsa en uno de los botones inferiores."_s;
+}
+
 } // namespace games

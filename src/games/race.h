@@ -71,6 +71,7 @@ public:
 
     QString wonText() const;
     QString lostText() const;
+    static QString overText(); ///< while nothing can be answered any more
 
 private:
     bool isUnderWay() const { return m_prepared && !CarreraTerminada; }

@@ -15,7 +15,8 @@ namespace games {
 
 namespace {
 
-constexpr double LargestPicture = 540;
+// Twips.
+constexpr double LargestPicture = 540; // wide; a wider one is shown so wide
 
 constexpr double Margin = 240;
 constexpr double LabelTop = 90;

@@ -83,7 +83,13 @@ void FrmCarrera::NuevaOperacion()
     TBOperacion->setText(m_race.operation());
     TBResultado->clear();
     TBResultado->setFocus();
-    sayExercise();
+    if (!m_race.isOver())
+        sayExercise();
+}
+
+QString FrmCarrera::spokenExercise() const
+{
+    return m_race.isOver() ? Race::overText() : m_race.spokenOperation();
 }
 
 ui::KeyResult FrmCarrera::TBResultado_KeyPress(QChar character)
@@ -110,8 +116,7 @@ ui::KeyResult FrmCarrera::TBResultado_KeyPress(QChar character)
 ui::KeyResult FrmCarrera::Text2_KeyPress(int Index, QChar character)
 {
     if (m_race.isOver()) {
-        ui::MessageBox::show(
-            *this, u"La carrera ha terminado. Pulsa en uno de los botones inferiores."_s);
+        ui::MessageBox::show(*this, Race::overText());
         return ui::KeyResult::Swallow;
     }
     if (Index != LastOfRow || character != QChar(ui::key::Enter))

@@ -19,7 +19,7 @@ public:
 
     explicit FrmCarrera(ui::Screens& screens);
 
-    QString spokenExercise() const override { return m_race.spokenOperation(); }
+    QString spokenExercise() const override;
 
 protected:
     void Form_Load() override;

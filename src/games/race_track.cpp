@@ -11,6 +11,7 @@ namespace games {
 
 namespace {
 
+// Twips.
 constexpr double Kerb = 180;
 constexpr double KerbStone = 300;
 constexpr double Mark = 150; // diameter of a mark on the kerb

@@ -15,6 +15,7 @@ namespace problems {
 
 namespace {
 
+// Twips.
 constexpr double Width = 8280;
 constexpr double Margin = 240;
 constexpr double Gap = 240;

@@ -88,7 +88,7 @@ void Slip::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(ui::look::Paper));
+    painter.setBrush(ui::look::paper());
     painter.drawRoundedRect(rect(), radius, radius);
 }
 

@@ -76,7 +76,7 @@ void Poster::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF paper =
         QRectF(rect()).adjusted(RodOverhang * f, Rod * f / 2, -RodOverhang * f, -Rod * f / 2);
-    painter.setPen(QPen(QColor(ui::look::Edge), f));
+    painter.setPen(QPen(QColor(ui::look::Edge), ui::look::thick(1) * f));
     painter.setBrush(QColor(ui::look::Card));
     painter.drawRect(paper);
 

@@ -146,7 +146,7 @@ void Form8::showOperation()
 
 QString Form8::spokenExercise() const
 {
-    return m_model.isRunning() ? m_model.spokenOperation() : QString();
+    return m_model.isRunning() ? m_model.spokenOperation() : TBInstruc->text();
 }
 
 void Form8::showTime()

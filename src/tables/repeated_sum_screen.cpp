@@ -14,6 +14,7 @@ namespace tables {
 
 namespace {
 
+// Twips.
 constexpr double Width = 4680;
 constexpr double Height = 7590;
 

@@ -5,7 +5,7 @@ namespace ui {
 /// Switches the desktop's own settings off. Call before the application object is made.
 void ignoreDesktopSettings();
 
-/// Gives the application the program's style, palette and font, and its way with held keys
+/// Gives the application the program's style, palette, font and icon, and its way with held keys
 /// and with windows that are blocked.
 void setUpApplication();
 

@@ -42,10 +42,10 @@ bool isEnabled(const QStyleOption& option)
 /// Sets edge and fill of an indicator; returns the square on whose sides its edge runs.
 QRectF prepare(QPainter& painter, const QStyleOption& option, double factor)
 {
-    const double width = EdgeWidth * factor;
+    const double width = look::thick(EdgeWidth) * factor;
     painter.setPen(QPen(QColor(isEnabled(option) ? look::Quiet : look::Edge), width));
     const bool down = option.state & QStyle::State_Sunken;
-    painter.setBrush(QColor(isEnabled(option) && !down ? look::Card : look::Paper));
+    painter.setBrush(isEnabled(option) && !down ? QColor(look::Card) : look::paper());
     const double side = std::min(option.rect.width(), option.rect.height()) - width;
     QRectF square(0, 0, side, side);
     square.moveCenter(QRectF(option.rect).center());

@@ -31,7 +31,8 @@ void drawDisc(QPainter& painter, QRgb colour)
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(colour));
     painter.drawEllipse(QRectF(0, 0, 1, 1));
-    painter.setPen(QPen(QColor(look::Card), 0.11, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(QColor(look::Card), look::thick(0.11), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 QPolygonF star()
@@ -85,7 +86,8 @@ void drawStar(QPainter& painter, const QRectF& square)
 {
     inUnitSquare(painter, square, [&] {
         const QColor gold(look::Gold);
-        painter.setPen(QPen(gold.darker(150), 0.05, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(
+            gold.darker(150), look::thick(0.05), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.setBrush(gold);
         painter.drawPolygon(star());
     });
@@ -93,7 +95,7 @@ void drawStar(QPainter& painter, const QRectF& square)
 
 void drawHere(QPainter& painter, const QRectF& square, double factor)
 {
-    const double line = std::max(1.0, std::round(HereUnderline * factor));
+    const double line = std::max(1.0, std::round(look::thick(HereUnderline) * factor));
     painter.fillRect(square, QColor(look::Here));
     painter.fillRect(
         QRectF(square.left(), square.bottom() - line, square.width(), line), QColor(look::Focus));

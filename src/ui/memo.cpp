@@ -64,7 +64,7 @@ void Memo::paintEvent(QPaintEvent* event)
     if (!hasFocus() || isReadOnly() || textCursor().hasSelection())
         return;
     QRect caret = cursorRect();
-    caret.setWidth(std::max(1, qRound(look::CaretWidth * factor())));
+    caret.setWidth(std::max(1, qRound(look::thick(look::CaretWidth) * factor())));
     QPainter(viewport()).fillRect(caret, QColor(look::Focus));
 }
 

@@ -51,7 +51,6 @@ QMenuBar* MenuFactory::bar()
 {
     if (m_bar == nullptr) {
         m_bar = new QMenuBar(m_window);
-        m_bar->setNativeMenuBar(false);
         m_bar->setFont(font());
         // The Alt key alone leads there too, but not beside a screen reader.
         auto* turnTo = new QShortcut(Qt::Key_F10, m_window);

@@ -153,7 +153,8 @@ int Style::pixelMetric(
         return qRound(plain * factorOf(widget));
     case PM_TextCursorWidth:
         // The boxes of screens paint their own caret, beside which their text must not give way.
-        return qRound((standsInBox(widget) ? look::CaretWidth : plain) * factorOf(widget));
+        return qRound(
+            (standsInBox(widget) ? look::thick(look::CaretWidth) : plain) * factorOf(widget));
     default:
         return plain;
     }

@@ -6,13 +6,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr ui::look::Font EntryFont{ui::look::Family::Andika, 20};
+
 class Window : public ui::ScaledWindow {
 public:
     Window()
         : ScaledWindow(4500, 3000)
     {
         menu(u"MnuOpc"_s, u"&Opciones"_s);
-        entry = entryBox(u"Entry"_s, {300, 450, 1500, 600}, {ui::look::Family::Andika, 20}, {});
+        entry = entryBox(u"Entry"_s, {300, 450, 1500, 600}, EntryFont, {});
     }
 
     using ScaledWindow::canvas;
@@ -70,7 +72,8 @@ private:
     {
         QCOMPARE(
             window->entry->geometry(), ui::toPixels({300, 450, 1500, 600}, window->factor()));
-        QCOMPARE(window->entry->font().pixelSize(), static_cast<int>(20 * window->factor()));
+        QCOMPARE(window->entry->font().pixelSize(),
+            ui::look::scaled(EntryFont, window->factor()).pixelSize());
     }
 
     std::unique_ptr<Window> window;
