@@ -1,6 +1,6 @@
 #!/bin/sh
 # Turns the car drawings in art/cars into the JPEG pictures in Recursos, and the icon into the
-# PNG file that the program's windows carry.
+# pixels that the program's windows carry.
 #
 # Needs rsvg-convert (Debian: librsvg2-bin) and ImageMagick (Debian: imagemagick):
 #   apt-get install librsvg2-bin imagemagick
@@ -41,8 +41,6 @@ render 08_alfa_romeo.svg "08 _ Alfa romeo.jpg"
 render 09_coche_blanco_tunning.svg "09 _ Blancotunning.jpg"
 render 10_formula_1.svg "10 _ Formula 1.jpg"
 
-rsvg-convert --width=64 --output="$here/pizarrin.png" "$here/pizarrin.svg" || die "cannot draw the icon"
-
 sizes=
 for size in 16 20 24 32 40 48 64 256; do # from small lists to the largest tiles
     rsvg-convert --width="$size" --output="$scratch/icon-$size.png" "$here/pizarrin.svg" || die "cannot draw the icon"
@@ -50,6 +48,7 @@ for size in 16 20 24 32 40 48 64 256; do # from small lists to the largest tiles
 done
 # shellcheck disable=SC2086 # a list of files without blanks
 "$magick" $sizes "$here/pizarrin.ico" || die "cannot write the icon for Windows"
+"$magick" "$scratch/icon-64.png" -depth 8 "RGBA:$here/pizarrin.rgba" || die "cannot write the icon"
 
 # The installer's maker reads neither compressed nor transparent pictures.
 rsvg-convert --output="$scratch/installer.png" "$here/installer.svg" || die "cannot draw the installer's side"

@@ -9,7 +9,7 @@
 #include "games/race_screen.h"
 #include "games/rain_field.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QAnimationDriver>
 #include <QApplication>
@@ -233,7 +233,7 @@ void measureMotion(
         screen.width(), screen.height(), 100 * cpu / seconds);
 }
 
-void measureRain(ui::Screens& screens, double factor, int seconds)
+void measureRain(ui::ScreenSet& screens, double factor, int seconds)
 {
     screens.add<Downpour>();
     screens.show(u"Downpour"_s);
@@ -243,7 +243,7 @@ void measureRain(ui::Screens& screens, double factor, int seconds)
 }
 
 /// The quickest rival on his way, once the first product is answered.
-void measureRace(ui::Screens& screens, double factor, int seconds)
+void measureRace(ui::ScreenSet& screens, double factor, int seconds)
 {
     screens.add<FrmCarrera>();
     screens.add<DlgCarrera>();
@@ -268,7 +268,7 @@ void measureDrawing(int seconds)
     for (const Display& display : Displays) {
         core::SeededRandom random;
         const core::SystemClock clock;
-        ui::Screens screens(random, clock, QString::fromUtf8(PIZARRIN_RESOURCES));
+        ui::ScreenSet screens(random, clock, QString::fromUtf8(PIZARRIN_RESOURCES));
         std::printf("as on a display of %s:\n", display.name);
         measureRain(screens, display.rain, seconds);
         measureRace(screens, display.race, seconds);
@@ -279,9 +279,9 @@ void measureDrawing(int seconds)
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     const QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     measureGames();
     const int seconds = argc > 1 ? std::atoi(argv[1]) : 10;
     if (seconds > 0)

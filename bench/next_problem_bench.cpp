@@ -6,7 +6,7 @@
 #include "problems/bank.h"
 #include "problems/problem_session_screen.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -55,14 +55,14 @@ void measure(ui::Screens& screens, const char* what, int mode, problems::Operati
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     const QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     const QTemporaryDir folder;
     problems::GuardarBanco(folder.path(), largestBank());
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, folder.path());
+    ui::ScreenSet screens(random, clock, folder.path());
     screens.add<problems::FormProblemas>();
     screens.show(problems::FormProblemas::screenName());
 

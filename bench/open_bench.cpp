@@ -4,7 +4,7 @@
 #include "core/random.h"
 #include "ui/application.h"
 #include "ui/screen.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -83,12 +83,12 @@ void measure(ui::Screens& screens, QPushButton& button, const QString& screen, P
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, QString::fromUtf8(PIZARRIN_RESOURCES));
+    ui::ScreenSet screens(random, clock, QString::fromUtf8(PIZARRIN_RESOURCES));
     addScreens(screens);
     screens.show(u"Form1"_s);
     settle();

@@ -8,7 +8,7 @@
 #include "problems/expression.h"
 #include "problems/problem_template.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -79,7 +79,7 @@ void measureInstantiation(const QString& folder, core::RandomSource& random)
         static_cast<double>(lines.size()) / all * 1000);
 }
 
-void measureOpening(ui::Screens& screens)
+void measureOpening(ui::ScreenSet& screens)
 {
     const QString name = problems::DLGProblemas::screenName();
     const double opening = milliseconds([&] {
@@ -96,13 +96,13 @@ void measureOpening(ui::Screens& screens)
 
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     const QTemporaryDir folder;
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, folder.path());
+    ui::ScreenSet screens(random, clock, folder.path());
     screens.add<problems::DLGProblemas>();
 
     writeLargestBank(folder.path());

@@ -48,12 +48,6 @@ def command(build, program):
     return ["wine", for_windows] if for_windows.exists() else [build / "bin" / program]
 
 
-def processor_time(pid):
-    """Seconds that all threads of a process have run."""
-    files = pathlib.Path(f"/proc/{pid}/task").glob("*/schedstat")
-    return sum(int(file.read_text().split()[0]) for file in files) / 1e9
-
-
 def measure(program, directory, environment):
     begin = time.perf_counter()
     process = subprocess.Popen(program, env=environment, stderr=subprocess.DEVNULL)
@@ -64,9 +58,10 @@ def measure(program, directory, environment):
     elapsed = time.perf_counter() - begin
     time.sleep(0.5)
     memory = pss(process.pid)
-    processor = processor_time(process.pid)
     process.send_signal(signal.SIGKILL)
-    process.wait()
+    _, _, usage = os.wait4(process.pid, 0)  # of all its threads, those that have ended too
+    process.returncode = -signal.SIGKILL
+    processor = usage.ru_utime + usage.ru_stime
     while painted(directory):
         time.sleep(0.01)
     return elapsed, memory, processor

@@ -41,7 +41,7 @@ LaptopDisplay::LaptopDisplay()
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + m_description.fileName().toUtf8());
 }
 
-QPixmap onDisplay(QWidget& window, const QPixmap& box)
+QPixmap onDisplay(QWidget& window, QWidget* box)
 {
     QPixmap display(window.screen()->size());
     display.fill(QColor(Desktop));
@@ -49,10 +49,11 @@ QPixmap onDisplay(QWidget& window, const QPixmap& box)
     // Where a frame takes room from the window, the window manager has moved it down.
     const QPoint place(window.x(), std::max(window.y(), TitleHeight));
     drawFramed(painter, window.grab(), place, window.windowTitle());
-    if (!box.isNull()) {
-        QRect over = box.rect();
+    if (box != nullptr) {
+        QRect over = box->rect();
         over.moveCenter(QRect(place, window.size()).center());
-        drawFramed(painter, box, over.topLeft(), {});
+        over.moveTop(std::max(over.top(), TitleHeight));
+        drawFramed(painter, box->grab(), over.topLeft(), box->windowTitle());
     }
     return display;
 }

@@ -19,6 +19,6 @@ private:
 
 /// The whole display with a window where it has come up, in a plain frame with its title, and
 /// over it a box, where there is one.
-QPixmap onDisplay(QWidget& window, const QPixmap& box);
+QPixmap onDisplay(QWidget& window, QWidget* box);
 
 } // namespace gallery

@@ -46,15 +46,18 @@ void Stage::photographScreen(ui::Screen& other)
 {
     zoom(other);
     QTest::qWait(20);
-    keep(other.grab());
+    keep(&other);
 }
 
-void Stage::keep(const QPixmap& over)
+void Stage::keep(QWidget* over)
 {
-    if (!m_factor)
+    pictured = m_screen->factor();
+    if (m_factor)
+        picture = over == nullptr ? m_screen->grab() : over->grab();
+    else if (m_screen->isVisible())
         picture = onDisplay(*m_screen, over);
     else
-        picture = over.isNull() ? m_screen->grab() : over;
+        picture = onDisplay(*over, nullptr);
 }
 
 void Stage::click(const QString& button) const
@@ -103,12 +106,12 @@ void Stage::photographBox(
     QTimer camera;
     QObject::connect(&camera, &QTimer::timeout, &camera, [&] {
         auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible())
+        if (box == nullptr || !box->isVisible() || !box->isActiveWindow())
             return;
         camera.stop();
         if (auto* edit = box->findChild<QLineEdit*>())
             QTest::keyClicks(edit, typed);
-        keep(box->grab()); // the answer may close the screen
+        keep(box); // the answer may close the screen
         for (QPushButton* button : box->findChildren<QPushButton*>()) {
             if (button->text() == answer)
                 button->click();
@@ -129,16 +132,22 @@ Gallery::Gallery(QString folder, const QString& resources, QStringList names)
 
 void Gallery::add(const QString& name, const QString& screen, const State& state)
 {
-    if (m_names.isEmpty() || m_names.contains(name))
+    const auto isWanted = [this](const QString& file) {
+        return m_names.isEmpty() || m_names.contains(file);
+    };
+    if (m_names.contains(name))
         save(name, screen, state, 1);
-    if (!m_names.isEmpty())
-        return;
-    save(name + u"@2"_s, screen, state, 2);
-    save(name + u"-1366x768"_s, screen, state, {});
+    for (const int factor : {1, 2}) {
+        const QString file = u"%1@%2"_s.arg(name).arg(factor);
+        if (isWanted(file))
+            save(file, screen, state, factor);
+    }
+    if (m_names.isEmpty())
+        save(name + u"-1366x768@%1"_s, screen, state, {});
 }
 
-void Gallery::save(
-    const QString& file, const QString& screen, const State& state, std::optional<double> factor)
+void Gallery::save(const QString& file, const QString& screen, const State& state,
+    std::optional<double> factor) const
 {
     Stage stage(screen, m_resources.path(), factor);
     if (state)
@@ -146,7 +155,8 @@ void Gallery::save(
     QTest::qWait(20); // fonts and animations come to rest
     if (stage.picture.isNull())
         stage.keep();
-    stage.picture.save(u"%1/%2.png"_s.arg(m_folder, file));
+    const QString name = factor ? file : file.arg(stage.pictured);
+    stage.picture.save(u"%1/%2.png"_s.arg(m_folder, name));
 }
 
 } // namespace gallery

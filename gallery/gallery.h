@@ -3,7 +3,7 @@
 #include "core/clock.h"
 #include "core/random.h"
 #include "ui/screen.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QTemporaryDir>
 
@@ -21,7 +21,7 @@ public:
     Stage(const QString& screen, const QString& resources, std::optional<double> factor);
 
     ui::Screen& screen() const { return *m_screen; }
-    ui::Screens& screens() { return m_screens; }
+    ui::ScreenSet& screens() { return m_screens; }
 
     /// A control or menu item by its object name; ends the program when there is none.
     template <typename T> T& control(const QString& name) const
@@ -49,11 +49,12 @@ public:
     /// Keeps a picture of another screen, at the factor of this one.
     void photographScreen(ui::Screen& other);
 
-    /// Keeps the picture of the screen as it is now, or of what stands over it.
-    void keep(const QPixmap& over = {});
+    /// Keeps the picture of the screen as it is now, or of what stands over it: a box, or
+    /// another screen, for which this one may have hidden.
+    void keep(QWidget* over = nullptr);
 
-    /// What save() keeps instead of the screen: a box, or another screen.
-    QPixmap picture;
+    QPixmap picture; ///< what was kept
+    double pictured = 0; ///< the factor of the screen then
 
 private:
     class StandingClock final : public core::Clock {
@@ -74,7 +75,7 @@ private:
     std::optional<double> m_factor;
     core::SeededRandom m_random;
     StandingClock m_clock;
-    ui::Screens m_screens;
+    ui::ScreenSet m_screens;
     ui::Screen* m_screen;
 };
 
@@ -84,16 +85,18 @@ public:
     using State = std::function<void(Stage&)>;
 
     /// resources: the folder "Recursos" of the source tree; a copy of it is used. With names,
-    /// only those pictures are made, at factor 1 alone.
+    /// only those pictures are made.
     Gallery(QString folder, const QString& resources, QStringList names);
 
-    /// Saves name.png at factor 1, name@2.png at factor 2, and name-1366x768.png as it is seen
-    /// on a school laptop, the display around it.
+    /// Saves the screen at factors 1 and 2, and as it is seen on a school laptop, the display
+    /// around it; the names of the files tell the factors: name@1.png, name@2.png,
+    /// name-1366x768@1.8.png. A picture that is asked for as name alone is made at factor 1.
     void add(const QString& name, const QString& screen, const State& state = {});
 
 private:
+    /// Where there is no factor, %1 in the name stands for the one found.
     void save(const QString& file, const QString& screen, const State& state,
-        std::optional<double> factor);
+        std::optional<double> factor) const;
 
     QString m_folder;
     QStringList m_names;

@@ -29,9 +29,9 @@ public:
 int main(int argc, char* argv[])
 {
     gallery::LaptopDisplay display;
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     QApplication::setStyle(new StillStyle);
 
     const QStringList arguments = QApplication::arguments();

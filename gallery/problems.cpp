@@ -4,6 +4,9 @@
 #include "problems/problem_session_screen.h"
 
 #include <QAbstractButton>
+#include <QTextEdit>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -18,23 +21,45 @@ void goOn(gallery::Stage& stage)
         stage.click(u"Command2(0)"_s);
 }
 
-void choose(gallery::Stage& stage, const QString& name)
+/// Goes on to the longest of many statements.
+void findLongest(gallery::Stage& stage)
 {
-    stage.control<QAbstractButton>(name).click();
+    constexpr int Tries = 200;
+    const auto& statement = stage.control<QTextEdit>(u"TBEnunciado"_s);
+    const auto length = [&] { return statement.toPlainText().size(); };
+    qsizetype longest = length();
+    const auto goOnTo = [&](const auto& isReached) {
+        for (int i = 0; i < Tries && !isReached(); ++i)
+            stage.click(u"Command2(0)"_s);
+    };
+    goOnTo([&] {
+        longest = std::max(longest, length());
+        return false;
+    });
+    goOnTo([&] { return length() == longest; });
+}
+
+/// The selection, opened over a problem, with these options chosen.
+void photographSelection(gallery::Stage& stage, const QStringList& chosen)
+{
+    stage.pick(u"MnuOpcSel"_s);
+    ui::Screen& dialog = *stage.screens().loaded(u"DLGSelProb"_s);
+    for (const QString& name : chosen)
+        dialog.findChild<QAbstractButton*>(name)->click();
+    stage.photographScreen(dialog);
 }
 
 void addSelection(gallery::Gallery& gallery)
 {
-    gallery.add(u"problemas-seleccion"_s, u"DLGSelProb"_s);
-    gallery.add(u"problemas-seleccion-todas"_s, u"DLGSelProb"_s, [](gallery::Stage& stage) {
-        for (const QString& name : {u"Option1(2)"_s, u"Check1(0)"_s, u"Check1(2)"_s})
-            choose(stage, name);
-    });
-    gallery.add(u"problemas-seleccion-ninguno"_s, u"DLGSelProb"_s, [](gallery::Stage& stage) {
-        for (const QString& name :
-            {u"Option1(2)"_s, u"Check1(0)"_s, u"Check1(1)"_s, u"Check1(2)"_s, u"Check1(3)"_s})
-            choose(stage, name);
-    });
+    const auto add = [&](const QString& name, const QStringList& chosen) {
+        gallery.add(
+            name, Form, [=](gallery::Stage& stage) { photographSelection(stage, chosen); });
+    };
+    const QString all = u"Option1(2)"_s;
+    add(u"problemas-seleccion"_s, {});
+    add(u"problemas-seleccion-todas"_s, {all, u"Check1(0)"_s, u"Check1(2)"_s});
+    add(u"problemas-seleccion-ninguno"_s,
+        {all, u"Check1(0)"_s, u"Check1(1)"_s, u"Check1(2)"_s, u"Check1(3)"_s});
 }
 
 } // namespace
@@ -42,6 +67,7 @@ void addSelection(gallery::Gallery& gallery)
 void gallery::addProblems(Gallery& gallery)
 {
     gallery.add(u"problemas"_s, Form, [](Stage& stage) { stage.type(Answer, u"1"_s); });
+    gallery.add(u"problemas-largo"_s, Form, findLongest);
     gallery.add(u"problemas-mal"_s, Form, [](Stage& stage) {
         stage.click(u"Command2(0)"_s);
         stage.type(Answer, u"1"_s);

@@ -12,4 +12,5 @@ quietly "configurar coverage" cmake -G Ninja -B build/coverage -S . -DCMAKE_BUIL
 quietly "compilar coverage" cmake --build build/coverage --target model_tests
 find build/coverage -name '*.gcda' -delete
 quietly "probar coverage" ctest --test-dir build/coverage --no-tests=error -j "$(nproc)" -L model
-gcovr --root . --filter 'src/' build/coverage/src
+# A header's lines may be compiled into the tests alone.
+gcovr --root . --filter 'src/' build/coverage/src build/coverage/tests

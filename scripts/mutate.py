@@ -5,15 +5,20 @@ import concurrent.futures
 import json
 import os
 import re
+import resource
 import shlex
 import subprocess
 import sys
 import tempfile
+import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-BUILD = ROOT / "build" / "mutate"
-SECONDS = 20  # beyond this a test hangs, which is noticing too
+BUILD = ROOT / "build" / "release"
+TOOLKIT = BUILD / "mutate" / "toolkit.h"  # compiled once: most of what a mutant takes
+EQUIVALENT = ROOT / "tests" / "equivalent_mutants.md"
+CHECKED = ["-DQT_FORCE_ASSERTS", "-D_GLIBCXX_ASSERTIONS"]  # else an index past the end may go unseen
+SECONDS = 20  # of the processor; beyond this a test hangs, which is noticing too
 
 SWAPS = {
     "+": ["-"], "-": ["+"], "*": ["/"], "/": ["*"], "%": ["*"],
@@ -56,21 +61,31 @@ def commands():
     return {entry["file"]: (entry["directory"], shlex.split(entry["command"])) for entry in entries}
 
 
-def compile_to(entry, source, target, folder):
+def compile_to(entry, source, target, *options):
+    """Compiles as the build does it, but for the optimising; False when it does not build."""
     directory, words = entry
-    words = list(words)
-    words[words.index("-o") + 1] = str(target)
-    words[words.index("-c") + 1] = str(source)
-    words[1:1] = ["-I", str(folder), "-w"]
-    return subprocess.run(words, cwd=directory, capture_output=True).returncode == 0
+    words = [*words[:words.index("-o")], *options, *CHECKED, "-O0", "-w", "-o", str(target), "-c", str(source)]
+    run = subprocess.run(words, cwd=directory, capture_output=True,
+                         env={**os.environ, "CCACHE_DISABLE": "1"})
+    return run.returncode == 0
+
+
+def compile_toolkit(entry):
+    TOOLKIT.parent.mkdir(exist_ok=True)
+    TOOLKIT.write_text("#include <QtCore>\n")
+    compile_to(entry, TOOLKIT, f"{TOOLKIT}.gch", "-x", "c++-header")
 
 
 def tests_of(path):
-    stem = path.stem
     folder = ROOT / "tests" / path.parent.name
-    found = [test for test in sorted(folder.glob(f"{stem}*_test.cpp")) if "screen" not in test.name]
+    listed = re.findall(r"model_test\((\w+\.cpp)\)", (folder / "CMakeLists.txt").read_text())
+    found = [folder / name for name in listed if name.startswith(path.stem)]
     # Part of a model that is tested under another name: every model test of the folder.
-    return found or [test for test in sorted(folder.glob("*_test.cpp")) if "screen" not in test.name]
+    return found or [folder / name for name in listed]
+
+
+def limit_time():
+    resource.setrlimit(resource.RLIMIT_CPU, (SECONDS, SECONDS))
 
 
 def survives(text, path, tests, compiled):
@@ -81,55 +96,67 @@ def survives(text, path, tests, compiled):
         place.parent.mkdir(parents=True)
         place.write_text(text)
         header = path.suffix == ".h"
-        sources = [path.with_suffix(".cpp")] if header else [path]
+        source = path.with_suffix(".cpp")
+        first = ["-iquote", str(folder)]  # is looked into before the build's directories
         objects = []
-        for source in sources:
-            if not source.exists():
-                continue
-            target = folder / (source.stem + ".o")
-            if not compile_to(compiled[str(source)], source if header else place, target, folder):
+        if source.exists():
+            objects = [str(folder / "mutant.o")]
+            if not compile_to(compiled[str(source)], source if header else place, objects[0],
+                              "-include", str(TOOLKIT), *first):
                 return None
-            objects.append(str(target))
         for test in tests:
             program = folder / test.stem
             unit = BUILD / "tests" / test.parent.name / "CMakeFiles" / f"{test.stem}.dir" / f"{test.name}.o"
             if header:
                 unit = folder / f"{test.stem}.test.o"
-                if not compile_to(compiled[str(test)], test, unit, folder):
+                if not compile_to(compiled[str(test)], test, unit, *first):
                     return None
             link = ["c++", "-o", str(program), str(unit), *objects, str(BUILD / "src/libpizarrin_core.a"),
                     "-lQt6Test", "-lQt6Core"]
             if subprocess.run(link, capture_output=True).returncode != 0:
                 return None
-            try:
-                run = subprocess.run([str(program)], capture_output=True, timeout=SECONDS, cwd=folder,
-                                     env={**os.environ, "LC_ALL": "C.UTF-8"})
-            except subprocess.TimeoutExpired:
-                return False
+            run = subprocess.run([str(program)], capture_output=True, cwd=folder, preexec_fn=limit_time,
+                                 env={**os.environ, "LC_ALL": "C.UTF-8"})
             if run.returncode != 0:
                 return False
         return True
 
 
+def equivalents():
+    """(file, line, change) of the rows of the list."""
+    if not EQUIVALENT.exists():
+        return set()
+    rows = re.findall(r"^\| `(.+?)` \| `(.+?)` \| `(.+?)` \|", EQUIVALENT.read_text(), re.M)
+    return set(rows)
+
+
 def main():
     path = Path(sys.argv[1]).resolve()
+    name = str(path.relative_to(ROOT))
     compiled = commands()
     tests = tests_of(path)
     if not tests:
         sys.exit(f"no model tests for {path.name}")
+    compile_toolkit(compiled[str(ROOT / "src/core/numbers.cpp")])
     text = path.read_text()
     if survives(text, path, tests, compiled) is not True:
         sys.exit(f"the tests of {path.name} do not pass unchanged")
     made = list(mutants(text))
+    lines = text.split("\n")
+    proved = equivalents()
     counts = {True: 0, False: 0, None: 0}
+    equivalent = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         outcomes = pool.map(lambda mutant: survives(mutant[2], path, tests, compiled), made)
         for (line, what, _), outcome in zip(made, outcomes):
+            if outcome and (name, lines[line - 1].strip(), what) in proved:
+                equivalent += 1
+                continue
             counts[outcome] += 1
             if outcome:
-                print(f"{path.relative_to(ROOT)}:{line}: survived: {what}", flush=True)
-    print(f"{path.relative_to(ROOT)}: {len(made) - counts[None]} mutants, {counts[False]} killed, "
-          f"{counts[True]} survived ({counts[None]} more did not compile)")
+                print(f"{name}:{line}: survived: {what}", flush=True)
+    print(f"{name}: {len(made) - counts[None]} mutants, {counts[False]} killed, {equivalent} equivalent, "
+          f"{counts[True]} survived ({counts[None]} more did not compile)", flush=True)
     return 1 if counts[True] else 0
 
 

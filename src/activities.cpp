@@ -11,7 +11,7 @@
 #include "tables/multiplication_tables_screen.h"
 #include "tables/quick_tables_screen.h"
 #include "tables/repeated_sum_screen.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 #include "written/combined_operations_screen.h"
 #include "written/digit_dialog.h"
 #include "written/long_division_screen.h"
@@ -48,7 +48,7 @@ std::vector<shell::Activity> activities()
     };
 }
 
-void addScreens(ui::Screens& screens)
+void addScreens(ui::ScreenSet& screens)
 {
     screens.add(shell::Form1::screenName(),
         [](ui::Screens& set) -> ui::Screen* { return new shell::Form1(set, activities()); });

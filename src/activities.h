@@ -5,11 +5,11 @@
 #include <vector>
 
 namespace ui {
-class Screens;
+class ScreenSet;
 }
 
 /// The one table of the activities, in the order of the menu.
 std::vector<shell::Activity> activities();
 
 /// Makes every screen of the program known; none is made yet. The menu is the main screen.
-void addScreens(ui::Screens& screens);
+void addScreens(ui::ScreenSet& screens);

@@ -4,29 +4,50 @@
 #include "core/system.h"
 #include "shell/main_menu_screen.h"
 #include "ui/application.h"
-#include "ui/screens.h"
+#include "ui/desktop_contrast.h"
+#include "ui/fonts.h"
+#include "ui/screen_set.h"
 
 #include <QApplication>
-#include <QIcon>
 
 #include <algorithm>
+#include <utility>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The toolkit's threads hardly allocate: a heap for each would only take memory.
+void shareOneHeap()
+{
+#ifdef __GLIBC__
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
+} // namespace
+
 int main(int argc, char* argv[])
 {
-    ui::prepareApplication();
+    shareOneHeap();
+    ui::ignoreDesktopSettings();
+    std::jthread fontSettings = ui::look::readFontSettings();
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
     QApplication application(nameAlone, argv);
-    ui::dress();
+    const std::jthread fonts = ui::look::readFontList(std::move(fontSettings));
+    ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
-    QApplication::setWindowIcon(QIcon(u":/pizarrin.png"_s));
 
     core::SeededRandom random;
     const core::SystemClock clock;
-    ui::Screens screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
+    ui::ScreenSet screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
         core::commonBankFolder());
     addScreens(screens);
     screens.show(shell::Form1::screenName());
+    ui::followDesktopContrast();
     return QApplication::exec();
 }

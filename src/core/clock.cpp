@@ -26,7 +26,7 @@ void seedBySecondsTwice(RandomSource& random, const Clock& clock)
     random.seed((seconds + 1) * (minutes + 1) * (secondsAgain + 1));
 }
 
-void seedByTimer(RandomSource& random, const Clock& clock)
+void seedBySecondsOfDay(RandomSource& random, const Clock& clock)
 {
     random.seed(clock.timeOfDay().msecsSinceStartOfDay() / 1000.0);
 }

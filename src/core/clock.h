@@ -35,6 +35,6 @@ void seedByClock(RandomSource& random, const Clock& clock);
 void seedBySecondsTwice(RandomSource& random, const Clock& clock);
 
 /// Seeds with the seconds since midnight, fraction included.
-void seedByTimer(RandomSource& random, const Clock& clock);
+void seedBySecondsOfDay(RandomSource& random, const Clock& clock);
 
 } // namespace core

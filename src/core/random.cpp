@@ -22,7 +22,7 @@ float SeededRandom::next()
     return fractionOf(static_cast<std::uint32_t>(m_engine()));
 }
 
-Int16 drawInteger(RandomSource& random, int count, int first)
+Int16 randomInteger(RandomSource& random, int count, int first)
 {
     // In double: the single-precision product could round up to count.
     const double r = random.next();

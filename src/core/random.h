@@ -34,6 +34,6 @@ private:
 
 /// floor(r × count) + first with a fresh draw r: one of the count values from first, each
 /// with equal chance.
-Int16 drawInteger(RandomSource& random, int count, int first);
+Int16 randomInteger(RandomSource& random, int count, int first);
 
 } // namespace core

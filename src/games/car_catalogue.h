@@ -26,7 +26,8 @@ const std::array<Car, Cars>& carCatalogue();
 /// The captions of the race types.
 const std::array<QString, RaceTypes>& raceTypes();
 
-/// The picture files as the screens keep them: the catalogue's, then empty names.
+/// The picture files as the screens keep them: the catalogue's, then empty names; both that and
+/// the two spellings of some cars in the catalogue are meant.
 using PictureNames = std::array<QString, 19>;
 PictureNames pictureNames();
 

@@ -56,22 +56,27 @@ void drawMoon(QPainter& painter, QPointF centre, double radius)
     painter.drawPath(disc.subtracted(shadow));
 }
 
-/// A bank of cloud with puffs along its lower edge; depth: how far down it reaches.
+/// A bank of cloud, its top out of sight, with puffs along its lower edge and round both its
+/// ends; depth: how far down it reaches.
 void drawCloud(QPainter& painter, double left, double right, double depth)
 {
     QLinearGradient fill(0, 0, 0, depth);
     fill.setColorAt(0, QColor(CloudTop));
     fill.setColorAt(1, QColor(CloudBottom));
+    const double radius = depth * 0.32;
     QPainterPath cloud;
     cloud.setFillRule(Qt::WindingFill);
-    const double radius = depth * 0.32;
-    cloud.addRoundedRect(
-        QRectF(left, -radius, right - left, depth), radius, radius); // its top is out of sight
-    int puff = 0;
-    for (double across = left + radius; across < right - radius / 2; across += 1.25 * radius) {
-        const double size = radius * (puff++ % 3 == 1 ? 1.15 : 0.85);
-        cloud.addEllipse(QPointF(across, depth - radius), size, size);
+    cloud.addRect(QRectF(left + radius, -radius, right - left - 2 * radius, depth));
+    const auto addPuff = [&](double across, double down, double size) {
+        cloud.addEllipse(QPointF(across, down), size, size);
+    };
+    for (const double end : {left + radius, right - radius}) {
+        addPuff(end, depth - 1.9 * radius, 1.1 * radius);
+        addPuff(end, depth - 3 * radius, 0.8 * radius);
     }
+    int puff = 0;
+    for (double across = left + radius; across <= right - radius; across += 1.25 * radius)
+        addPuff(across, depth - radius, radius * (puff++ % 3 == 1 ? 1.15 : 0.85));
     painter.setBrush(fill);
     painter.drawPath(cloud);
 }

@@ -11,8 +11,6 @@ namespace games {
 
 namespace {
 
-constexpr int HitPoints = 10; // for each step of the number's speed class
-
 /// What a difficulty decides. A penalty counts for each step of the number's speed class.
 struct Setting {
     int interval; ///< milliseconds from tick to tick
@@ -33,8 +31,8 @@ const Setting& settingOf(Difficulty difficulty)
 
 } // namespace
 
-NumberRain::NumberRain(core::RandomSource& random, int height)
-    : m_fall(random, height)
+NumberRain::NumberRain(core::RandomSource& random, int lastRow)
+    : m_fall(random, lastRow)
 {
     chooseDifficulty(Difficulty::Facil);
 }
@@ -54,8 +52,7 @@ RainStep NumberRain::chooseDifficulty(Difficulty difficulty)
     if (blocked())
         return {};
     m_difficulty = difficulty;
-    m_state.PenaEscape = settingOf(difficulty).penaEscape;
-    m_state.PenaError = settingOf(difficulty).penaError;
+    m_score.setPenalties(settingOf(difficulty).penaEscape, settingOf(difficulty).penaError);
     newGame();
     return take();
 }
@@ -110,7 +107,7 @@ void NumberRain::launchWhenDue()
 {
     m_step.launched = m_fall.launchWhenDue(m_phase);
     if (m_step.launched)
-        ++m_state.Lanzados;
+        m_score.countLaunch();
 }
 
 RainStep NumberRain::click(int slot)
@@ -121,11 +118,11 @@ RainStep NumberRain::click(int slot)
         miss(slot);
     else if (hit(slot))
         return take();
-    if (m_state.Puntos > 0) {
-        showPoints();
+    if (state().Puntos > 0) {
+        m_score.showPoints();
         m_step.cleared = true;
         m_fall.release(slot);
-    } else {
+    } else { // with exactly 0 points left the number stays and falls on: meant
         CompruebaPuntos(slot, true);
     }
     return take();
@@ -133,25 +130,15 @@ RainStep NumberRain::click(int slot)
 
 bool NumberRain::hit(int slot)
 {
-    // Every sum before the first change: one that overflows leaves the game as it was.
-    const Int16 won = HitPoints * core::at(m_fall.Gotas(), slot).Velocidad;
-    const Int16 points = m_state.Puntos + won;
-    const Int16 hits = m_state.Aciertos + 1;
-    const bool passed = hits >= HitsToPass;
-    const Int16 total = passed ? m_state.PuntosTotales + points : m_state.PuntosTotales;
-    m_state.Puntos = points;
-    m_state.Aciertos = hits;
-    report(RainEvent::Kind::Hit, slot, won);
-    if (passed)
-        FaseSuperada(total);
-    return passed;
+    report(RainEvent::Kind::Hit, slot, m_score.hit(core::at(m_fall.Gotas(), slot)));
+    if (m_score.isPhasePassed())
+        FaseSuperada();
+    return m_score.isPhasePassed();
 }
 
 void NumberRain::miss(int slot)
 {
-    const Int16 lost = m_state.PenaError * core::at(m_fall.Gotas(), slot).Velocidad;
-    m_state.Puntos -= lost;
-    report(RainEvent::Kind::Miss, slot, -lost);
+    report(RainEvent::Kind::Miss, slot, m_score.miss(core::at(m_fall.Gotas(), slot)));
 }
 
 void NumberRain::report(RainEvent::Kind kind, int slot, Int16 points)
@@ -164,29 +151,25 @@ void NumberRain::CompruebaPuntos(int slot, bool porError)
     const Gota& gota = core::at(m_fall.Gotas(), slot);
     if (!porError) {
         const bool target = m_phase.EsObjetivo(gota.Valor);
-        const Int16 lost = target ? m_state.PenaEscape * gota.Velocidad : Int16(0);
-        m_state.Puntos -= lost;
+        const Int16 points = m_score.escape(gota, target);
         m_step.beeps += target ? 1 : 0;
-        report(RainEvent::Kind::Escape, slot, -lost);
+        report(RainEvent::Kind::Escape, slot, points);
     }
-    if (m_state.Puntos >= 0)
-        showPoints();
+    if (state().Puntos >= 0)
+        m_score.showPoints();
     else
         loseLife(porError);
 }
 
 void NumberRain::loseLife(bool porError)
 {
-    m_state.Puntos = RainState::FullPoints;
-    --m_state.Vidas;
     m_running = false;
-    if (m_state.Vidas < 1) {
+    if (!m_score.loseLife()) {
         ask(RainBox::Kind::GameOver, u"GAME OVER"_s,
             u"En esta partida has conseguido %1 puntos. \n¿Deseas volver a jugar?"_s.arg(
-                m_state.PuntosTotales.value()));
+                state().PuntosTotales.value()));
         return;
     }
-    showLives();
     ask(RainBox::Kind::LifeLost, u"Lluvia de números"_s,
         porError ? u"Has cometido demasiados errores y pierdes una vida. "
                    "Deberás volver a empezar esta fase."_s
@@ -194,15 +177,14 @@ void NumberRain::loseLife(bool porError)
                    "Deberás volver a empezar esta fase."_s);
 }
 
-void NumberRain::FaseSuperada(Int16 total)
+void NumberRain::FaseSuperada()
 {
-    m_state.PuntosTotales = total;
     m_running = false;
     ask(RainBox::Kind::PhasePassed, u"FASE SUPERADA"_s,
         u"Ha superado la fase %1.\nEn esta fase ha conseguido %2 puntos y en total lleva %3 "
         "puntos acumulados."_s.arg(m_phase.Fase().value())
-            .arg(m_state.Puntos.value())
-            .arg(m_state.PuntosTotales.value()));
+            .arg(state().Puntos.value())
+            .arg(state().PuntosTotales.value()));
 }
 
 void NumberRain::ask(RainBox::Kind kind, const QString& title, const QString& text)
@@ -230,7 +212,7 @@ RainStep NumberRain::answer(bool yes)
         break;
     case RainBox::Kind::GameOver:
         newGame();
-        showPoints();
+        m_score.showPoints();
         break;
     }
     if (escaping) {
@@ -249,33 +231,23 @@ void NumberRain::PreparaFase(Int16 fase)
 void NumberRain::newGame()
 {
     PreparaFase(1);
-    m_state.Puntos = RainState::FullPoints;
-    m_state.PuntosTotales = 0;
-    m_state.Vidas = RainState::FullLives;
-    m_state.Lanzados = 0;
-    showFullPoints();
-    showLives();
+    m_score.beginGame();
     m_fall.resetFirstSlots();
     wait();
 }
 
 void NumberRain::repeatPhase()
 {
-    m_state.Puntos = RainState::FullPoints;
+    m_score.repeatPhase();
     m_fall.resetFirstSlots();
-    m_state.Lanzados = 0;
     wait();
-    showPoints();
 }
 
 void NumberRain::nextPhase()
 {
     PreparaFase(m_phase.Fase() + 1);
-    m_state.Puntos = RainState::FullPoints;
+    m_score.beginNextPhase();
     m_fall.resetFirstSlots();
-    m_state.Lanzados = 0;
-    showFullPoints();
-    m_livesText = u"Vidas: %1"_s.arg(m_state.Vidas.value()); // no blank before this colon: meant
     wait();
 }
 
@@ -284,21 +256,6 @@ void NumberRain::wait()
     m_running = false;
     m_waiting = true;
     m_step.waits = true;
-}
-
-void NumberRain::showFullPoints()
-{
-    m_pointsText = u"%1 puntos"_s.arg(RainState::FullPoints);
-}
-
-void NumberRain::showPoints()
-{
-    m_pointsText = QString::number(m_state.Puntos.value());
-}
-
-void NumberRain::showLives()
-{
-    m_livesText = u"Vidas : %1"_s.arg(m_state.Vidas.value());
 }
 
 } // namespace games

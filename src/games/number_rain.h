@@ -2,6 +2,7 @@
 
 #include "games/rain_fall.h"
 #include "games/rain_phase.h"
+#include "games/rain_score.h"
 
 #include <QString>
 
@@ -9,20 +10,6 @@
 #include <vector>
 
 namespace games {
-
-/// The score of a game of number rain.
-struct RainState {
-    static constexpr int FullPoints = 100;
-    static constexpr int FullLives = 3;
-
-    core::Int16 Puntos = FullPoints; ///< of the current phase
-    core::Int16 PuntosTotales; ///< kept from the phases passed in this game
-    core::Int16 Vidas = FullLives;
-    core::Int16 Lanzados; ///< numbers launched in the current phase; read by nothing: meant
-    core::Int16 Aciertos; ///< right clicks since the screen was made, whatever the game: meant
-    core::Int16 PenaEscape;
-    core::Int16 PenaError;
-};
 
 enum class Difficulty { Facil, Normal, Dificil };
 
@@ -47,12 +34,12 @@ struct RainEvent {
     core::Int16 points; ///< that it brought; below 0 when it cost some
 };
 
-/// What a call asks of the screen besides showing the state: first the texts and the focus,
-/// then the beeps, then the box.
+/// What a call asks for besides showing the state: first what has changed, then the beeps, then
+/// the box.
 struct RainStep {
-    bool phasePrepared = false; ///< the instruction was written anew: select it whole
+    bool phasePrepared = false; ///< the instruction was written anew
     bool cleared = false; ///< a clicked number is gone
-    bool waits = false; ///< the start button has come up
+    bool waits = false; ///< the pupil is to start the rain
     std::optional<int> launched; ///< the slot whose number is new, launched after all the rest
     std::vector<RainEvent> events; ///< in the order in which they happened
     int beeps = 0;
@@ -67,22 +54,20 @@ struct RainStep {
 /// box. Until then every other call does nothing.
 class NumberRain {
 public:
-    static constexpr int HitsToPass = 15;
-
     /// Ready to start phase 1 on Easy; draws nothing. random must outlive the model. A number
-    /// whose top edge is below height (twips) has escaped.
-    NumberRain(core::RandomSource& random, int height);
+    /// that has fallen beyond lastRow has escaped.
+    NumberRain(core::RandomSource& random, int lastRow);
 
-    const RainState& state() const { return m_state; }
+    const RainState& state() const { return m_score.state(); }
     const RainFall& fall() const { return m_fall; }
     const RainPhase& phase() const { return m_phase; }
     QString caption() const { return m_phase.caption(); }
     QString instruction() const { return m_phase.instruction(); }
-    QString pointsText() const { return m_pointsText; }
-    QString livesText() const { return m_livesText; }
+    QString pointsText() const { return m_score.pointsText(); }
+    QString livesText() const { return m_score.livesText(); }
     bool running() const { return m_running; } ///< the clock is to tick
-    bool waiting() const { return m_waiting; } ///< the start button is there
-    bool over() const { return m_over; } ///< the pupil will not play again: close
+    bool waiting() const { return m_waiting; } ///< the pupil is to start the rain
+    bool over() const { return m_over; } ///< the pupil will not play again
     Difficulty difficulty() const { return m_difficulty; }
     int interval() const; ///< milliseconds from tick to tick
 
@@ -92,7 +77,7 @@ public:
     /// The pupil starts the rain.
     RainStep start();
 
-    /// Lets the clock run without touching the start button.
+    /// Lets the clock run, and what waits for the pupil waits on.
     void enableClock();
 
     /// One tick of the clock: all numbers move, every sixth time one is launched.
@@ -112,7 +97,7 @@ private:
 
     void PreparaFase(core::Int16 fase);
     void CompruebaPuntos(int slot, bool porError);
-    void FaseSuperada(core::Int16 total);
+    void FaseSuperada();
     bool MueveNumeros(int first);
     void runTick(int first);
 
@@ -127,16 +112,11 @@ private:
     void repeatPhase();
     void nextPhase();
     void wait();
-    void showPoints();
-    void showFullPoints();
-    void showLives();
 
-    RainState m_state;
+    RainScore m_score;
     RainFall m_fall;
     RainPhase m_phase{1};
     Difficulty m_difficulty = Difficulty::Facil;
-    QString m_pointsText;
-    QString m_livesText;
     bool m_running = false;
     bool m_waiting = false;
     bool m_over = false;

@@ -2,6 +2,7 @@
 
 #include "games/night_sky.h"
 #include "games/rain_field.h"
+#include "games/rain_grid.h"
 #include "games/token_row.h"
 #include "ui/screens.h"
 
@@ -40,6 +41,7 @@ constexpr QRgb Ring = 0xFF8BE9FF; // neither a drop's colour nor the start butto
 constexpr QRgb Moonlight = 0xFFF3F5FF; // texts on the sky
 constexpr QRgb Panel = 0xFF10172C;
 
+constexpr int MenuType = 17; // this screen opens small
 constexpr ui::look::Font ScoreFont{Family::CourierNew, 17, true};
 constexpr ui::look::Font InstructionFont{Family::CourierNew, 17};
 constexpr ui::look::Font StartFont{Family::Arial, 30, true};
@@ -55,7 +57,7 @@ QPalette textOn(QPalette palette, QRgb fill, QRgb text)
 
 Form5::Form5(ui::Screens& screens)
     : Screen(screens, screenName(), u"Lluvia de números - Fase 1"_s, Width, Height)
-    , m_model(screens.random(), static_cast<int>(Height))
+    , m_model(screens.random(), RainGrid::lastRow(static_cast<int>(Height)))
     , m_sky(new NightSky(this))
     , m_field(new RainField(*this, this))
 {
@@ -74,6 +76,7 @@ Form5::Form5(ui::Screens& screens)
 
 void Form5::makeMenu()
 {
+    setMenuType(MenuType);
     QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
     MnuOpcMod = menuList(options, u"MnuOpcMod"_s, {u"&Fácil"_s, u"&Normal"_s, u"&Difícil"_s});
     onList(MnuOpcMod, &Form5::MnuOpcMod_Click);
@@ -85,7 +88,7 @@ void Form5::makeScoreboard()
 {
     constexpr double LivesLeft = Width - Margin - LivesWidth;
     constexpr double HeartsWidth = RainState::FullLives * HeartPitch;
-    constexpr double StarsWidth = NumberRain::HitsToPass * StarPitch;
+    constexpr double StarsWidth = RainScore::HitsToPass * StarPitch;
     Text2[0] = displayBox(u"Text2(0)"_s, {Margin, ScoreTop, PointsWidth, ScoreHeight}, ScoreFont,
         u"Puntos"_s, u"100 puntos"_s);
     Text2[1] = displayBox(u"Text2(1)"_s, {LivesLeft, ScoreTop, LivesWidth, ScoreHeight},
@@ -95,13 +98,13 @@ void Form5::makeScoreboard()
         box->setAlignment(Qt::AlignCenter);
         box->setPalette(textOn(ui::look::displayed(), Panel, Amber));
     }
-    m_stars = add(new TokenRow(TokenRow::Shape::Star, NumberRain::HitsToPass, canvas()),
+    m_stars = add(new TokenRow(TokenRow::Shape::Star, RainScore::HitsToPass, canvas()),
         u"rainHits"_s, {(Width - StarsWidth) / 2, ScoreTop, StarsWidth, ScoreHeight});
     m_hearts = add(new TokenRow(TokenRow::Shape::Heart, RainState::FullLives, canvas()),
         u"rainLives"_s, {LivesLeft - HeartsWidth - 150, ScoreTop, HeartsWidth, ScoreHeight});
     Text1 =
         displayBox(u"Text1"_s, {Margin, InstructionTop, Width - 2 * Margin, InstructionHeight},
-            InstructionFont, u"Instrucción"_s, u"Elimina 15 números impares "_s);
+            InstructionFont, u"Instrucción"_s, u"Elimina 15 números impares "_s); // never seen
     Text1->setAlignment(Qt::AlignCenter);
     Text1->setPalette(textOn(ui::look::displayed(), 0, Moonlight));
 }
@@ -110,7 +113,6 @@ void Form5::makeStart()
 {
     PbFoco = add(new QWidget(canvas()), u"PbFoco"_s, {-300, 0, 150, 150});
     PbFoco->setFocusPolicy(Qt::ClickFocus);
-    PbFoco->setAccessibleName(u"Cielo"_s);
     CbEmpezar = button(u"CbEmpezar"_s, u"&EMPEZAR"_s,
         {(Width - StartWidth) / 2, (Height - StartHeight) / 2, StartWidth, StartHeight}, Amber,
         StartFont);
@@ -125,7 +127,7 @@ void Form5::makeClocks()
     Timer1 = timer(u"Timer1"_s, m_model.interval());
     Timer1->setTimerType(Qt::PreciseTimer);
     on(Timer1, &QTimer::timeout, &Form5::Timer1_Timer);
-    Timer2 = timer(u"Timer2"_s, 10000);
+    Timer2 = timer(u"Timer2"_s, 10000); // nothing starts it: meant
     on(Timer2, &QTimer::timeout, &Form5::Timer2_Timer);
 }
 

@@ -4,6 +4,7 @@
 #include "core/defect.h"
 #include "games/night_sky.h"
 #include "games/rain_field.h"
+#include "games/rain_grid.h"
 #include "games/token_row.h"
 #include "ui/screens.h"
 
@@ -37,7 +38,7 @@ void Form5::Form_Load()
 void Form5::resizeEvent(QResizeEvent* event)
 {
     Screen::resizeEvent(event);
-    constexpr double CloudEnd = RainFall::Pitch * (RainFall::Columns + 1) + RainDrop::Width;
+    constexpr double CloudEnd = RainGrid::Pitch * (RainFall::Columns + 1) + RainDrop::Width;
     m_sky->setFactor(factor());
     m_sky->cover(canvas()->geometry(), CloudEnd * factor() / ui::TwipsPerPixel);
 }

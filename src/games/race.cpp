@@ -16,14 +16,9 @@ constexpr int Factors = 9;
 constexpr int SmallValue = 10; // below it, a term of 2 to 10 could make the result negative
 
 // Milliseconds from step to step of the rival: 60 of the quickest car's take 27 seconds, and
-// every later car in the catalogue is a little slower.
+// every later car in the catalogue is a little slower, the racing car slowest: meant.
 constexpr int QuickestRival = 450;
 constexpr int SlowerByCar = 20;
-
-double leftAfter(int steps, core::Int16 start, int stepsToWin)
-{
-    return Race::StartLeft - static_cast<double>(start.value()) / stepsToWin * steps;
-}
 
 } // namespace
 
@@ -49,16 +44,14 @@ void Race::PreparaCarrera(const RaceOptions& options)
     CarreraTerminada = false;
     Tipo = options.Tipo;
     Rival = options.Rival;
-    SalidaJugador = StartLeft;
-    SalidaRival = StartLeft;
     newExercise();
     m_prepared = true;
 }
 
 void Race::newExercise()
 {
-    Factor1 = drawFactor(Factor1);
-    Factor2 = drawFactor(Factor2);
+    Factor1 = randomFactor(Factor1);
+    Factor2 = randomFactor(Factor2);
     const core::Int16 product = Factor1 * Factor2;
     const QString multiplication = u"%1 × %2"_s.arg(Factor1.value()).arg(Factor2.value());
     const QString division = u"%1 ÷ %2"_s.arg(product.value()).arg(Factor1.value());
@@ -82,25 +75,25 @@ void Race::newExercise()
     m_operation += u" ="_s;
 }
 
-core::Int16 Race::drawFactor(core::Int16 previous)
+core::Int16 Race::randomFactor(core::Int16 previous)
 {
     core::Int16 factor;
     do
-        factor = core::drawInteger(m_random, Factors, FirstFactor);
+        factor = core::randomInteger(m_random, Factors, FirstFactor);
     while (factor == previous);
     return factor;
 }
 
-core::Int16 Race::drawTerm(core::Int16 largest)
+core::Int16 Race::randomTerm(core::Int16 largest)
 {
-    return largest >= SmallValue ? core::drawInteger(m_random, Factors, FirstFactor)
-                                 : core::drawInteger(m_random, largest.value(), 1);
+    return largest >= SmallValue ? core::randomInteger(m_random, Factors, FirstFactor)
+                                 : core::randomInteger(m_random, largest.value(), 1);
 }
 
 void Race::combine(core::Int16 value, const QString& text)
 {
-    Termino = drawTerm(value);
-    const bool plus = core::drawInteger(m_random, 2, 1) == 1;
+    Termino = randomTerm(value);
+    const bool plus = core::randomInteger(m_random, 2, 1) == 1;
     Resultado = plus ? value + Termino : value - Termino;
     m_operation = text + (plus ? u" + "_s : u" - "_s) + QString::number(Termino.value());
 }
@@ -114,7 +107,7 @@ Verdict Race::judge(double answer)
         m_verdict.tell(Verdict::Wrong, u"Error"_s, shell::Repeat::Alternate);
         return Verdict::Wrong;
     }
-    m_verdict.tell(Verdict::Right, u"Correcto "_s, shell::Repeat::Alternate);
+    m_verdict.tell(Verdict::Right, u"Correcto "_s, shell::Repeat::Alternate); // blank: meant
     newExercise();
     countSolved();
     return Verdict::Right;
@@ -170,16 +163,6 @@ int Race::rivalInterval() const
     return (core::Int16(SlowerByCar) * Rival + QuickestRival).value();
 }
 
-double Race::playerLeft() const
-{
-    return leftAfter(Aciertos.value(), SalidaJugador, StepsToWin);
-}
-
-double Race::rivalLeft() const
-{
-    return leftAfter(PasosRival.value(), SalidaRival, RivalStepsToWin);
-}
-
 QString Race::spokenOperation() const
 {
     return core::aloud(QString(m_operation).remove(u" ="_s));
@@ -200,7 +183,13 @@ QString Race::wonText() const
 
 QString Race::lostText() const
 {
+    // The small letter is meant.
     return u"tu adversario ha ganado la carrera. Ha tardado %1 segundos."_s.arg(Segundos.value());
+}
+
+QString Race::overText()
+{
+    return u"La carrera ha terminado. Pulsa en uno de los botones inferiores."_s;
 }
 
 } // namespace games

@@ -19,10 +19,8 @@ class Race {
 public:
     enum class RivalStep { Ignored, Moved, Won };
 
-    static constexpr int StepsToWin = 15;
-    static constexpr int RivalStepsToWin = 60;
-    /// Left edge of both cars before their first step, in twips; they finish at 0.
-    static constexpr int StartLeft = 9500;
+    static constexpr int StepsToWin = 15; ///< a step for each operation solved
+    static constexpr int RivalStepsToWin = 60; ///< so short that its car hardly ever stands
 
     /// No race yet: nothing is drawn. random must outlive the model.
     explicit Race(core::RandomSource& random);
@@ -71,18 +69,15 @@ public:
     /// Milliseconds between two steps of the rival.
     int rivalInterval() const;
 
-    // Left edges of the cars, in twips.
-    double playerLeft() const;
-    double rivalLeft() const;
-
     QString wonText() const;
     QString lostText() const;
+    static QString overText(); ///< while nothing can be answered any more
 
 private:
     bool isUnderWay() const { return m_prepared && !CarreraTerminada; }
     void newExercise();
-    core::Int16 drawFactor(core::Int16 previous);
-    core::Int16 drawTerm(core::Int16 largest);
+    core::Int16 randomFactor(core::Int16 previous);
+    core::Int16 randomTerm(core::Int16 largest);
     void combine(core::Int16 value, const QString& text);
     void countSolved();
     void finish();
@@ -97,8 +92,6 @@ private:
     core::Int16 Aciertos; ///< right answers: the steps of the pupil's car
     core::Int16 Segundos; ///< since the first right answer
     core::Int16 PasosRival; ///< ticks of the rival's timer
-    core::Int16 SalidaJugador = StartLeft; ///< what the steps to the finish share out, in twips
-    core::Int16 SalidaRival = StartLeft;
     bool CarreraTerminada = false;
     int m_answers = 0; ///< judged in this race, right or wrong
     QString m_operation;

@@ -14,6 +14,7 @@ namespace games {
 
 namespace {
 
+// Twips.
 constexpr double Margin = 240;
 constexpr double Width = RaceScene::Width + 2 * Margin;
 constexpr double Top = 180;
@@ -27,6 +28,8 @@ constexpr double CommandTop = SceneTop + RaceScene::Height + 240;
 constexpr double CommandWidth = 2520;
 constexpr double CommandHeight = 560;
 constexpr double Height = CommandTop + CommandHeight + 240;
+
+constexpr int Second = 1000; // milliseconds
 
 constexpr ui::look::Font OperationFont{Family::CourierNew, 40, true};
 constexpr ui::look::Font TimeFont{Family::Arial, 17, true};
@@ -42,7 +45,7 @@ FrmCarrera::FrmCarrera(ui::Screens& screens)
     makeRow();
     makeKeypad();
     makeCommands();
-    Timer1 = timer(u"Timer1"_s, 1000);
+    Timer1 = timer(u"Timer1"_s, Second);
     Timer2 = timer(u"Timer2"_s, m_race.rivalInterval());
     for (QTimer* timer : {Timer1, Timer2})
         timer->setTimerType(Qt::PreciseTimer);
@@ -68,7 +71,7 @@ void FrmCarrera::makeBoxes()
     showTime();
 }
 
-// No race type fills this row with an operation, so it does not show.
+// No race type fills this row with an operation, so it does not show: meant.
 void FrmCarrera::makeRow()
 {
     const std::array<QString, 5> texts{u"888"_s, {}, u"888"_s, {}, u"888"_s};

@@ -1,6 +1,7 @@
 #include "games/race_keypad_button.h"
 
 #include "ui/look.h"
+#include "ui/marks.h"
 
 #include <QPainter>
 
@@ -24,8 +25,7 @@ void RaceKeypadButton::paintEvent(QPaintEvent* event)
     const QColor ink(ui::look::Ink);
     if (m_drawing == Drawing::Cross) {
         painter.setPen(QPen(ink, 2.2, Qt::SolidLine, Qt::RoundCap));
-        painter.drawLine(QPointF(-4, -4), QPointF(4, 4));
-        painter.drawLine(QPointF(4, -4), QPointF(-4, 4));
+        ui::drawCross(painter, {QPointF(-4, -4), QPointF(4, 4)});
         return;
     }
     painter.setPen(Qt::NoPen);

@@ -5,6 +5,7 @@
 #include "ui/list_box.h"
 #include "ui/picture.h"
 #include "ui/screens.h"
+#include "ui/tray.h"
 
 #include <algorithm>
 
@@ -14,25 +15,28 @@ namespace games {
 
 namespace {
 
-constexpr double LargestPicture = 540;
+// Twips.
+constexpr double LargestPicture = 540; // wide; a wider one is shown so wide
 
 constexpr double Margin = 240;
-constexpr double LabelTop = 180;
+constexpr double LabelTop = 90;
 constexpr double LabelHeight = 390;
-constexpr double ListTop = 600;
+constexpr double ListTop = 480;
 constexpr double CarListWidth = 4350;
-constexpr double CarListHeight = 6210; // ten lines
+constexpr double CarListHeight = 6180; // ten lines
 constexpr double TypeListWidth = 3600;
 constexpr double TypeListHeight = 2400; // four lines
-constexpr double RoadTop = 3330;
+constexpr double RoadTop = 3210;
 constexpr double RoadHeight = 720;
-constexpr double OkHeight = 630;
-constexpr double Bottom = ListTop + CarListHeight;
+constexpr double StripMargin = 180; // around the button
+constexpr double OkTop = ListTop + CarListHeight + 90 + StripMargin;
+constexpr double OkWidth = 2100;
+constexpr double OkHeight = 510;
 constexpr std::array<double, 3> Column{
     Margin, 2 * Margin + CarListWidth, 3 * Margin + 2 * CarListWidth};
 
 constexpr double Width = Column[2] + TypeListWidth + Margin;
-constexpr double Height = Bottom + Margin;
+constexpr double Height = OkTop + OkHeight + StripMargin;
 
 constexpr ui::look::Font LaneName{ui::look::Family::Andika, 18, true};
 
@@ -66,10 +70,11 @@ DlgCarrera::DlgCarrera(ui::Screens& screens)
     on(List1, &QListWidget::currentRowChanged, [this] { List1_Click(); });
     on(List2, &QListWidget::currentRowChanged, [this] { List2_Click(); });
 
-    auto* OKButton = button(u"OKButton"_s, u"Aceptar"_s,
-        {Width - Margin - 2100, Bottom - OkHeight, 2100, OkHeight},
-        ui::look::palette().color(QPalette::Button));
+    auto* OKButton =
+        button(u"OKButton"_s, u"Aceptar"_s, {Width - Margin - OkWidth, OkTop, OkWidth, OkHeight},
+            ui::look::palette().color(QPalette::Button));
     on(OKButton, &QPushButton::clicked, &DlgCarrera::OKButton_Click);
+    new ui::Tray({OKButton}, ui::Tray::Shape::Strip);
 }
 
 ui::ListBox* DlgCarrera::list(

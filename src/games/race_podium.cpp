@@ -43,7 +43,7 @@ void drawConfetti(QPainter& painter, QSizeF size, double factor)
 
 void drawBlock(QPainter& painter, const QRectF& block, int place, double factor)
 {
-    painter.setPen(QPen(QColor(ui::look::Ink), ui::look::EdgeWidth * factor));
+    painter.setPen(QPen(QColor(ui::look::Ink), ui::look::thick(ui::look::EdgeWidth) * factor));
     painter.setBrush(QColor(place == 1 ? ui::look::Gold : 0xFFD9DEE3));
     painter.drawRoundedRect(block, 4 * factor, 4 * factor);
     painter.setFont(ui::look::scaled({ui::look::Family::Andika, 44, true}, factor));

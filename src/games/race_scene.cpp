@@ -1,6 +1,6 @@
 #include "games/race_scene.h"
 
-#include "games/race.h"
+#include "games/race_course.h"
 #include "games/race_podium.h"
 #include "ui/control_factory.h"
 
@@ -10,9 +10,10 @@ namespace games {
 
 namespace {
 
-constexpr double CarHeight = 1000;
+// Twips.
+constexpr double CarHeight = 1000; // the pictures differ in size, the cars do not
 constexpr double Lane = RaceTrack::Height / 2;
-constexpr double NudgeBack = 90; // twips; towards the start
+constexpr double NudgeBack = 90; // towards the start
 constexpr std::chrono::milliseconds NudgeTime{320};
 
 } // namespace
@@ -34,8 +35,8 @@ RaceScene::RaceScene(ui::ControlFactory& factory, QPointF corner, QSizeF canvas,
     Picture1->setFocusPolicy(Qt::ClickFocus); // for the end of a race
     const std::array<QString, 2> names{u"Tu coche"_s, u"El coche de tu rival"_s};
     for (std::size_t i = 0; i < Image1.size(); ++i) {
-        Image1[i] =
-            factory.add(new QLabel(Picture1), u"Image1(%1)"_s.arg(i), {Race::StartLeft, 0, 0, 0});
+        Image1[i] = factory.add(
+            new QLabel(Picture1), u"Image1(%1)"_s.arg(i), {RaceCourse::StartLeft, 0, 0, 0});
         Image1[i]->setAccessibleName(names[i]);
         Image1[i]->setScaledContents(true);
     }
@@ -53,8 +54,8 @@ void RaceScene::lineUp(Car car, const QImage& picture)
     QLabel* image = Image1[car];
     const double width = CarHeight * picture.width() / picture.height();
     const double top = (Lane - CarHeight) / 2 + (car == Pupil ? 0 : Lane);
-    m_glide->put(image, {Race::StartLeft, top});
-    m_factory.place(image, {Race::StartLeft, top, width, CarHeight});
+    m_glide->put(image, {RaceCourse::StartLeft, top});
+    m_factory.place(image, {RaceCourse::StartLeft, top, width, CarHeight});
     image->setPixmap(QPixmap::fromImage(picture));
 }
 

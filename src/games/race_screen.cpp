@@ -5,6 +5,7 @@
 #include "games/car_picture.h"
 #include "games/race_keypad.h"
 #include "games/race_options_screen.h"
+#include "shell/exercise_screen.h"
 #include "ui/picture.h"
 #include "ui/screens.h"
 
@@ -20,12 +21,6 @@ namespace {
 constexpr std::chrono::milliseconds PupilStep{700};
 
 constexpr std::size_t LastOfRow = 4;
-
-ui::VerdictBox::Mark markOf(const shell::VerdictLine& line)
-{
-    return line.verdict() == shell::Verdict::Right ? ui::VerdictBox::Mark::Right
-                                                   : ui::VerdictBox::Mark::Wrong;
-}
 
 } // namespace
 
@@ -57,18 +52,19 @@ void FrmCarrera::Form_QueryUnload()
 void FrmCarrera::chooseOptions()
 {
     screens().showModal<DlgCarrera>(*this, [this](const DlgCarrera& options) {
-        if (!options.isUnloaded()) // else all are being closed
-            PreparaCarrera();
+        if (options.isUnloaded()) // all are being closed
+            return;
+        m_options = {options.Personaje(), options.Rival(), options.Tipo()};
+        PreparaCarrera();
     });
 }
 
 void FrmCarrera::PreparaCarrera()
 {
     TBOperacion->clear(); // what stays when a picture cannot be read: no race
-    const auto& options = screens().load<DlgCarrera>();
-    const QImage player = carPicture(options.Personaje());
-    const QImage rival = carPicture(options.Rival());
-    m_race.PreparaCarrera({options.Personaje(), options.Rival(), options.Tipo()});
+    const QImage player = carPicture(m_options.Personaje);
+    const QImage rival = carPicture(m_options.Rival);
+    m_race.PreparaCarrera(m_options);
     m_scene->lineUp(player, rival);
     m_scene->setRunning(false);
     Timer2->setInterval(m_race.rivalInterval());
@@ -87,7 +83,13 @@ void FrmCarrera::NuevaOperacion()
     TBOperacion->setText(m_race.operation());
     TBResultado->clear();
     TBResultado->setFocus();
-    sayExercise();
+    if (!m_race.isOver())
+        sayExercise();
+}
+
+QString FrmCarrera::spokenExercise() const
+{
+    return m_race.isOver() ? Race::overText() : m_race.spokenOperation();
 }
 
 ui::KeyResult FrmCarrera::TBResultado_KeyPress(QChar character)
@@ -114,8 +116,7 @@ ui::KeyResult FrmCarrera::TBResultado_KeyPress(QChar character)
 ui::KeyResult FrmCarrera::Text2_KeyPress(int Index, QChar character)
 {
     if (m_race.isOver()) {
-        ui::MessageBox::show(
-            *this, u"La carrera ha terminado. Pulsa en uno de los botones inferiores."_s);
+        ui::MessageBox::show(*this, Race::overText());
         return ui::KeyResult::Swallow;
     }
     if (Index != LastOfRow || character != QChar(ui::key::Enter))
@@ -137,7 +138,7 @@ ui::KeyResult FrmCarrera::Text2_KeyPress(int Index, QChar character)
 
 void FrmCarrera::showVerdict()
 {
-    Text4->setVerdict(m_race.verdict().text(), markOf(m_race.verdict()));
+    shell::showVerdict(*Text4, m_race.verdict());
     say(m_race.spokenStandings());
 }
 
@@ -155,7 +156,7 @@ void FrmCarrera::showRightAnswer()
     }
     m_scene->setRunning(true);
     m_scene->setSolved(m_race.solved());
-    m_scene->drive(RaceScene::Pupil, m_race.playerLeft(), PupilStep);
+    m_scene->drive(RaceScene::Pupil, m_course.playerLeft(m_race.solved()), PupilStep);
     if (!m_race.isOver())
         return;
     m_scene->celebrate(true);
@@ -174,7 +175,8 @@ void FrmCarrera::Timer2_Timer()
     const auto step = m_race.rivalStep();
     if (step == Race::RivalStep::Ignored)
         return;
-    m_scene->drive(RaceScene::Rival, m_race.rivalLeft(), Timer2->intervalAsDuration());
+    m_scene->drive(
+        RaceScene::Rival, m_course.rivalLeft(m_race.rivalSteps()), Timer2->intervalAsDuration());
     if (step == Race::RivalStep::Won)
         endRace(m_race.lostText());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "games/race.h"
+#include "games/race_course.h"
 #include "games/race_scene.h"
 #include "ui/screen.h"
 
@@ -18,7 +19,7 @@ public:
 
     explicit FrmCarrera(ui::Screens& screens);
 
-    QString spokenExercise() const override { return m_race.spokenOperation(); }
+    QString spokenExercise() const override;
 
 protected:
     void Form_Load() override;
@@ -55,7 +56,9 @@ private:
     void showTime();
 
     Race m_race;
-    PictureNames NombresImagen;
+    RaceCourse m_course;
+    RaceOptions m_options; ///< as they were chosen last
+    PictureNames NombresImagen; ///< the files of the cars, by position
     RaceScene* m_scene; ///< road, cars, landscape, podium
     ui::TextBox* TBOperacion = nullptr; ///< the operation to solve
     ui::TextBox* TBResultado = nullptr; ///< the pupil's answer

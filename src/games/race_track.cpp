@@ -11,6 +11,7 @@ namespace games {
 
 namespace {
 
+// Twips.
 constexpr double Kerb = 180;
 constexpr double KerbStone = 300;
 constexpr double Mark = 150; // diameter of a mark on the kerb
@@ -30,10 +31,10 @@ void drawKerb(QPainter& painter, double top)
 /// One mark where the car's front comes to stand after each step.
 void drawMarks(QPainter& painter, int passed)
 {
-    constexpr double Step = static_cast<double>(Race::StartLeft) / Race::StepsToWin;
+    constexpr double Step = static_cast<double>(RaceCourse::StartLeft) / Race::StepsToWin;
     painter.setPen(QPen(QColor(Black), 22));
     for (int mark = 1; mark <= Race::StepsToWin; ++mark) {
-        const double left = Race::StartLeft - mark * Step;
+        const double left = RaceCourse::StartLeft - mark * Step;
         painter.setBrush(QColor(mark <= passed ? ui::look::Gold : Unlit));
         painter.drawEllipse(QPointF(left + Mark, Kerb / 2), Mark / 2, Mark / 2);
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "games/backdrop.h"
-#include "games/race.h"
+#include "games/race_course.h"
 
 namespace games {
 
@@ -13,7 +13,8 @@ public:
     static constexpr double Width = 12000;
     static constexpr double Height = 2800;
     static constexpr double FinishLine = 300; ///< left edge of the chequered line
-    static constexpr double StartLine = Race::StartLeft - 100; ///< left edge of the white line
+    static constexpr double StartLine =
+        RaceCourse::StartLeft - 100; ///< left edge of the white line
 
     explicit RaceTrack(QWidget* parent);
 

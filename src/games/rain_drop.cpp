@@ -1,5 +1,7 @@
 #include "games/rain_drop.h"
 
+#include "ui/look.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -92,7 +94,7 @@ void RainDrop::draw()
     m_picture.setDevicePixelRatio(devicePixelRatioF());
     m_picture.fill(Qt::transparent);
 
-    const double edge = (m_drawn.hover ? HoverEdgeWidth : EdgeWidth) * factor();
+    const double edge = ui::look::thick(m_drawn.hover ? HoverEdgeWidth : EdgeWidth) * factor();
     const QRectF drop = QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
     const QColor fill(m_drawn.fill);
     QPainter painter(&m_picture);

@@ -10,28 +10,18 @@ namespace games {
 
 namespace {
 
-constexpr int TicksPerLaunch = 6;
-constexpr int StepsOfADrift = 5; // columns
-constexpr float TargetShare = 0.6f; // of the numbers launched
+constexpr int TicksPerLaunch = 6; // one more than the slowest number rests
+constexpr int StepsOfADrift = 5; // columns, a step to the side for each row
+constexpr float TargetShare = 0.6f; // of the numbers launched: more to hit than to spare
 constexpr int FirstColumn = 1; // a number that drifts left turns back there
 constexpr int BounceColumn = 10; // numbers launched to the right of it never bounce: meant
 constexpr int SlotsReset = 10; // the ten last keep their numbers from try to try: meant
 
 } // namespace
 
-int Gota::left() const
-{
-    return RainFall::Pitch * Columna.value();
-}
-
-int Gota::top() const
-{
-    return RainFall::FirstRow + RainFall::Pitch * Fila.value();
-}
-
-RainFall::RainFall(core::RandomSource& random, int height)
+RainFall::RainFall(core::RandomSource& random, int lastRow)
     : m_random(random)
-    , m_height(height)
+    , m_lastRow(lastRow)
 {
     m_Libre.fill(true);
 }
@@ -44,7 +34,7 @@ bool RainFall::move(int slot)
     gota.Espera = gota.ticksPerStep();
     ++gota.Fila;
     drift(gota);
-    return gota.top() > m_height;
+    return gota.Fila > m_lastRow;
 }
 
 void RainFall::drift(Gota& gota)
@@ -81,11 +71,11 @@ std::optional<int> RainFall::launchWhenDue(const RainPhase& phase)
 void RainFall::launch(int slot, const RainPhase& phase)
 {
     Gota gota;
-    gota.Columna = core::drawInteger(m_random, Columns, FirstColumn);
-    gota.Velocidad = core::drawInteger(m_random, Gota::Fastest, 1);
+    gota.Columna = core::randomInteger(m_random, Columns, FirstColumn);
+    gota.Velocidad = core::randomInteger(m_random, Gota::Fastest, 1);
     gota.Espera = gota.ticksPerStep();
     const auto& numbers = m_random.next() <= TargetShare ? phase.Objetivos() : phase.Otros();
-    const int index = core::drawInteger(m_random, static_cast<int>(numbers.size()), 1).value();
+    const int index = core::randomInteger(m_random, static_cast<int>(numbers.size()), 1).value();
     gota.Valor = core::at(numbers, index - 1);
     core::at(m_Gotas, slot) = gota;
     core::at(m_Libre, slot) = false;

@@ -13,7 +13,7 @@ namespace games {
 
 class RainPhase;
 
-/// One falling number. A column and a row are both RainFall::Pitch.
+/// One falling number.
 struct Gota {
     static constexpr int Fastest = 5;
 
@@ -25,9 +25,6 @@ struct Gota {
     core::Int16 Fila; ///< rows fallen
     core::Int16 Valor; ///< the number shown
 
-    int left() const; ///< in twips
-    int top() const; ///< in twips
-
     /// From step to step down: the fastest takes one in every tick.
     core::Int16 ticksPerStep() const { return Fastest + 1 - Velocidad; }
 };
@@ -37,13 +34,11 @@ struct Gota {
 class RainFall {
 public:
     static constexpr int Slots = 20;
-    static constexpr int Pitch = 500; ///< a column, a row, in twips
-    static constexpr int FirstRow = 780; ///< top of a number that has not fallen yet, in twips
     static constexpr int Columns = 19; ///< numbers start in 1 to this one; they may drift beyond
 
-    /// All slots free; draws nothing. random must outlive this. A number whose top edge is below
-    /// height (twips) is out of sight.
-    RainFall(core::RandomSource& random, int height);
+    /// All slots free; draws nothing. random must outlive this. A number that has fallen beyond
+    /// lastRow is out of sight.
+    RainFall(core::RandomSource& random, int lastRow);
 
     const std::array<bool, Slots>& Libre() const { return m_Libre; } ///< the slot is free
     /// The numbers; meaningful where the slot is not free.
@@ -68,7 +63,7 @@ private:
     void launch(int slot, const RainPhase& phase);
 
     core::RandomSource& m_random;
-    int m_height;
+    int m_lastRow;
     int m_ticks = 0; ///< since the last launch was due
     std::array<bool, Slots> m_Libre{};
     std::array<Gota, Slots> m_Gotas;

@@ -1,6 +1,7 @@
 #include "games/rain_field.h"
 
 #include "core/defect.h"
+#include "games/rain_grid.h"
 #include "games/rain_splash.h"
 #include "ui/control_factory.h"
 #include "ui/focus_ring.h"
@@ -22,6 +23,11 @@ constexpr std::array<QRgb, Gota::Fastest> Colores{
 QRgb colourOf(const Gota& gota)
 {
     return core::at(Colores, gota.Velocidad.value() - 1);
+}
+
+QPointF placeOf(const Gota& gota)
+{
+    return {static_cast<double>(RainGrid::left(gota)), static_cast<double>(RainGrid::top(gota))};
 }
 
 double distance(const QRectF& area, QPointF place)
@@ -68,7 +74,7 @@ void RainField::launch(int slot, const Gota& gota)
     number->setFill(colourOf(gota));
     m_factory.setControlFont(
         number, {ui::look::Family::CourierNew, RainDrop::digitPixels(number->text()), true});
-    m_glide->put(number, QPointF(gota.left(), gota.top()));
+    m_glide->put(number, placeOf(gota));
     number->setEnabled(true);
     number->show();
 }
@@ -76,8 +82,8 @@ void RainField::launch(int slot, const Gota& gota)
 void RainField::flow(int slot, const Gota& gota, std::chrono::milliseconds tick)
 {
     const ui::TwipRect from = m_factory.placeOf(drop(slot));
-    m_glide->send(drop(slot), {from.left, from.top}, QPointF(gota.left(), gota.top()),
-        gota.ticksPerStep().value() * tick);
+    m_glide->send(
+        drop(slot), {from.left, from.top}, placeOf(gota), gota.ticksPerStep().value() * tick);
 }
 
 void RainField::clear(int slot)

@@ -38,7 +38,7 @@ void RainHalo::paintEvent(QPaintEvent*)
     QColor light = palette().color(QPalette::Highlight);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(light, ui::look::RingWidth * factor));
+    painter.setPen(QPen(light, ui::look::thick(ui::look::RingWidth) * factor));
     const double inset = Glow / 2 * factor;
     const QRectF ring = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
     light.setAlpha(70);

@@ -85,12 +85,12 @@ QString readAloud(const Problem& problem)
     return u"%1\n%2 %3"_s.arg(problem.statement, QString::number(problem.answer), problem.unit);
 }
 
-void addDraw(Faults& faults, const WorkedOutText& draw, const QString& shown)
+void addFaultsOf(Faults& faults, const WorkedOutText& worked, const QString& shown)
 {
-    for (TemplateFault& fault : faultsOf(draw)) {
-        const bool dependsOnDraw = fault.kind == Fault::Rounded || fault.kind == Fault::Negative;
-        if (dependsOnDraw && !draw.dataMarkers.isEmpty())
-            fault.text += u" Por ejemplo, con %1."_s.arg(dataText(draw));
+    for (TemplateFault& fault : faultsOf(worked)) {
+        const bool dependsOnData = fault.kind == Fault::Rounded || fault.kind == Fault::Negative;
+        if (dependsOnData && !worked.dataMarkers.isEmpty())
+            fault.text += u" Por ejemplo, con %1."_s.arg(dataText(worked));
         addNew(faults, fault);
     }
     if (const QString found = singularBeforePlural(shown); !found.isEmpty())
@@ -105,12 +105,12 @@ std::vector<TemplateFault> checkLine(
     Faults faults;
     addMalformed(faults, line);
     QSet<QString> seen;
-    for (int round = 0; round < DrawsPerLine; ++round) {
+    for (int round = 0; round < TrialsPerLine; ++round) {
         try {
-            const WorkedOutText draw = replaceMarkers(line, random, evaluator);
-            const QString shown = readAloud(problemOf(line, draw));
+            const WorkedOutText worked = replaceMarkers(line, random, evaluator);
+            const QString shown = readAloud(problemOf(line, worked));
             seen.insert(shown);
-            addDraw(faults, draw, shown);
+            addFaultsOf(faults, worked, shown);
         } catch (const TemplateError& error) {
             QString reason = error.text();
             addNew(faults, {Fault::Unreadable, reason.replace(u"\n\n"_s, u" "_s)});

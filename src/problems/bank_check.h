@@ -13,7 +13,7 @@ namespace problems {
 class ExpressionEvaluator;
 
 /// How often a line is drawn to be checked.
-inline constexpr int DrawsPerLine = 1000;
+inline constexpr int TrialsPerLine = 1000;
 
 /// Draws a line of a bank often and tells what is wrong with it: each kind of fault once, with
 /// an example.

@@ -27,7 +27,7 @@ QStringView trimBlanks(QStringView text)
 }
 
 /// Where it cannot be worked out, the notes come first: they name the cause more plainly.
-WorkedOutText drawOf(const QString& text, const QStringList& notes, core::RandomSource& random,
+WorkedOutText workOut(const QString& text, const QStringList& notes, core::RandomSource& random,
     const ExpressionEvaluator& evaluator)
 {
     try {
@@ -78,6 +78,7 @@ QString answerFault(const TemplateFields& fields)
 {
     if (!hasLooseAmpersand(fields.answer))
         return {};
+    // The blank at the end is meant, here alone.
     return u"Hay una expresión incorrecta en el resultado. "
            "No debe dejar espacios entre el signo & y el número que lo sigue. "_s;
 }
@@ -98,17 +99,18 @@ void markFromAnswer(TemplateFields& fields)
 TryOut tryOut(const TemplateFields& fields, core::RandomSource& random,
     const ExpressionEvaluator& evaluator)
 {
+    // The blank behind the first word is meant.
     const QString text = u"Enunciado \r\n"_s + fields.statement + u"\r\nRespuesta\r\n"_s
         + fields.answer + u"\r\n"_s + fields.unit;
     QStringList notes;
     for (const TemplateFault& fault : faultsOf(fields))
         notes << fault.text;
-    const WorkedOutText draw = drawOf(text, notes, random, evaluator);
-    for (const TemplateFault& fault : faultsOf(draw))
+    const WorkedOutText worked = workOut(text, notes, random, evaluator);
+    for (const TemplateFault& fault : faultsOf(worked))
         notes << fault.text;
-    if (!notes.isEmpty() && !draw.dataMarkers.isEmpty())
-        notes << u"Datos: %1."_s.arg(dataText(draw));
-    return {draw.text, notes.join(u'\n')};
+    if (!notes.isEmpty() && !worked.dataMarkers.isEmpty())
+        notes << u"Datos: %1."_s.arg(dataText(worked));
+    return {worked.text, notes.join(u'\n')};
 }
 
 QString separatorRefusal()

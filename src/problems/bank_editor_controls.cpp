@@ -160,6 +160,7 @@ void DLGProblemas::makeActions()
         return ui::TwipRect{
             FieldLeft + column * (ActionWidth + Gap), ActionsTop, ActionWidth, CommandHeight};
     };
+    // The blank at the end of "Probar" is meant.
     on(button(u"CBProbar"_s, u"&Probar "_s, place(0), commandColour()), &QPushButton::clicked,
         &DLGProblemas::CBProbar_Click);
     const QStringList captions{u"&Guardar"_s, u"&Limpiar"_s, u"&Borrar"_s};

@@ -57,7 +57,7 @@ void DLGProblemas::closeRequested()
 void DLGProblemas::List1_Click()
 {
     const int entry = selectedEntry();
-    CBAccion[2]->setEnabled(entry != m_model.newEntry());
+    CBAccion[static_cast<std::size_t>(Action::Delete)]->setEnabled(entry != m_model.newEntry());
     if (!m_model.isLine(entry))
         return;
     const TemplateFields shown = m_model.show(entry);
@@ -106,6 +106,7 @@ void DLGProblemas::insertDatum(Target target)
 void DLGProblemas::insertComputed(Target target, const QString& promptEnd)
 {
     const QString prompt =
+        // The two blanks before "y" are meant.
         u"Escriba la expresión a insertar. Utilice &1 para insertar el primer dato, "
         "&2 para el segundo  y así sucesivamente hasta &9"_s;
     const QString expression =
@@ -142,16 +143,16 @@ void DLGProblemas::CBProbar_Click()
 
 void DLGProblemas::CBAccion_Click(int Index)
 {
-    switch (Index) {
-    case 0:
+    switch (static_cast<Action>(Index)) {
+    case Action::Store:
         storeEntry();
         break;
-    case 1:
+    case Action::Empty:
         Text1->clear();
         Text2->clear();
         Text3->clear();
         break;
-    default:
+    case Action::Delete:
         deleteEntry();
         break;
     }

@@ -32,6 +32,7 @@ protected:
 
 private:
     enum class Target { Statement, Answer };
+    enum class Action { Store, Empty, Delete };
 
     void makeList();
     void makeStatement();
@@ -75,13 +76,13 @@ private:
 
     BankEditor m_model;
     ExpressionEvaluator m_evaluator;
-    ui::ListBox* List1 = nullptr;
-    ui::Memo* Text1 = nullptr;
-    ui::TextBox* Text2 = nullptr;
-    ui::TextBox* Text3 = nullptr;
-    std::array<QCheckBox*, 4> CHOpera{};
-    std::array<ui::Button*, 3> CBAccion{};
-    ui::Button* CancelButton = nullptr;
+    ui::ListBox* List1 = nullptr; ///< the lines of the bank, then the entry for a new one
+    ui::Memo* Text1 = nullptr; ///< the statement
+    ui::TextBox* Text2 = nullptr; ///< the answer
+    ui::TextBox* Text3 = nullptr; ///< the unit of the answer
+    std::array<QCheckBox*, 4> CHOpera{}; ///< the operations that the problem exercises
+    std::array<ui::Button*, 3> CBAccion{}; ///< in the order of Action
+    ui::Button* CancelButton = nullptr; ///< closes without saving
     QLabel* m_unsaved = nullptr; ///< shown while the boxes hold what "&Guardar" has not stored
 };
 

@@ -49,9 +49,9 @@ bool ProblemSession::CumpleSeleccion(QStringView line) const
 
 bool ProblemSession::isSelected(OperationMask operations) const
 {
-    if (m_mode == 0)
+    if (m_mode == ProblemSelection::AllTypes)
         return true;
-    if (m_mode == 1) {
+    if (m_mode == ProblemSelection::AnySelected) {
         for (std::size_t k = 0; k < Subtraction; ++k) {
             if (has(operations, k) && m_maskOp[k] != 0)
                 return true;
@@ -59,7 +59,7 @@ bool ProblemSession::isSelected(OperationMask operations) const
         // Deliberate: a selected operation is -1, so subtraction alone never qualifies.
         return has(operations, Subtraction) && m_maskOp[Subtraction] == 1;
     }
-    if (m_mode != 2)
+    if (m_mode != ProblemSelection::AllSelected)
         return false;
     for (std::size_t k = 0; k < m_maskOp.size(); ++k) {
         if (m_maskOp[k] != 0 && !has(operations, k))
@@ -78,7 +78,7 @@ void ProblemSession::beginCycle()
     m_bank.used.assign(m_operations.size(), false);
 }
 
-bool ProblemSession::canDraw() const
+bool ProblemSession::canChoose() const
 {
     for (int index = 1; index <= lastIndex(); ++index) {
         if (isEligible(index))
@@ -94,7 +94,7 @@ bool ProblemSession::hasSelectedBehindFirst() const
             [this](OperationMask operations) { return isSelected(operations); });
 }
 
-void ProblemSession::ensureDrawable()
+void ProblemSession::ensureChoosable()
 {
     if (m_bank.lines.isEmpty())
         throw core::Error(u"El banco de problemas está vacío o falta su archivo, "
@@ -108,17 +108,17 @@ void ProblemSession::ensureDrawable()
     const bool fewLeft = 10 * eligible < lastIndex() + 1;
     // The first line may be all that is left: then the draw would never end. A new cycle is
     // begun for that only where it helps.
-    if (fewLeft || (!canDraw() && hasSelectedBehindFirst()))
+    if (fewLeft || (!canChoose() && hasSelectedBehindFirst()))
         beginCycle();
-    if (!canDraw())
+    if (!canChoose())
         throw core::Error(u"No hay ningún problema que cumpla la selección."_s);
 }
 
-int ProblemSession::drawLine(const std::function<void()>& beforeDraw)
+int ProblemSession::chooseLine(const std::function<void()>& beforeChoice)
 {
     for (;;) {
-        beforeDraw();
-        const int index = core::drawInteger(m_random, lastIndex(), 1).value();
+        beforeChoice();
+        const int index = core::randomInteger(m_random, lastIndex(), 1).value();
         if (isEligible(index))
             return index;
     }
@@ -135,10 +135,10 @@ Problem ProblemSession::prepare(int index)
     }
 }
 
-void ProblemSession::newExercise(const std::function<void()>& beforeDraw)
+void ProblemSession::newExercise(const std::function<void()>& beforeChoice)
 {
-    ensureDrawable();
-    const int index = drawLine(beforeDraw);
+    ensureChoosable();
+    const int index = chooseLine(beforeChoice);
     core::at(m_bank.used, index) = true;
     m_problem = prepare(index);
     Pendiente = true;

@@ -25,18 +25,18 @@ public:
     /// Takes another bank, none of its lines used. The problem that is shown stays.
     void setBank(Bank bank);
 
-    /// Restricts what is drawn: Selección is 0 for all problems, 1 for those with any of
-    /// the operations of MaskOpera, 2 for those with all of them.
+    /// Restricts what is drawn. Seleccion: a ProblemSelection::Option, of the operations of
+    /// MaskOpera; any other number admits nothing.
     void CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera);
 
     /// Whether the selection admits a line.
     bool CumpleSeleccion(QStringView line) const;
 
-    /// Draws the next problem and prepares it; beforeDraw is called before each draw and may
+    /// Draws the next problem and prepares it; beforeChoice is called before each draw and may
     /// throw. The first line is never drawn. Throws core::Error when there is no line to
     /// draw, TemplateError with the number of the line when it cannot be prepared; the
     /// problem of before then stays, counted or not as it was.
-    void newExercise(const std::function<void()>& beforeDraw = [] {});
+    void newExercise(const std::function<void()>& beforeChoice = [] {});
 
     /// The problem that is shown; with an empty statement and the answer 0 before the first.
     const Problem& problem() const { return m_problem; }
@@ -57,17 +57,17 @@ private:
     bool hasSelectedBehindFirst() const;
     bool isEligible(int index) const;
     int lastIndex() const { return static_cast<int>(m_bank.lines.size()) - 1; }
-    bool canDraw() const;
+    bool canChoose() const;
     void beginCycle();
-    void ensureDrawable();
-    int drawLine(const std::function<void()>& beforeDraw);
+    void ensureChoosable();
+    int chooseLine(const std::function<void()>& beforeChoice);
     Problem prepare(int index);
 
     core::RandomSource& m_random;
     ExpressionEvaluator m_evaluator;
     Bank m_bank;
     std::vector<OperationMask> m_operations; ///< of each line of the bank
-    core::Int16 m_mode;
+    core::Int16 m_mode; ///< a ProblemSelection::Option; any other admits nothing
     std::array<core::Int16, 4> m_maskOp{}; ///< of each operation, -1 when it is selected
     Problem m_problem;
 };

@@ -48,10 +48,11 @@ ui::TwipRect commandPlace(int position)
 }
 
 // Events run before each draw. Only where hardly a line of a huge bank is selected are there
-// more draws than this; then a draw takes a hundredth of what looking for events does, so
+// more choices than this; then a draw takes a hundredth of what looking for events does, so
 // they run every few microseconds instead.
-constexpr int DrawsWithEvents = 500;
+constexpr int ChoicesWithEvents = 500;
 
+constexpr int MenuType = 13;
 constexpr ui::look::Font AnswerFont{Family::Andika, 26, true};
 constexpr ui::look::Font CaptionFont{Family::Andika, 18, true};
 constexpr ui::look::Font UnitFont{Family::Andika, 20};
@@ -79,6 +80,7 @@ FormProblemas::FormProblemas(ui::Screens& screens)
         .next = commandPlace(2),
         .clear = commandPlace(1),
         .solution = commandPlace(3)});
+    // No numbers before the first check: meant.
     LBEstado = label(u"LBEstado"_s, u"Ejercicios:   Errores:   "_s,
         {Margin, CountersTop, FullWidth, CountersHeight}, ui::look::Counters);
     makeQuiet(*LBEstado);
@@ -86,6 +88,7 @@ FormProblemas::FormProblemas(ui::Screens& screens)
 
 void FormProblemas::makeMenu()
 {
+    setMenuType(MenuType);
     QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
     on(item(options, u"MnuOpcGes"_s, u"&Gestión de problemas..."_s), &QAction::triggered,
         [this] { MnuOpcGes_Click(); });
@@ -152,11 +155,11 @@ void FormProblemas::CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera)
 
 void FormProblemas::NuevoProblema()
 {
-    int draws = 0;
+    int choices = 0;
     m_model.newExercise([&] {
-        if (draws < DrawsWithEvents || draws % DrawsWithEvents == 0)
+        if (choices < ChoicesWithEvents || choices % ChoicesWithEvents == 0)
             letEventsRun();
-        ++draws;
+        ++choices;
     });
     TBEnunciado->setStatement(m_model.problem().statement);
     LBUnidad->setText(m_model.problem().unit);

@@ -14,8 +14,7 @@ public:
 
     explicit FormProblemas(ui::Screens& screens);
 
-    /// Restricts what is drawn from now on: Selección is 0 for all problems, 1 for those with
-    /// any of the operations of MaskOpera, 2 for those with all of them.
+    /// Restricts what is drawn from now on, as ProblemSession::CargaDatos.
     void CargaDatos(core::Int16 Seleccion, OperationMask MaskOpera);
 
     QString spokenExercise() const override;

@@ -40,12 +40,12 @@ std::optional<Marker> firstMarker(QStringView text, QChar opening, QChar closing
     return Marker{text.mid(first, last - first + 1), text.mid(first + 1, last - first - 1)};
 }
 
-qint32 drawDatum(QStringView limits, core::RandomSource& random)
+qint32 randomDatum(QStringView limits, core::RandomSource& random)
 {
     // Without '_' there is one limit for both.
     const int min = core::readInt16(limits).value();
     const int max = core::readInt16(limits.mid(limits.indexOf(u'_') + 1)).value();
-    const int value = core::drawInteger(random, max - min + 1, min).value();
+    const int value = core::randomInteger(random, max - min + 1, min).value();
     // With the limits swapped the last step of the draw is left out: [9_2] gives 9 to 4.
     return max < min ? std::max(value, std::min(min, max + 2)) : value;
 }
@@ -58,7 +58,7 @@ void replaceData(WorkedOutText& worked, core::RandomSource& random)
         if (drawn == worked.data.size())
             fail(marker->whole, u"Hay más de 9 datos variables en el problema."_s);
         try {
-            worked.data[drawn] = drawDatum(marker->inner, random);
+            worked.data[drawn] = randomDatum(marker->inner, random);
         } catch (const core::OverflowError& error) {
             fail(marker->whole, error.text());
         }

@@ -15,6 +15,7 @@ namespace problems {
 
 namespace {
 
+// Twips.
 constexpr double Width = 8280;
 constexpr double Margin = 240;
 constexpr double Gap = 240;
@@ -140,7 +141,8 @@ OperationMask DLGSelProb::checkedOperations() const
 void DLGSelProb::OKButton_Click()
 {
     const auto chosen = option();
-    m_choice = {chosen == ProblemSelection::NoOption ? 0 : chosen, checkedOperations()};
+    m_choice = {chosen == ProblemSelection::NoOption ? ProblemSelection::AllTypes : chosen,
+        checkedOperations()};
     unload();
 }
 

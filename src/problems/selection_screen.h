@@ -23,7 +23,7 @@ public:
 
     /// What FormProblemas::CargaDatos takes.
     struct Choice {
-        core::Int16 Seleccion;
+        core::Int16 Seleccion; ///< a ProblemSelection::Option
         OperationMask MaskOpera;
     };
     /// Empty unless "Aceptar" has closed the dialog.
@@ -50,10 +50,10 @@ private:
 
     ProblemSelection m_model;
     std::optional<Choice> m_choice;
-    std::array<QRadioButton*, 3> Option1{};
-    std::array<QCheckBox*, 4> Check1{};
-    ui::TextBox* Text1 = nullptr;
-    ui::Button* OKButton = nullptr;
+    std::array<QRadioButton*, 3> Option1{}; ///< in the order of ProblemSelection::Option
+    std::array<QCheckBox*, 4> Check1{}; ///< the operations
+    ui::TextBox* Text1 = nullptr; ///< how many statements the choice leaves
+    ui::Button* OKButton = nullptr; ///< accepts the choice, where it leaves any
 };
 
 } // namespace problems

@@ -77,19 +77,19 @@ void addLooseData(std::vector<TemplateFault>& faults, const QString& text)
             u"%1 está fuera de unas llaves y no se cambia por el dato."_s.arg(match.captured())});
 }
 
-void addMissingData(std::vector<TemplateFault>& faults, const WorkedOutText& draw)
+void addMissingData(std::vector<TemplateFault>& faults, const WorkedOutText& worked)
 {
-    for (const ComputedValue& computed : draw.computed) {
-        if (computed.highestDatum > draw.dataMarkers.size())
+    for (const ComputedValue& computed : worked.computed) {
+        if (computed.highestDatum > worked.dataMarkers.size())
             faults.push_back({Fault::MissingDatum,
                 u"%1 usa el dato &%2, que no existe y vale 0."_s.arg(computed.marker)
                     .arg(computed.highestDatum)});
     }
 }
 
-void addRounded(std::vector<TemplateFault>& faults, const WorkedOutText& draw)
+void addRounded(std::vector<TemplateFault>& faults, const WorkedOutText& worked)
 {
-    for (const ComputedValue& computed : draw.computed) {
+    for (const ComputedValue& computed : worked.computed) {
         if (computed.value != std::floor(computed.value))
             faults.push_back({Fault::Rounded,
                 u"%1 da %2 y se redondea a %3."_s.arg(computed.marker, asWritten(computed.value),
@@ -97,16 +97,16 @@ void addRounded(std::vector<TemplateFault>& faults, const WorkedOutText& draw)
     }
 }
 
-void addNegative(std::vector<TemplateFault>& faults, const WorkedOutText& draw)
+void addNegative(std::vector<TemplateFault>& faults, const WorkedOutText& worked)
 {
     const auto add = [&](const QString& marker, double value) {
         if (value < 0)
             faults.push_back(
                 {Fault::Negative, u"%1 da %2, menos que cero."_s.arg(marker, asWritten(value))});
     };
-    for (qsizetype k = 0; k < draw.dataMarkers.size(); ++k)
-        add(draw.dataMarkers.at(k), core::at(draw.data, k));
-    for (const ComputedValue& computed : draw.computed)
+    for (qsizetype k = 0; k < worked.dataMarkers.size(); ++k)
+        add(worked.dataMarkers.at(k), core::at(worked.data, k));
+    for (const ComputedValue& computed : worked.computed)
         add(computed.marker, computed.value);
 }
 
@@ -121,22 +121,22 @@ std::vector<TemplateFault> faultsOf(const TemplateFields& fields)
     return faults;
 }
 
-std::vector<TemplateFault> faultsOf(const WorkedOutText& draw)
+std::vector<TemplateFault> faultsOf(const WorkedOutText& worked)
 {
     std::vector<TemplateFault> faults;
-    addLooseParenthesis(faults, draw.text);
-    addLooseData(faults, draw.text);
-    addMissingData(faults, draw);
-    addRounded(faults, draw);
-    addNegative(faults, draw);
+    addLooseParenthesis(faults, worked.text);
+    addLooseData(faults, worked.text);
+    addMissingData(faults, worked);
+    addRounded(faults, worked);
+    addNegative(faults, worked);
     return faults;
 }
 
-QString dataText(const WorkedOutText& draw)
+QString dataText(const WorkedOutText& worked)
 {
     QStringList data;
-    for (qsizetype k = 0; k < draw.dataMarkers.size(); ++k)
-        data << u"&%1 = %2"_s.arg(k + 1).arg(core::at(draw.data, k));
+    for (qsizetype k = 0; k < worked.dataMarkers.size(); ++k)
+        data << u"&%1 = %2"_s.arg(k + 1).arg(core::at(worked.data, k));
     return data.join(u", "_s);
 }
 

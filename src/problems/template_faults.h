@@ -32,9 +32,9 @@ struct TemplateFault {
 std::vector<TemplateFault> faultsOf(const TemplateFields& fields);
 
 /// What is wrong with one draw of a template, in the order of Fault.
-std::vector<TemplateFault> faultsOf(const WorkedOutText& draw);
+std::vector<TemplateFault> faultsOf(const WorkedOutText& worked);
 
 /// "&1 = 7, &2 = 2": the data of a draw; empty without any.
-QString dataText(const WorkedOutText& draw);
+QString dataText(const WorkedOutText& worked);
 
 } // namespace problems

@@ -7,6 +7,16 @@ using namespace Qt::StringLiterals;
 
 namespace shell {
 
+void showVerdict(ui::VerdictBox& box, const VerdictLine& line)
+{
+    using Mark = ui::VerdictBox::Mark;
+    const auto verdict = line.verdict();
+    const Mark mark = verdict == Verdict::Right ? Mark::Right
+        : verdict == Verdict::Wrong             ? Mark::Wrong
+                                                : Mark::None;
+    box.setVerdict(line.text(), mark);
+}
+
 QString ExerciseScreen::defaultSolutionCaption()
 {
     return u"&Ver solución"_s;
@@ -53,16 +63,6 @@ void ExerciseScreen::Command2_Click(int Index)
 void ExerciseScreen::enterChecks(QWidget* answerBox)
 {
     onEnter(answerBox, [this] { Command1_Click(); });
-}
-
-void ExerciseScreen::showVerdict(ui::VerdictBox& box, const VerdictLine& line)
-{
-    using Mark = ui::VerdictBox::Mark;
-    const auto verdict = line.verdict();
-    const Mark mark = verdict == Verdict::Right ? Mark::Right
-        : verdict == Verdict::Wrong             ? Mark::Wrong
-                                                : Mark::None;
-    box.setVerdict(line.text(), mark);
 }
 
 bool ExerciseScreen::askToRepeat()

@@ -8,6 +8,9 @@
 
 namespace shell {
 
+/// Shows the verdict line of a model, with a tick or a cross where it tells a verdict.
+void showVerdict(ui::VerdictBox& box, const VerdictLine& line);
+
 /// What the drill screens share: the four buttons in their colours, Enter as "&Hecho" in an
 /// answer box, the verdict, and the question at the end of a series.
 class ExerciseScreen : public ui::Screen {
@@ -39,9 +42,6 @@ protected:
 
     /// Enter in this box does what "&Hecho" does.
     void enterChecks(QWidget* answerBox);
-
-    /// Shows the verdict line of the model, with a tick or a cross where it tells a verdict.
-    static void showVerdict(ui::VerdictBox& box, const VerdictLine& line);
 
     /// "Actividad terminada": true when the pupil wants to repeat the series.
     bool askToRepeat();

@@ -73,6 +73,8 @@ void Form1::Command1_Click(int Index)
 
 void Form1::exitProgram()
 {
+    // In this order; a dialog or an activity that is not here is closed whenever the menu can be
+    // clicked.
     for (const QString& name : {u"FormProblemas"_s, u"Form8"_s, u"Form6"_s, u"Form5"_s,
              u"Form4"_s, u"Form3"_s, u"Form2"_s})
         screens().unload(name);

@@ -21,11 +21,6 @@ constexpr double LedgeOverhang = 4; // on either side of it
 constexpr double SlipRadius = 4;
 constexpr double TextMargin = 10;
 
-constexpr double twips(double pixels)
-{
-    return pixels * ui::TwipsPerPixel;
-}
-
 } // namespace
 
 QPalette chalk()
@@ -43,9 +38,9 @@ Blackboard::Blackboard(QWidget* parent)
 
 ui::TwipRect Blackboard::around(const ui::TwipRect& writing)
 {
-    const double side = twips(Frame + LedgeOverhang);
-    return {writing.left - side, writing.top - twips(Frame), writing.width + 2 * side,
-        writing.height + twips(2 * Frame + LedgeHeight)};
+    const double side = ui::twips(Frame + LedgeOverhang);
+    return {writing.left - side, writing.top - ui::twips(Frame), writing.width + 2 * side,
+        writing.height + ui::twips(2 * Frame + LedgeHeight)};
 }
 
 void Blackboard::paintEvent(QPaintEvent*)
@@ -93,7 +88,7 @@ void Slip::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(ui::look::Paper));
+    painter.setBrush(ui::look::paper());
     painter.drawRoundedRect(rect(), radius, radius);
 }
 

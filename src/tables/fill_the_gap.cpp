@@ -20,8 +20,8 @@ void FillTheGap::newExercise()
     const core::Int16 previousA = FactorA;
     const core::Int16 previousB = FactorB;
     do {
-        FactorA = core::drawInteger(m_random, 9, 2);
-        FactorB = core::drawInteger(m_random, 9, 2);
+        FactorA = core::randomInteger(m_random, 9, 2);
+        FactorB = core::randomInteger(m_random, 9, 2);
         if (FactorB < FactorA)
             std::swap(FactorA, FactorB);
     } while (FactorA == previousA || FactorB == previousB);
@@ -34,7 +34,7 @@ shell::Verdict FillTheGap::judge(double answer)
 {
     const Verdict verdict = answer == hiddenFactor() ? Verdict::Right : Verdict::Wrong;
     if (verdict == Verdict::Right)
-        m_verdict.tell(verdict, u"Respuesta correcta "_s);
+        m_verdict.tell(verdict, u"Respuesta correcta "_s); // the last blank is meant
     else
         m_verdict.tell(verdict, u"Respuesta incorrecta"_s, shell::Repeat::BlankInFront);
     try {

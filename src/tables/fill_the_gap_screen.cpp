@@ -14,11 +14,13 @@ namespace tables {
 
 namespace {
 
+// Twips.
 constexpr double Width = 4680;
 constexpr double Height = 4590;
 
 constexpr ui::look::Font RowFont{Family::CourierNew, 30, true};
-constexpr ui::look::Font CommandFont{Family::Andika, 12, true};
+constexpr ui::look::Font CommandFont{Family::Andika, 11, true};
+constexpr ui::look::Font CounterFont{Family::Andika, 9}; // this screen opens large
 
 } // namespace
 
@@ -31,14 +33,14 @@ FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Completa el hueco"_s, Width, Height)
 {
     displayBox(u"TbInstruc"_s, {180, 180, 4320, 420}, ui::look::Instruction, u"Instrucciones"_s,
-        u"Completa el Cuadro vacío "_s)
+        u"Completa el Cuadro vacío "_s) // capital and last blank are meant
         ->setAlignment(Qt::AlignCenter);
     makeRow();
     TbResultado = verdictBox(u"TbResultado"_s, {180, 2400, 4320, 540}, u"Comprobación"_s);
     TbResultado->setJudged({TbTermin[1]});
     makeButtons();
-    TbEjercicios = displayBox(u"TbEjercicios"_s, {180, 4110, 4320, 360}, ui::look::Counters,
-        u"Ejercicios y errores"_s, m_model.counters().FormatoSimple());
+    TbEjercicios = countersBox(u"TbEjercicios"_s, {180, 4140, 4320, 300},
+        m_model.counters().FormatoSimple(), CounterFont);
 }
 
 void FrmMultHuecos::makeRow()
@@ -94,7 +96,7 @@ void FrmMultHuecos::makeButtons()
 
 void FrmMultHuecos::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     ui::Ground::pose(*this, ui::Pose::Waiting);
     newExercise();
     TbTermin[1]->setFocus();

@@ -14,18 +14,17 @@ namespace tables {
 
 namespace {
 
-constexpr int Shuffled = 2;
-constexpr int Swaps = 100;
+constexpr int Swaps = 100; // of neighbours, after which the ascending order still shows: meant
 
 QString activityName(int activity)
 {
     switch (activity) {
-    case 0:
+    case MultiplicationTables::ViewTable:
         return u"Ver tabla"_s;
-    case 1:
+    case MultiplicationTables::ReviewInOrder:
         return u"Repasar tabla en orden"_s;
     default:
-        return u"repasar tabla salteada"_s;
+        return u"repasar tabla salteada"_s; // in small letters: meant
     }
 }
 
@@ -72,7 +71,7 @@ void MultiplicationTables::newExercise()
     Pregunta = 1;
     for (int i = 0; i < 10; ++i)
         core::at(Orden, i) = i + 1;
-    if (ActividadActual == Shuffled)
+    if (ActividadActual == ReviewShuffled)
         shuffle();
     ErroresRepaso = 0;
 }
@@ -80,7 +79,7 @@ void MultiplicationTables::newExercise()
 void MultiplicationTables::shuffle()
 {
     for (int swap = 0; swap < Swaps; ++swap) {
-        const int r = core::drawInteger(m_random, 9, 1).value();
+        const int r = core::randomInteger(m_random, 9, 1).value();
         std::swap(core::at(Orden, r - 1), core::at(Orden, r));
     }
 }
@@ -102,6 +101,7 @@ shell::Verdict MultiplicationTables::judge(double answer)
         return Verdict::NotJudged;
     if (answer != product()) {
         ++ErroresRepaso;
+        // The small letter and the blank at the end are meant.
         m_verdict.tell(Verdict::Wrong, u"resultado incorrecto "_s);
         return Verdict::Wrong;
     }

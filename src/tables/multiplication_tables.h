@@ -23,6 +23,7 @@ public:
 
     static constexpr int Tables = 10;
     static constexpr int Activities = 3;
+    enum Activity { ViewTable, ReviewInOrder, ReviewShuffled };
 
     /// random must outlive the model.
     explicit MultiplicationTables(core::RandomSource& random);
@@ -31,12 +32,12 @@ public:
     int tableAt(int index) const;
     int table() const { return tableAt(TablaActual.value()); }
 
-    int currentActivity() const { return ActividadActual.value(); } ///< 0 to 2
+    int currentActivity() const { return ActividadActual.value(); } ///< an Activity
     int nextTable() const; ///< menu index behind the current one, back to 0
     int nextActivity() const;
     void chooseTable(int index) { TablaActual = index; }
     void chooseActivity(int index) { ActividadActual = index; }
-    bool isReview() const { return ActividadActual != 0; }
+    bool isReview() const { return ActividadActual != ViewTable; }
 
     /// "Tabla del 7 - Ver tabla"
     QString caption() const;
@@ -79,12 +80,13 @@ private:
     void shuffle();
 
     core::RandomSource& m_random;
-    std::array<core::Int16, Tables> Tablas{1, 2, 5, 10, 3, 4, 6, 7, 8, 9};
-    std::array<core::Int16, 10> Orden{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-    core::Int16 TablaActual;
-    core::Int16 ActividadActual;
-    core::Int16 Pregunta = 1;
-    core::Int16 ErroresRepaso;
+    std::array<core::Int16, Tables> Tablas{
+        1, 2, 5, 10, 3, 4, 6, 7, 8, 9}; ///< as the menu has them
+    std::array<core::Int16, 10> Orden{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}; ///< of the questions
+    core::Int16 TablaActual; ///< its place in the menu, from 0
+    core::Int16 ActividadActual; ///< an Activity
+    core::Int16 Pregunta = 1; ///< to 10; Over behind the last one
+    core::Int16 ErroresRepaso; ///< of this series
     shell::VerdictLine m_verdict;
 };
 

@@ -22,6 +22,7 @@ namespace {
 constexpr double Width = 6400;
 constexpr double Height = 5325;
 
+constexpr int MenuType = 12;
 constexpr ui::look::Font TableFont{Family::CourierNew, 22, true};
 constexpr ui::look::Font QuestionFont{Family::CourierNew, 26, true};
 
@@ -59,6 +60,7 @@ void Form2::makeWayOn()
 
 void Form2::makeMenu()
 {
+    setMenuType(MenuType);
     QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
     QStringList captions;
     for (int i = 0; i < MultiplicationTables::Tables; ++i)
@@ -83,10 +85,10 @@ void Form2::makeTables()
     constexpr ui::TwipRect Rows{900, 640, 4600, 3100};
     constexpr double Half = Rows.width / 2;
     m_poster = add(new Poster(canvas()), {}, Poster::around(Rows));
-    TbTabla1 = add(new PosterHalf(canvas()), u"TbTabla1"_s,
+    TbTabla1 = add(new PosterHalf(PosterHalf::Side::Left, canvas()), u"TbTabla1"_s,
         ui::TwipRect{Rows.left, Rows.top, Half, Rows.height}, TableFont);
     TbTabla1->setAccessibleName(u"Primera mitad de la tabla"_s);
-    TbTabla2 = add(new PosterHalf(canvas()), u"TbTabla2"_s,
+    TbTabla2 = add(new PosterHalf(PosterHalf::Side::Right, canvas()), u"TbTabla2"_s,
         ui::TwipRect{Rows.left + Half, Rows.top, Half, Rows.height}, TableFont);
     TbTabla2->setAccessibleName(u"Segunda mitad de la tabla"_s);
 }

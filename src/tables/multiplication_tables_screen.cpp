@@ -28,7 +28,7 @@ void Form2::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
     ui::Ground::pose(*this, ui::Pose::Waiting);
-    MnuOpcActLis_Click(0);
+    MnuOpcActLis_Click(MultiplicationTables::ViewTable);
     EscribeTabla();
 }
 

@@ -18,14 +18,10 @@ constexpr int LineLength = 10; // characters
 
 // Pixels at factor 1.
 constexpr double SideMargin = 26; // of paper beside the rows
+constexpr double RowMargin = 3; // between a row's end and its text, at least
 constexpr double EndMargin = 6; // of paper above and below them
 constexpr double Rod = 9;
 constexpr double RodOverhang = 7;
-
-constexpr double twips(double pixels)
-{
-    return pixels * ui::TwipsPerPixel;
-}
 
 class FactorsQuieter final : public QSyntaxHighlighter {
 public:
@@ -68,8 +64,8 @@ Poster::Poster(QWidget* parent)
 
 ui::TwipRect Poster::around(const ui::TwipRect& rows)
 {
-    const double side = twips(SideMargin + RodOverhang);
-    const double end = twips(EndMargin + Rod);
+    const double side = ui::twips(SideMargin + RodOverhang);
+    const double end = ui::twips(EndMargin + Rod);
     return {rows.left - side, rows.top - end, rows.width + 2 * side, rows.height + 2 * end};
 }
 
@@ -80,7 +76,7 @@ void Poster::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF paper =
         QRectF(rect()).adjusted(RodOverhang * f, Rod * f / 2, -RodOverhang * f, -Rod * f / 2);
-    painter.setPen(QPen(QColor(ui::look::Edge), f));
+    painter.setPen(QPen(QColor(ui::look::Edge), ui::look::thick(1) * f));
     painter.setBrush(QColor(ui::look::Card));
     painter.drawRect(paper);
 
@@ -95,8 +91,9 @@ void Poster::paintEvent(QPaintEvent*)
     drawWood(painter, {0, height() - Rod * f, 1.0 * width(), Rod * f}, f);
 }
 
-PosterHalf::PosterHalf(QWidget* parent)
+PosterHalf::PosterHalf(Side side, QWidget* parent)
     : Memo(Kind::Entry, parent)
+    , m_side(side)
 {
     auto* text = new QTextDocument(this);
     m_rows = new RowLayout(text);
@@ -137,8 +134,12 @@ void PosterHalf::layOutRows()
     const double row = 1.0 * height() / Poster::Rows;
     m_rows->setRowHeight(row);
     const int top = qRound((row - metrics.lineSpacing()) / 2);
-    const int side = qRound((width() - metrics.horizontalAdvance(QString(LineLength, u'0'))) / 2);
-    const QMargins margins(std::max(0, side), std::max(0, top), 0, 0);
+    const double free = width() - metrics.horizontalAdvance(QString(LineLength, u'0'));
+    const double edge = RowMargin * factor();
+    // In the middle of half the paper, which reaches beyond the rows.
+    const double outwards = std::min(SideMargin * factor() / 2, free / 2 - edge);
+    const int left = qRound(free / 2 + (m_side == Side::Left ? -outwards : outwards));
+    const QMargins margins(std::max(0, left), std::max(0, top), 0, 0);
     if (margins != viewportMargins())
         setViewportMargins(margins);
     viewport()->update();

@@ -21,11 +21,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// Half a table: each of its lines stands in the middle of a row of the poster, and what comes
+/// Half a table: each of its lines stands in the middle of its half of the poster, and what comes
 /// before the product is quieter than the product.
 class PosterHalf : public ui::Memo {
 public:
-    explicit PosterHalf(QWidget* parent);
+    enum class Side { Left, Right };
+
+    PosterHalf(Side side, QWidget* parent);
 
     void setFactor(double factor) override;
 
@@ -36,6 +38,7 @@ protected:
 private:
     void layOutRows();
 
+    Side m_side;
     RowLayout* m_rows;
 };
 

@@ -92,6 +92,7 @@ QuickTables::LimitVerdict QuickTables::setLimit(core::Int16 limit)
 QString QuickTables::limitWarning(LimitVerdict verdict)
 {
     const QString size = verdict == LimitVerdict::TooSmall ? u"pequeño"_s : u"grande"_s;
+    // The runs of blanks are meant.
     return u"Ha especificado un valor demasiado %1. La actividad continuará hasta   que se "
            "pulse  el botón salir"_s.arg(size);
 }
@@ -127,7 +128,7 @@ QuickTables::Events QuickTables::tickOperation()
         if (ended())
             return; // before this time-out is counted as one
         ++m_state.ErroresTiempo;
-        NuevaOperacion();
+        NuevaOperacion(); // the second one, behind that of Fallo: meant
     });
 }
 
@@ -151,6 +152,7 @@ void QuickTables::end()
 
 void QuickTables::NuevaOperacion()
 {
+    // The one about to be drawn counts: of five operations the pupil answers four. Meant.
     if (m_state.FinActividad == End::Operations)
         advance();
     if (ended())
@@ -158,8 +160,8 @@ void QuickTables::NuevaOperacion()
     const core::Int16 previousA = m_state.FactorA;
     const core::Int16 previousB = m_state.FactorB;
     do {
-        m_state.FactorA = core::drawInteger(m_random, LargestNumber, 1);
-        m_state.FactorB = core::drawInteger(m_random, LargestNumber, 1);
+        m_state.FactorA = core::randomInteger(m_random, LargestNumber, 1);
+        m_state.FactorB = core::randomInteger(m_random, LargestNumber, 1);
     } while (m_state.FactorA + m_state.FactorB < SmallestSum
         || (m_state.FactorA == previousA && m_state.FactorB == previousB));
     m_state.Producto = m_state.FactorA * m_state.FactorB;

@@ -17,6 +17,7 @@ namespace tables {
 
 namespace {
 
+// Twips.
 constexpr double Width = 5880;
 constexpr double Height = 6600;
 
@@ -32,8 +33,9 @@ Form8::Form8(ui::Screens& screens)
     : Screen(screens, screenName(), u"TABLAS RÁPIDAS"_s, Width, Height)
     , m_model(screens.random())
 {
-    displayBox(u"TBInstruc"_s, {240, 180, 5400, 420}, ui::look::Instruction, u"Instrucciones"_s,
-        u"Escribe el resultado correcto y pulsa enter "_s);
+    TBInstruc = displayBox(u"TBInstruc"_s, {240, 180, 5400, 420}, ui::look::Instruction,
+        u"Instrucciones"_s,
+        u"Escribe el resultado correcto y pulsa enter "_s); // the last blank is meant
     makeRow();
     TBResul = add(new VerdictPatch(canvas()), u"TBResul"_s, ui::TwipRect{240, 1980, 5400, 540});
     TBResul->setAccessibleName(u"Resultado"_s);

@@ -44,6 +44,7 @@ void Form8::Option1_Click(int Index)
 {
     m_model.endBy(static_cast<QuickTables::End>(Index));
     const bool limited = Index != 0;
+    // The "h" is meant.
     const QStringList captions{{}, u"Mihnutos: "_s, u"Operaciones: "_s, u"Errores: "_s};
     Label1->setText(captions.at(Index));
     Label1->setEnabled(limited);
@@ -145,7 +146,7 @@ void Form8::showOperation()
 
 QString Form8::spokenExercise() const
 {
-    return m_model.isRunning() ? m_model.spokenOperation() : QString();
+    return m_model.isRunning() ? m_model.spokenOperation() : TBInstruc->text();
 }
 
 void Form8::showTime()

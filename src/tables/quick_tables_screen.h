@@ -53,6 +53,7 @@ private:
     ui::TextBox* Text1 = nullptr; ///< the limit
     ui::Button* Command1 = nullptr; ///< starts and ends the drill
     std::array<ui::TextBox*, 5> TbDatos{}; ///< factor, sign, factor, sign, answer
+    ui::TextBox* TBInstruc = nullptr; ///< what to do
     QLabel* LBOperacion = nullptr; ///< the operation as one line
     TimeLabel* LBTiempo = nullptr; ///< the seconds left
     CountdownBar* m_bar = nullptr;

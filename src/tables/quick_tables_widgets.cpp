@@ -21,9 +21,10 @@ void drawRounded(QPainter& painter, const QRectF& rect, double radius)
 void drawFilled(QPainter& painter, const QRectF& rect, const QColor& colour, double factor)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ui::look::edgeOf(colour), factor));
+    const double pen = ui::look::thick(1) * factor;
+    painter.setPen(QPen(ui::look::edgeOf(colour), pen));
     painter.setBrush(colour);
-    const double half = factor / 2;
+    const double half = pen / 2;
     drawRounded(painter, rect.adjusted(half, half, -half, -half), Radius * factor);
 }
 

@@ -16,8 +16,8 @@ RepeatedSum::RepeatedSum(core::RandomSource& random)
 void RepeatedSum::newExercise()
 {
     m_canContinue = true;
-    Sumando = core::drawInteger(m_random, 10, 1);
-    Veces = core::drawInteger(m_random, 9, 2);
+    Sumando = core::randomInteger(m_random, 10, 1);
+    Veces = core::randomInteger(m_random, 9, 2);
     Pendiente = true;
     m_verdict.clear();
 }
@@ -57,7 +57,7 @@ QString RepeatedSum::sumText() const
     QString text = term;
     for (int k = 2; k <= times(); ++k) {
         text += u" + "_s + term;
-        if (k == TermsPerLine)
+        if (k == TermsPerLine) // behind the last term too: meant
             text += u"\r\n"_s;
     }
     return text;

@@ -14,6 +14,7 @@ namespace tables {
 
 namespace {
 
+// Twips.
 constexpr double Width = 4680;
 constexpr double Height = 7590;
 
@@ -23,7 +24,7 @@ constexpr ui::look::Font FactorFont{Family::Arial, 26, true};
 // The given places are narrow: these are the largest that fit them.
 constexpr ui::look::Font VerdictFont{Family::Andika, 14, true};
 constexpr double VerdictMark = 26;
-constexpr ui::look::Font CommandFont{Family::Andika, 13};
+constexpr ui::look::Font CommandFont{Family::Andika, 14, false, 93};
 constexpr ui::look::Font CounterFont{Family::Andika, 14}; // this screen opens small
 
 /// The sign between the factors. The first factor's box covers its left part: its text
@@ -77,8 +78,8 @@ void Form4::makeBoxes()
     Text1->setMarkSize(VerdictMark);
     Text1->setJudged({Text3[0], Text3[2]});
     setControlFont(Text1, VerdictFont);
-    tbResultados = displayBox(u"tbResultados"_s, {900, 7000, 3000, 500}, CounterFont,
-        u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
+    tbResultados = countersBox(u"tbResultados"_s, {900, 7000, 3000, 500},
+        m_model.counters().FormatoAlineado(), CounterFont);
 }
 
 void Form4::makeButtons()

@@ -5,24 +5,43 @@
 #include "ui/look.h"
 #include "ui/style.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QResource>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
 namespace ui {
 
-void prepareApplication()
+namespace {
+
+constexpr int IconSide = 64; // pixels of the file
+
+/// Not as a PNG file: the toolkit would load what reads all its other kinds of picture first.
+QIcon windowIcon()
+{
+    const QResource pixels(u":/pizarrin.rgba"_s);
+    const QImage image(pixels.data(), IconSide, IconSide, QImage::Format_RGBA8888);
+    return QIcon(QPixmap::fromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied)));
+}
+
+} // namespace
+
+void ignoreDesktopSettings()
 {
     QApplication::setDesktopSettingsAware(false);
     QApplication::setAttribute(Qt::AA_DontShowIconsInMenus); // some desktops have them
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); // some desktops show it elsewhere
 }
 
-void dress()
+void setUpApplication()
 {
+    QAccessible::isActive(); // waits for the desktop's bus, while the fonts are read beside it
     QApplication::setStyle(new Style);
-    QApplication::setPalette(look::palette());
+    look::setContrast(look::Contrast::Usual);
     QApplication::setFont(look::scaled(look::Instruction, 1));
+    QApplication::setWindowIcon(windowIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     new HeldKeys(qApp);
     new BlockedWindows(qApp);

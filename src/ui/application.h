@@ -3,14 +3,14 @@
 namespace ui {
 
 /// Switches the desktop's own settings off. Call before the application object is made.
-void prepareApplication();
+void ignoreDesktopSettings();
 
-/// Gives the application the program's style, palette and font, and its way with held keys
+/// Gives the application the program's style, palette, font and icon, and its way with held keys
 /// and with windows that are blocked.
-void dress();
+void setUpApplication();
 
 /// Installs the toolkit's own Spanish texts (context menus of text boxes), once. Apart from
-/// dress(), because the menu shows none of them and starts faster without.
+/// setUpApplication(), because the menu shows none of them and starts faster without.
 void installToolkitTexts();
 
 } // namespace ui

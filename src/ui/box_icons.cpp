@@ -1,6 +1,7 @@
 #include "ui/box_icons.h"
 
 #include "ui/look.h"
+#include "ui/marks.h"
 
 #include <QPainter>
 #include <QPixmap>
@@ -48,8 +49,7 @@ void drawCritical(QPainter& painter)
 {
     drawDisc(painter, QColor(look::Wrong));
     painter.setPen(stroke(QColor(look::Card)));
-    painter.drawLine(QPointF(0.32, 0.32), QPointF(0.68, 0.68));
-    painter.drawLine(QPointF(0.68, 0.32), QPointF(0.32, 0.68));
+    drawCross(painter, {QPointF(0.32, 0.32), QPointF(0.68, 0.68)});
 }
 
 } // namespace

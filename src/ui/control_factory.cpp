@@ -1,5 +1,7 @@
 #include "ui/control_factory.h"
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 ControlFactory::ControlFactory(QWidget* canvas)
@@ -30,6 +32,16 @@ TextBox* ControlFactory::displayBox(const QString& name, const TwipRect& place,
     auto* box = add(new TextBox(TextBox::Kind::Display, m_canvas), name, place, font);
     box->setAccessibleName(accessibleName);
     box->setText(text);
+    return box;
+}
+
+TextBox* ControlFactory::countersBox(
+    const QString& name, const TwipRect& place, const QString& text, const look::Font& font)
+{
+    TextBox* box = displayBox(name, place, font, u"Ejercicios y errores"_s, text);
+    QPalette quiet = box->palette();
+    quiet.setColor(QPalette::Text, QColor(look::Quiet));
+    box->setPalette(quiet);
     return box;
 }
 

@@ -35,6 +35,9 @@ public:
         const QString& accessibleName);
     TextBox* displayBox(const QString& name, const TwipRect& place, const look::Font& font,
         const QString& accessibleName, const QString& text = {});
+    /// The line that counts exercises and errors: quiet beside the work.
+    TextBox* countersBox(const QString& name, const TwipRect& place, const QString& text,
+        const look::Font& font = look::Counters);
     VerdictBox* verdictBox(
         const QString& name, const TwipRect& place, const QString& accessibleName);
     /// An entry box of several lines.

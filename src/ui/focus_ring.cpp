@@ -1,6 +1,6 @@
 #include "ui/focus_ring.h"
 
-#include "ui/faces.h"
+#include "ui/control_painting.h"
 #include "ui/look.h"
 #include "ui/tray.h"
 
@@ -79,7 +79,7 @@ void FocusRing::surround()
 
 int FocusRing::ringWidth() const
 {
-    return static_cast<int>(std::ceil(look::RingWidth * factor()));
+    return static_cast<int>(std::ceil(look::thick(look::RingWidth) * factor()));
 }
 
 bool FocusRing::eventFilter(QObject* watched, QEvent* event)
@@ -98,12 +98,20 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+void FocusRing::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        surround(); // the ring may be as thick again
+    QWidget::changeEvent(event);
+}
+
 void FocusRing::paintEvent(QPaintEvent*)
 {
     if (!m_focused)
         return;
-    const double full = look::RingWidth * factor();
-    const double width = isOnlyRead(m_focused) ? look::QuietRingWidth * factor() : full;
+    const double full = look::thick(look::RingWidth) * factor();
+    const double width =
+        isOnlyRead(m_focused) ? look::thick(look::QuietRingWidth) * factor() : full;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(

@@ -21,6 +21,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

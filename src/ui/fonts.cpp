@@ -3,8 +3,12 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFontDatabase>
+#include <QFontMetrics>
+#include <QLibrary>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,59 +18,88 @@ namespace {
 
 constexpr int LastResorts = 2; // the names at the end that are found on every system
 
-bool isInstalled(const QStringList& names)
+/// Out of the whole list, which costs less than to ask for one family.
+QStringList installed(const QStringList& names)
 {
-    return std::any_of(names.begin(), names.end(),
-        [](const QString& name) { return QFontDatabase::hasFamily(name); });
+    const QStringList all = QFontDatabase::families();
+    QStringList found;
+    std::copy_if(names.begin(), names.end(), std::back_inserter(found), [&](const QString& name) {
+        // One that several makers have made stands there with the maker behind it.
+        return std::any_of(all.begin(), all.end(), [&](const QString& family) {
+            return family.section(u" ["_s, 0, 0).compare(name, Qt::CaseInsensitive) == 0;
+        });
+    });
+    return found;
 }
 
-/// Nothing is looked for twice: each family has one of these.
-class Travelling {
-public:
-    Travelling(QStringList names, const QString& prefix)
-        : m_names(std::move(names))
-    {
-        const QString folder = QCoreApplication::applicationDirPath() + u"/fonts"_s;
-        // Asking for the installed ones reads all of them: first whether there is any need.
-        if (QDir(folder).exists() && !isInstalled(m_names.first(m_names.size() - LastResorts)))
-            loadFonts(folder, prefix);
-    }
+void loadFonts(const QString& prefix)
+{
+    const QDir folder(QCoreApplication::applicationDirPath() + u"/fonts"_s);
+    for (const QFileInfo& file : folder.entryInfoList({prefix + u'*'}, QDir::Files, QDir::Name))
+        QFontDatabase::addApplicationFont(file.filePath());
+}
 
-    const QStringList& names() const { return m_names; }
+/// The names that are installed, or all where none is. With several, the toolkit looks at once
+/// for what else could stand in, and not when a glyph is missing: none too many.
+QStringList found(const QStringList& names)
+{
+    const QStringList there = installed(names);
+    return there.isEmpty() ? names : there;
+}
 
-private:
-    QStringList m_names;
-};
+QStringList foundOrLoaded(const QStringList& names, const QString& prefix)
+{
+    if (installed(names.first(names.size() - LastResorts)).isEmpty())
+        loadFonts(prefix);
+    return found(names);
+}
 
 } // namespace
 
-int loadFonts(const QString& folder, const QString& prefix)
+std::jthread readFontSettings()
 {
-    const auto files = QDir(folder).entryInfoList({prefix + u'*'}, QDir::Files, QDir::Name);
-    return static_cast<int>(std::count_if(files.begin(), files.end(), [](const QFileInfo& file) {
-        return QFontDatabase::addApplicationFont(file.filePath()) >= 0;
-    }));
+    return std::jthread([] {
+#ifndef Q_OS_WIN // the library that the toolkit asks; with others there is nothing to hurry
+        if (const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit"))
+            reinterpret_cast<int (*)()>(init)();
+#endif
+    });
+}
+
+std::jthread readFontList(std::jthread settings)
+{
+    return std::jthread([settings = std::move(settings)]() mutable {
+        settings.join();
+        // The toolkit keeps for all threads what stands in for a font.
+        QFontMetrics(scaled({}, 1)).height();
+    });
 }
 
 QStringList familiesOf(Family family)
 {
     switch (family) {
-    case Family::Arial:
-        return {u"Arial"_s, u"Liberation Sans"_s, u"sans-serif"_s};
-    case Family::Verdana:
-        return {u"Verdana"_s, u"DejaVu Sans"_s, u"sans-serif"_s};
+    case Family::Arial: {
+        static const QStringList arial =
+            found({u"Arial"_s, u"Liberation Sans"_s, u"sans-serif"_s});
+        return arial;
+    }
+    case Family::Verdana: {
+        static const QStringList verdana =
+            found({u"Verdana"_s, u"DejaVu Sans"_s, u"sans-serif"_s});
+        return verdana;
+    }
     case Family::CourierNew: { // the second has a plain zero, as at school
-        static const Travelling courier(
+        static const QStringList courier = foundOrLoaded(
             {u"Courier New"_s, u"Nimbus Mono PS"_s, u"Liberation Mono"_s, u"monospace"_s},
             u"NimbusMonoPS"_s);
-        return courier.names();
+        return courier;
     }
     case Family::Andika:
         break;
     }
-    static const Travelling andika(
-        {u"Andika"_s, u"Liberation Sans"_s, u"sans-serif"_s}, u"Andika"_s);
-    return andika.names();
+    static const QStringList andika =
+        foundOrLoaded({u"Andika"_s, u"Liberation Sans"_s, u"sans-serif"_s}, u"Andika"_s);
+    return andika;
 }
 
 } // namespace ui::look

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 
-#include <iostream>
+#include <cstdio>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -94,7 +94,8 @@ void HandlerGuard::run(const std::function<void()>& body, core::SourceLine where
 
 QString HandlerGuard::logged(const char* what, core::SourceLine where)
 {
-    std::cerr << where.text() << ": " << what << std::endl;
+    // No stream: as soon as one is named, the library makes all of them at the start.
+    std::fprintf(stderr, "%s: %s\n", where.text().c_str(), what);
     return mistakeText();
 }
 

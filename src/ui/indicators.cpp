@@ -1,9 +1,9 @@
 #include "ui/indicators.h"
 
 #include "ui/look.h"
+#include "ui/marks.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -42,10 +42,10 @@ bool isEnabled(const QStyleOption& option)
 /// Sets edge and fill of an indicator; returns the square on whose sides its edge runs.
 QRectF prepare(QPainter& painter, const QStyleOption& option, double factor)
 {
-    const double width = EdgeWidth * factor;
+    const double width = look::thick(EdgeWidth) * factor;
     painter.setPen(QPen(QColor(isEnabled(option) ? look::Quiet : look::Edge), width));
     const bool down = option.state & QStyle::State_Sunken;
-    painter.setBrush(QColor(isEnabled(option) && !down ? look::Card : look::Paper));
+    painter.setBrush(isEnabled(option) && !down ? QColor(look::Card) : look::paper());
     const double side = std::min(option.rect.width(), option.rect.height()) - width;
     QRectF square(0, 0, side, side);
     square.moveCenter(QRectF(option.rect).center());
@@ -66,16 +66,9 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option, double factor)
     painter.drawRoundedRect(square, CornerRadius * factor, CornerRadius * factor);
     if (!(option.state & QStyle::State_On))
         return;
-    const auto at = [&](double x, double y) {
-        return square.topLeft() + QPointF(x * square.width(), y * square.height());
-    };
-    QPainterPath tick(at(0.22, 0.52));
-    tick.lineTo(at(0.42, 0.74));
-    tick.lineTo(at(0.8, 0.26));
-    painter.setBrush(Qt::NoBrush);
     painter.setPen(
         QPen(markColour(option), TickWidth * factor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(tick);
+    drawTick(painter, square);
 }
 
 void drawRadioButton(QPainter& painter, const QStyleOption& option, double factor)

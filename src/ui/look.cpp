@@ -2,6 +2,9 @@
 
 #include "ui/fonts.h"
 
+#include <QApplication>
+#include <QWidget>
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,9 +23,9 @@ double luminance(const QColor& colour)
 
 QColor mixedWithPaper(const QColor& fill)
 {
-    const QColor paper(Paper);
-    return QColor((fill.red() + paper.red()) / 2, (fill.green() + paper.green()) / 2,
-        (fill.blue() + paper.blue()) / 2);
+    const QColor ground = paper();
+    return QColor((fill.red() + ground.red()) / 2, (fill.green() + ground.green()) / 2,
+        (fill.blue() + ground.blue()) / 2);
 }
 
 } // namespace
@@ -33,16 +36,41 @@ QFont scaled(const Font& font, double factor)
     // Cut, not rounded: a text that fits at factor 1 then fits at every factor.
     result.setPixelSize(std::max(1, static_cast<int>(font.pixels * factor + 0.001)));
     result.setBold(font.bold);
+    if (font.spacing != 100)
+        result.setLetterSpacing(QFont::PercentageSpacing, font.spacing);
     if (font.family == Family::CourierNew)
         result.setStyleHint(QFont::Monospace);
     return result;
 }
 
-QPalette palette()
+Contrast contrastOfApplication()
+{
+    const QColor ground = QGuiApplication::palette().color(QPalette::Active, QPalette::Window);
+    return ground == QColor(Qt::white) ? Contrast::High : Contrast::Usual;
+}
+
+void setContrast(Contrast contrast)
+{
+    QApplication::setPalette(palette(contrast));
+    for (QWidget* widget : QApplication::allWidgets())
+        widget->update();
+}
+
+QColor paper()
+{
+    return contrastOfApplication() == Contrast::High ? QColor(Qt::white) : QColor(Paper);
+}
+
+double thick(double width)
+{
+    return contrastOfApplication() == Contrast::High ? 2 * width : width;
+}
+
+QPalette palette(Contrast contrast)
 {
     const QColor ink(Ink);
     const QColor quiet(Quiet);
-    const QColor paper(Paper);
+    const QColor paper = contrast == Contrast::High ? QColor(Qt::white) : QColor(Paper);
     const QColor card(Card);
     const QColor line(Edge);
 

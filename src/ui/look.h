@@ -9,7 +9,7 @@ namespace ui::look {
 
 // Surfaces.
 inline constexpr QRgb Slate = 0xFF26323C; ///< ground of the menu, of wide windows, of trays
-inline constexpr QRgb Paper = 0xFFFAF7F0; ///< where work is read and written
+inline constexpr QRgb Paper = 0xFFFAF7F0; ///< see paper()
 inline constexpr QRgb Card = 0xFFFFFFFF; ///< entry boxes, squared paper, lists
 inline constexpr QRgb CardFocused = 0xFFFFFBEA; ///< the entry box that is typed into
 
@@ -20,7 +20,7 @@ inline constexpr QRgb Edge = 0xFF7E8A96; ///< edges of boxes
 inline constexpr QRgb Grid = 0xFFCFE2F0; ///< squares of squared paper
 inline constexpr QRgb Chalk = 0xFFFAF7F0; ///< text on slate
 
-// Marks.
+// Marks; the widths below are those of the usual contrast, see thick().
 inline constexpr QRgb Focus = 0xFF1557C0; ///< focus mark on paper, caret, list selection
 inline constexpr QRgb FocusOnSlate = 0xFFFFFFFF;
 inline constexpr QRgb Marker = 0xFFFFF3C4; ///< stripe behind a text that is shown selected
@@ -30,12 +30,13 @@ inline constexpr QRgb Wrong = 0xFFC62828;
 inline constexpr QRgb Gold = 0xFFF5B301; ///< star of a right answer
 
 // Fills of action buttons.
-inline constexpr QRgb Red = 0xFFFF0000; ///< 255 as a stored 24-bit colour
-inline constexpr QRgb Green = 0xFF00FF00; ///< 65280
-inline constexpr QRgb Yellow = 0xFFFFFF00; ///< 65535
-inline constexpr QRgb Cyan = 0xFF00FFFF; ///< 16776960
+inline constexpr QRgb Red = 0xFFFF0000;
+inline constexpr QRgb Green = 0xFF00FF00;
+inline constexpr QRgb Yellow = 0xFFFFFF00;
+inline constexpr QRgb Cyan = 0xFF00FFFF;
 
-inline constexpr int MenuBarHeight = 28;
+inline constexpr int MenuBarHeight = 28; ///< above the canvas, with this type in it:
+inline constexpr int MenuType = 16;
 inline constexpr int BoxMargin = 6; ///< between the edge of an entry box and its text
 inline constexpr int CornerMargin = 3; ///< keeps what a box holds off its round corners
 inline constexpr double BoxRadius = 6; ///< corners of boxes
@@ -53,6 +54,7 @@ struct Font {
     Family family = Family::Andika;
     int pixels = 15;
     bool bold = false;
+    int spacing = 100; ///< of its letters, per cent
 };
 
 inline constexpr Font Counters{Family::Andika, 12};
@@ -65,8 +67,23 @@ inline constexpr Font BoxText{Family::Andika, 18}; ///< of message and input box
 /// a family loads what travels beside the executable, where the system lacks it.
 QFont scaled(const Font& font, double factor);
 
+/// High: paper is white, edges and marks are twice as thick.
+enum class Contrast { Usual, High };
+
+/// Of the application's palette.
+Contrast contrastOfApplication();
+
+/// Gives the application and what stands on the display a contrast.
+void setContrast(Contrast contrast);
+
+/// Where work is read and written.
+QColor paper();
+
+/// How thick an edge or a mark is drawn, in pixels at factor 1, that usually is so thick.
+double thick(double width);
+
 /// The light palette of the program, complete, so that nothing of the desktop's shows.
-QPalette palette();
+QPalette palette(Contrast contrast = contrastOfApplication());
 
 /// The palette of a text that is only shown: no fill, a marker as highlight, ink even when
 /// disabled.

@@ -4,7 +4,6 @@
 #include "ui/scaling.h"
 #include "ui/text_box.h"
 
-#include <QEvent>
 #include <QPainter>
 
 namespace ui {
@@ -32,17 +31,14 @@ QRect textPlace(const TextBox& box)
 } // namespace
 
 MarkerStripe::MarkerStripe(const std::vector<TextBox*>& boxes, Kind kind)
-    : QWidget(boxes.front()->parentWidget())
-    , m_boxes(boxes.begin(), boxes.end())
+    : Underlay({boxes.begin(), boxes.end()})
     , m_kind(kind)
 {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     for (TextBox* box : boxes) {
         QPalette palette = box->palette();
         palette.setColor(QPalette::Highlight, Qt::transparent);
         palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
         box->setPalette(palette);
-        box->installEventFilter(this);
         connect(box, &QLineEdit::selectionChanged, this, &MarkerStripe::follow);
         connect(box, &QLineEdit::textChanged, this, &MarkerStripe::follow);
     }
@@ -50,32 +46,16 @@ MarkerStripe::MarkerStripe(const std::vector<TextBox*>& boxes, Kind kind)
     follow();
 }
 
-void MarkerStripe::follow()
+QRect MarkerStripe::placeOf(const QWidget& control) const
 {
-    QRect covered;
-    for (const QPointer<TextBox>& box : m_boxes) {
-        if (box && box->hasSelectedText() && box->isVisibleTo(parentWidget()))
-            covered |= textPlace(*box);
-    }
-    const int overlap = qRound(Overlap * factorOf(this));
-    setGeometry(covered.adjusted(-overlap, 0, overlap, 0));
-    setVisible(!covered.isNull());
+    const auto& box = static_cast<const TextBox&>(control); // it was made with no others
+    return box.hasSelectedText() ? textPlace(box) : QRect();
 }
 
-bool MarkerStripe::eventFilter(QObject* watched, QEvent* event)
+QRect MarkerStripe::around(const QRect& covered) const
 {
-    switch (event->type()) {
-    case QEvent::Move:
-    case QEvent::Resize:
-    case QEvent::FontChange:
-    case QEvent::ShowToParent:
-    case QEvent::HideToParent:
-        follow();
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
+    const int overlap = qRound(Overlap * factorOf(this));
+    return covered.adjusted(-overlap, 0, overlap, 0);
 }
 
 void MarkerStripe::paintEvent(QPaintEvent*)

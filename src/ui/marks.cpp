@@ -31,7 +31,8 @@ void drawDisc(QPainter& painter, QRgb colour)
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(colour));
     painter.drawEllipse(QRectF(0, 0, 1, 1));
-    painter.setPen(QPen(QColor(look::Card), 0.11, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(QColor(look::Card), look::thick(0.11), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 QPolygonF star()
@@ -51,6 +52,20 @@ QPolygonF star()
 
 } // namespace
 
+void drawTick(QPainter& painter, const QRectF& square)
+{
+    const auto at = [&](double x, double y) {
+        return square.topLeft() + QPointF(x * square.width(), y * square.height());
+    };
+    painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.74), at(0.8, 0.26)});
+}
+
+void drawCross(QPainter& painter, const QRectF& square)
+{
+    painter.drawLine(square.topLeft(), square.bottomRight());
+    painter.drawLine(square.topRight(), square.bottomLeft());
+}
+
 void drawRightDisc(QPainter& painter, const QRectF& square)
 {
     inUnitSquare(painter, square, [&] {
@@ -63,8 +78,7 @@ void drawWrongDisc(QPainter& painter, const QRectF& square)
 {
     inUnitSquare(painter, square, [&] {
         drawDisc(painter, look::Wrong);
-        painter.drawLine(QPointF(0.33, 0.33), QPointF(0.67, 0.67));
-        painter.drawLine(QPointF(0.67, 0.33), QPointF(0.33, 0.67));
+        drawCross(painter, {QPointF(0.33, 0.33), QPointF(0.67, 0.67)});
     });
 }
 
@@ -72,7 +86,8 @@ void drawStar(QPainter& painter, const QRectF& square)
 {
     inUnitSquare(painter, square, [&] {
         const QColor gold(look::Gold);
-        painter.setPen(QPen(gold.darker(150), 0.05, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(
+            gold.darker(150), look::thick(0.05), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.setBrush(gold);
         painter.drawPolygon(star());
     });
@@ -80,7 +95,7 @@ void drawStar(QPainter& painter, const QRectF& square)
 
 void drawHere(QPainter& painter, const QRectF& square, double factor)
 {
-    const double line = std::max(1.0, std::round(HereUnderline * factor));
+    const double line = std::max(1.0, std::round(look::thick(HereUnderline) * factor));
     painter.fillRect(square, QColor(look::Here));
     painter.fillRect(
         QRectF(square.left(), square.bottom() - line, square.width(), line), QColor(look::Focus));

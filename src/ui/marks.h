@@ -7,6 +7,12 @@ class QPainter;
 /// Small drawings that say how something came out or where to go on, drawn anew at every size.
 namespace ui {
 
+/// A tick in the painter's pen, with the room around it that it has in a check box.
+void drawTick(QPainter& painter, const QRectF& square);
+
+/// A cross in the painter's pen, from corner to corner.
+void drawCross(QPainter& painter, const QRectF& square);
+
 /// A green disc with a white tick, filling a square.
 void drawRightDisc(QPainter& painter, const QRectF& square);
 

@@ -53,9 +53,9 @@ void Memo::focusOutEvent(QFocusEvent* event)
 
 void Memo::setSurface(QRgb surface)
 {
-    QPalette own = viewport()->palette();
+    QPalette own = palette();
     own.setColor(QPalette::Base, QColor(surface));
-    viewport()->setPalette(own);
+    setPalette(own); // of the margins, and of the viewport, which follows
 }
 
 void Memo::paintEvent(QPaintEvent* event)
@@ -64,7 +64,7 @@ void Memo::paintEvent(QPaintEvent* event)
     if (!hasFocus() || isReadOnly() || textCursor().hasSelection())
         return;
     QRect caret = cursorRect();
-    caret.setWidth(std::max(1, qRound(look::CaretWidth * factor())));
+    caret.setWidth(std::max(1, qRound(look::thick(look::CaretWidth) * factor())));
     QPainter(viewport()).fillRect(caret, QColor(look::Focus));
 }
 

@@ -1,10 +1,10 @@
 #include "ui/menu_factory.h"
 
-#include "ui/look.h"
-
 #include <QMenu>
 #include <QMenuBar>
 #include <QShortcut>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +12,7 @@ namespace ui {
 
 namespace {
 
-constexpr look::Font MenuFont{look::Family::Andika, 16}; // the main menu's factor is small
+constexpr double BarToType = 1.0 * look::MenuBarHeight / look::MenuType;
 
 } // namespace
 
@@ -23,7 +23,18 @@ MenuFactory::MenuFactory(QWidget* window)
 
 double MenuFactory::menuBarHeight() const
 {
-    return m_bar != nullptr ? look::MenuBarHeight : 0;
+    return m_bar != nullptr ? std::round(BarToType * m_type) : 0;
+}
+
+void MenuFactory::setMenuType(int pixels)
+{
+    m_type = pixels;
+    setMenuFactor(m_factor);
+}
+
+QFont MenuFactory::font() const
+{
+    return look::scaled({look::Family::Andika, m_type}, m_factor);
 }
 
 void MenuFactory::setMenuFactor(double factor)
@@ -31,17 +42,16 @@ void MenuFactory::setMenuFactor(double factor)
     m_factor = factor;
     if (m_bar == nullptr)
         return;
-    m_bar->setFont(look::scaled(MenuFont, m_factor));
+    m_bar->setFont(font());
     for (QMenu* menu : m_bar->findChildren<QMenu*>())
-        menu->setFont(look::scaled(MenuFont, m_factor));
+        menu->setFont(font());
 }
 
 QMenuBar* MenuFactory::bar()
 {
     if (m_bar == nullptr) {
         m_bar = new QMenuBar(m_window);
-        m_bar->setNativeMenuBar(false);
-        m_bar->setFont(look::scaled(MenuFont, m_factor));
+        m_bar->setFont(font());
         // The Alt key alone leads there too, but not beside a screen reader.
         auto* turnTo = new QShortcut(Qt::Key_F10, m_window);
         QObject::connect(turnTo, &QShortcut::activated, m_bar, [bar = m_bar] {
@@ -56,7 +66,7 @@ QMenu* MenuFactory::named(QMenu* menu, const QString& name) const
 {
     menu->setObjectName(name);
     menu->menuAction()->setObjectName(name);
-    menu->setFont(look::scaled(MenuFont, m_factor));
+    menu->setFont(font());
     return menu;
 }
 

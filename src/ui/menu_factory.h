@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/look.h"
 #include "ui/menu_list.h"
 
 #include <QStringList>
@@ -30,6 +31,9 @@ public:
     /// Captions "&first" to "&last".
     static QStringList numberedCaptions(int first, int last);
 
+    /// The type of the menus, in pixels at factor 1; the bar is as high as that needs. Screens
+    /// that open at a large factor ask for less: so the menus are about as large on all.
+    void setMenuType(int pixels);
     /// nullptr while there is none.
     QMenuBar* menuBar() const { return m_bar; }
     /// Of the menu bar, in pixels at factor 1; 0 while there is none.
@@ -38,12 +42,14 @@ public:
 
 private:
     QMenuBar* bar();
+    QFont font() const;
     QMenu* named(QMenu* menu, const QString& name) const;
     static QAction* named(QAction* action, const QString& name);
 
     QWidget* m_window;
     QMenuBar* m_bar = nullptr;
     double m_factor = 1;
+    int m_type = look::MenuType;
 };
 
 } // namespace ui

@@ -1,6 +1,10 @@
 #include "ui/opening_factor.h"
 
+#include "ui/scaling.h"
+
+#include <QScreen>
 #include <QSizeF>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +18,13 @@ double openingFactor(QSizeF window, QSize free)
     // In fonts a smaller step is not seen. What fits exactly must not be rounded away.
     const double twentieths = std::floor(20 * fitting + 1e-6);
     return twentieths >= 1 ? twentieths / 20 : std::max(fitting, 0.01);
+}
+
+double overlayFactorOf(const QWidget& window)
+{
+    constexpr double HeightToFactor = 400; // pixels of the display
+    return std::min(
+        factorOf(&window), window.screen()->availableGeometry().height() / HeightToFactor);
 }
 
 } // namespace ui

@@ -18,6 +18,12 @@ struct TwipRect {
 
 inline constexpr double TwipsPerPixel = 15;
 
+/// Of a length in pixels at factor 1.
+constexpr double twips(double pixels)
+{
+    return pixels * TwipsPerPixel;
+}
+
 /// The pixels that a place covers at a factor. Edges are rounded, not sizes, so that
 /// controls that touch in twips touch in pixels.
 QRect toPixels(const TwipRect& place, double factor);

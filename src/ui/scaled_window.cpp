@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +17,7 @@ namespace ui {
 namespace {
 
 constexpr double SmallestFactor = 0.5;
+constexpr int Crack = 2; // pixels of ground that would look like one beside the canvas
 
 } // namespace
 
@@ -37,17 +39,22 @@ void ScaledWindow::setDesignSize(double width, double height)
         layOut();
         return;
     }
+    const QPoint middle = frameGeometry().center();
     resizeToDesign(m_factorGivenWay > 0 ? m_factorGivenWay : m_factor);
-    keepOnDisplay();
+    if (isVisible())
+        moveAbout(middle);
 }
 
-void ScaledWindow::keepOnDisplay()
+void ScaledWindow::moveAbout(const QPoint& middle)
 {
+    QRect place = frameGeometry();
+    place.moveCenter(middle);
     const QRect available = screen()->availableGeometry();
-    const int below = std::max(0, frameGeometry().bottom() - available.bottom());
-    const int beside = std::max(0, frameGeometry().right() - available.right());
-    if (isVisible() && (below > 0 || beside > 0))
-        move(std::max(available.left(), x() - beside), std::max(available.top(), y() - below));
+    place.moveRight(std::min(place.right(), available.right()));
+    place.moveBottom(std::min(place.bottom(), available.bottom()));
+    place.moveLeft(std::max(place.left(), available.left()));
+    place.moveTop(std::max(place.top(), available.top()));
+    move(place.topLeft());
 }
 
 void ScaledWindow::comeUp(double atMost)
@@ -103,10 +110,13 @@ void ScaledWindow::layOut()
     const int barHeight = static_cast<int>(std::lround(menuBarHeight() * factor));
     if (QMenuBar* bar = menuBar())
         bar->setGeometry(0, 0, width(), barHeight);
-    QRect area = toPixels({0, 0, m_designWidth, m_designHeight}, factor);
-    area.moveTo(std::max(0, (width() - area.width()) / 2),
-        barHeight + std::max(0, (height() - barHeight - area.height()) / 2));
-    canvas()->setGeometry(area);
+    const QRect room(0, barHeight, width(), height() - barHeight);
+    QSize area = toPixels({0, 0, m_designWidth, m_designHeight}, factor).size();
+    if (room.width() - area.width() <= Crack)
+        area.setWidth(room.width());
+    if (room.height() - area.height() <= Crack)
+        area.setHeight(room.height());
+    canvas()->setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, area, room));
 }
 
 void ScaledWindow::setFactor(double factor)

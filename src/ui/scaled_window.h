@@ -25,8 +25,8 @@ protected:
     double designHeight() const { return m_designHeight; }
 
     /// Gives the canvas another design size (twips). The window grows or shrinks with it at
-    /// the same factor, and moves up where it would leave the display; where the display is
-    /// too small, the factor gives way.
+    /// the same factor, about its middle but never out of the display; where the display is too
+    /// small, the factor gives way.
     void setDesignSize(double width, double height);
 
     /// Gives the window its first size, as large as its display allows but at most at this
@@ -38,7 +38,7 @@ protected:
 private:
     QSizeF designPixels() const;
     void resizeToDesign(double factor);
-    void keepOnDisplay();
+    void moveAbout(const QPoint& middle);
     void layOut();
     void setFactor(double factor);
 

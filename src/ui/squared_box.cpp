@@ -148,7 +148,7 @@ void SquaredBox::paintEvent(QPaintEvent* event)
 /// The focus of figures that are only read: a thin frame in their own squares.
 void SquaredBox::frameFigures()
 {
-    const double pen = look::QuietRingWidth * factor();
+    const double pen = look::thick(look::QuietRingWidth) * factor();
     const QRectF figures = strip(lineBefore(0), lineBefore(static_cast<int>(text().size())));
     QPainter painter(this);
     painter.setPen(QPen(QColor(look::Focus), pen));
@@ -206,7 +206,7 @@ QRect SquaredBox::caretRect() const
 {
     if (hereSquare().isValid())
         return {};
-    const int thickness = std::max(1, qRound(look::CaretWidth * factor()));
+    const int thickness = std::max(1, qRound(look::thick(look::CaretWidth) * factor()));
     const int gap = qRound(std::min(CaretGap * factor(), CaretGapShare * squarePixels()));
     const int at = qRound(lineBefore(cursorPosition())) - thickness / 2;
     const int left = std::clamp(at, gap, std::max(gap, width() - gap - thickness));

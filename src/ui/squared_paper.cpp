@@ -45,6 +45,12 @@ void SquaredPaper::setFill(const QColor& fill)
     update();
 }
 
+void SquaredPaper::setEdge(double width)
+{
+    m_edge = width;
+    update();
+}
+
 void SquaredPaper::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -55,7 +61,7 @@ void SquaredPaper::paintEvent(QPaintEvent*)
         [&](int at) { painter.fillRect(at - pen / 2, 0, pen, height(), grid); });
     forEachLine(m_square.top, m_square.height, factor(), y(), y() + height(),
         [&](int at) { painter.fillRect(0, at - pen / 2, width(), pen, grid); });
-    const double edge = std::max(1.0, std::round(look::EdgeWidth * factor()));
+    const double edge = std::max(1.0, std::round(look::thick(m_edge) * factor()));
     painter.setPen(QPen(QColor(look::Edge), edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2));
 }

@@ -17,6 +17,8 @@ public:
 
     /// Another ground than white, where only a part of the sheet can be written.
     void setFill(const QColor& fill);
+    /// The edge all round, in pixels at factor 1.
+    void setEdge(double width);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -24,6 +26,7 @@ protected:
 private:
     TwipRect m_square{0, 0, 250, 250};
     QColor m_fill = look::Card;
+    double m_edge = look::EdgeWidth;
 };
 
 } // namespace ui

@@ -2,9 +2,10 @@
 
 #include "ui/access_keys.h"
 #include "ui/box_icons.h"
-#include "ui/faces.h"
+#include "ui/control_painting.h"
 #include "ui/indicators.h"
 #include "ui/look.h"
+#include "ui/opening_factor.h"
 #include "ui/scaling.h"
 
 #include <QAccessible>
@@ -56,8 +57,9 @@ void Style::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
     // A context menu and a tool tip are windows: they inherit no font from their text box.
-    if (qobject_cast<QMenu*>(widget) != nullptr || widget->inherits("QTipLabel"))
-        widget->setFont(look::scaled(look::Instruction, factorOf(widget)));
+    const bool hasFont = widget->testAttribute(Qt::WA_SetFont); // as the menus of a bar have
+    if ((qobject_cast<QMenu*>(widget) != nullptr && !hasFont) || widget->inherits("QTipLabel"))
+        widget->setFont(look::scaled(look::Instruction, overlayFactorOf(*widget)));
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -151,7 +153,8 @@ int Style::pixelMetric(
         return qRound(plain * factorOf(widget));
     case PM_TextCursorWidth:
         // The boxes of screens paint their own caret, beside which their text must not give way.
-        return qRound((standsInBox(widget) ? look::CaretWidth : plain) * factorOf(widget));
+        return qRound(
+            (standsInBox(widget) ? look::thick(look::CaretWidth) : plain) * factorOf(widget));
     default:
         return plain;
     }
@@ -182,7 +185,7 @@ QSize Style::sizeFromContents(
     case CT_LineEdit:
         return plain.expandedTo(SmallestEntry * factor);
     case CT_MenuBarItem: // as high as the bar, but for the line below
-        return {plain.width(), qRound(look::MenuBarHeight * factor) - 1};
+        return {plain.width(), (widget != nullptr ? widget->height() : plain.height()) - 1};
     case CT_MenuItem: // Fusion's column of ticks grows with the font, its width does not
         return plain + QSize(qRound(CheckColumn * std::max(0.0, factor - 1)), 0);
     default:

@@ -5,6 +5,7 @@
 
 #include <QInputMethodEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -21,9 +22,11 @@ TextBox::TextBox(Kind kind, QWidget* parent)
     , m_kind(kind)
 {
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
+    connect(this, &QLineEdit::selectionChanged, this,
+        [this] { m_byHand = !m_selecting && hasFocus(); });
     hideOrdinaryCaret();
+    installTextBoxAccessible();
     if (m_kind == Kind::Display) {
-        installTextBoxAccessible();
         setReadOnly(true);
         setFrame(false);
         setFocusPolicy(Qt::NoFocus);
@@ -58,7 +61,18 @@ void TextBox::showSelected()
 {
     // From the end: with the caret in front, a long text shows its beginning.
     const auto length = static_cast<int>(text().size());
-    setSelection(length, -length);
+    select(length, -length);
+}
+
+void TextBox::selectAll()
+{
+    select(0, static_cast<int>(text().size()));
+}
+
+void TextBox::select(int start, int length)
+{
+    const QScopedValueRollback selecting(m_selecting, true);
+    setSelection(start, length);
 }
 
 bool TextBox::event(QEvent* event)
@@ -69,8 +83,15 @@ bool TextBox::event(QEvent* event)
     return QLineEdit::event(event);
 }
 
+void TextBox::focusInEvent(QFocusEvent* event)
+{
+    const QScopedValueRollback selecting(m_selecting, true); // whoever comes by key finds it all
+    QLineEdit::focusInEvent(event);
+}
+
 void TextBox::focusOutEvent(QFocusEvent* event)
 {
+    const bool byHand = m_byHand;
     const int start = selectionStart();
     const auto length = static_cast<int>(selectedText().size());
     const int caret = cursorPosition();
@@ -82,6 +103,7 @@ void TextBox::focusOutEvent(QFocusEvent* event)
         setSelection(start + length, -length);
     else
         setSelection(start, length);
+    m_byHand = byHand;
 }
 
 void TextBox::inputMethodEvent(QInputMethodEvent* event)
@@ -101,7 +123,7 @@ void TextBox::hideOrdinaryCaret()
 QRect TextBox::caretRect() const
 {
     constexpr int Beside = 5; // what the toolkit's rectangle keeps free left of the caret
-    const int thickness = std::max(1, qRound(look::CaretWidth * factor()));
+    const int thickness = std::max(1, qRound(look::thick(look::CaretWidth) * factor()));
     const int gap = qRound(CaretGap * factor());
     const int left = cursorRect().left() + Beside - thickness / 2;
     const QRect line(left, cursorRect().top(), thickness, cursorRect().height());
@@ -119,7 +141,7 @@ void TextBox::paintEvent(QPaintEvent* event)
 
 void TextBox::drawEdge()
 {
-    const double pen = look::JudgedEdgeWidth * factor();
+    const double pen = look::thick(look::JudgedEdgeWidth) * factor();
     const double radius = look::BoxRadius * factor();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

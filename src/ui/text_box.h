@@ -33,9 +33,15 @@ public:
 
     /// Highlights the whole text, for as long as it is not changed or deselected.
     void showSelected();
+    /// Selects the whole text, for the next typed character to replace it.
+    void selectAll();
+    /// Whether what is selected was selected by whoever writes in the box, not for them: screen
+    /// readers say every change of a selection that they are told of.
+    bool isSelectedByHand() const { return m_byHand && hasSelectedText(); }
 
 protected:
     bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -49,8 +55,11 @@ protected:
 private:
     void hideOrdinaryCaret();
     void drawEdge();
+    void select(int start, int length);
 
     Kind m_kind;
+    bool m_selecting = false; ///< the program is
+    bool m_byHand = false; ///< what is selected was
     double m_extraLeft = 0;
     double m_extraRight = 0;
     std::optional<QColor> m_edge;

@@ -2,8 +2,8 @@
 
 namespace ui {
 
-/// Makes text boxes that only show something known to assistive tools as texts: what is
-/// highlighted in them is nothing that a pupil has selected.
+/// Makes text boxes known to assistive tools: those that only show something as texts, and none
+/// with a selection that the pupil has not made, of which a reader would speak.
 void installTextBoxAccessible();
 
 } // namespace ui

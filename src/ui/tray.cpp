@@ -3,7 +3,6 @@
 #include "ui/look.h"
 #include "ui/scaling.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -26,15 +25,11 @@ bool areNeighbours(const QRect& a, const QRect& b, int reach)
 } // namespace
 
 Tray::Tray(const std::vector<QWidget*>& buttons, Shape shape)
-    : QWidget(buttons.front()->parentWidget())
-    , m_buttons(buttons.begin(), buttons.end())
+    : Underlay(buttons)
     , m_shape(shape)
 {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     if (m_shape == Shape::Strip)
         parentWidget()->installEventFilter(this);
-    for (QWidget* button : buttons)
-        button->installEventFilter(this);
     lower();
     follow();
 }
@@ -44,41 +39,22 @@ bool Tray::holds(const QWidget& control)
     const auto trays = control.parentWidget() != nullptr
         ? control.parentWidget()->findChildren<const Tray*>(Qt::FindDirectChildrenOnly)
         : QList<const Tray*>();
-    return std::any_of(trays.begin(), trays.end(), [&](const Tray* tray) {
-        return std::find(tray->m_buttons.begin(), tray->m_buttons.end(), &control)
-            != tray->m_buttons.end();
-    });
+    return std::any_of(
+        trays.begin(), trays.end(), [&](const Tray* tray) { return tray->liesBehind(control); });
 }
 
-void Tray::follow()
+QRect Tray::placeOf(const QWidget& control) const
 {
-    QRect covered;
-    for (const QRect& place : buttonPlaces())
-        covered |= place;
+    return control.geometry();
+}
+
+QRect Tray::around(const QRect& covered) const
+{
     const int margin = qRound(Margin * factorOf(this));
     const QRect plate = covered.adjusted(-margin, -margin, margin, margin);
-    setGeometry(m_shape == Shape::Plate
-            ? plate
-            : QRect(QPoint(0, plate.top()), parentWidget()->rect().bottomRight()));
-    setVisible(!covered.isNull());
-    update();
-}
-
-bool Tray::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::Move:
-    case QEvent::Resize:
-    case QEvent::Show:
-    case QEvent::Hide:
-    case QEvent::ShowToParent:
-    case QEvent::HideToParent:
-        follow();
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
+    return m_shape == Shape::Plate
+        ? plate
+        : QRect(QPoint(0, plate.top()), parentWidget()->rect().bottomRight());
 }
 
 void Tray::paintEvent(QPaintEvent*)
@@ -105,7 +81,7 @@ QPainterPath Tray::outline() const
         path.addRoundedRect(covered.adjusted(-margin, -margin, margin, margin).translated(-pos()),
             radius, radius);
     };
-    const std::vector<QRect> places = buttonPlaces();
+    const std::vector<QRect> places = coveredPlaces();
     for (const QRect& place : places) {
         add(place);
         for (const QRect& other : places) {
@@ -114,16 +90,6 @@ QPainterPath Tray::outline() const
         }
     }
     return path;
-}
-
-std::vector<QRect> Tray::buttonPlaces() const
-{
-    std::vector<QRect> places;
-    for (const QPointer<QWidget>& button : m_buttons) {
-        if (button && button->isVisibleTo(parentWidget()))
-            places.push_back(button->geometry());
-    }
-    return places;
 }
 
 } // namespace ui

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QPointer>
-#include <QWidget>
-
-#include <vector>
+#include "ui/underlay.h"
 
 class QPainterPath;
 
@@ -11,7 +8,7 @@ namespace ui {
 
 /// A slate tray behind action buttons, so that their colours neither shout on paper nor glow.
 /// It follows the buttons wherever they go, and is there while one of them is.
-class Tray : public QWidget {
+class Tray : public Underlay {
     Q_OBJECT
 
 public:
@@ -29,17 +26,14 @@ public:
     /// Whether a control stands on a tray.
     static bool holds(const QWidget& control);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void follow();
+    QRect placeOf(const QWidget& control) const override;
+    QRect around(const QRect& covered) const override;
     QPainterPath outline() const;
-    std::vector<QRect> buttonPlaces() const;
 
-    std::vector<QPointer<QWidget>> m_buttons;
     Shape m_shape;
 };
 

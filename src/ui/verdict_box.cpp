@@ -15,7 +15,7 @@ namespace ui {
 namespace {
 
 constexpr double MarkGap = 8; // pixels at factor 1
-constexpr double StarSize = 28;
+constexpr double StarToDisc = 0.78;
 
 Pose poseFor(VerdictBox::Mark mark)
 {
@@ -133,7 +133,7 @@ void VerdictBox::paintEvent(QPaintEvent* event)
 
 void VerdictBox::drawStarBehindText(QPainter& painter) const
 {
-    const double size = std::min(StarSize * factor(), static_cast<double>(height()));
+    const double size = StarToDisc * discSize();
     const double end =
         textMargins().left() + fontMetrics().horizontalAdvance(text()) + MarkGap * factor();
     if (!(alignment() & Qt::AlignHCenter) && end + size <= width())

@@ -17,6 +17,7 @@ CombinedOperations::CombinedOperations(core::RandomSource& random)
 
 const QString& CombinedOperations::sign(Operator oper)
 {
+    // The times sign is a letter: meant.
     static const std::array Signos{u" + "_s, u" - "_s, u" x "_s, u" ÷ "_s};
     return core::at(Signos, oper - Plus);
 }
@@ -24,9 +25,9 @@ const QString& CombinedOperations::sign(Operator oper)
 void CombinedOperations::newExercise()
 {
     for (core::Int16& number : Numeros)
-        number = core::drawInteger(m_random, 8, 2);
+        number = core::randomInteger(m_random, 8, 2);
     for (Operator& oper : OperGrupo)
-        oper = static_cast<Operator>(core::drawInteger(m_random, 4, Plus).value());
+        oper = static_cast<Operator>(core::randomInteger(m_random, 4, Plus).value());
     for (std::size_t group = 0; group < Groups; ++group)
         evaluate(group);
     join();

@@ -41,7 +41,7 @@ ui::TwipRect commandPlace(int position)
 }
 
 constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
-constexpr ui::look::Font ScratchFont{Family::CourierNew, 18};
+constexpr ui::look::Font ScratchFont{Family::CourierNew, 16, true};
 constexpr ui::look::Font AnswerFont{Family::CourierNew, 26, true};
 constexpr ui::look::Font LabelFont{Family::Andika, 18, true};
 
@@ -67,7 +67,7 @@ FRMCombi::FRMCombi(ui::Screens& screens)
 
 void FRMCombi::makeExpression()
 {
-    const QString sample = u"2 x 8 + (5 * 9 - 2 -3)"_s;
+    const QString sample = u"2 x 8 + (5 * 9 - 2 -3)"_s; // uneven, and never seen: meant
     displayBox(u"TBInfo"_s, centred(180, FullWidth, 480), ui::look::Instruction, u"Instrucción"_s,
         u"Resuelva la operación siguiendo las reglas de precedencia"_s)
         ->setAlignment(Qt::AlignCenter);
@@ -103,7 +103,7 @@ void FRMCombi::makeAnswer()
 
 void FRMCombi::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     newExercise();
 }
 

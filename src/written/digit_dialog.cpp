@@ -14,6 +14,7 @@ namespace {
 constexpr ui::look::Font DigitFont{ui::look::Family::Andika, 24, true};
 
 constexpr int Columns = 3;
+// Twips.
 constexpr double Width = 4320;
 constexpr double Margin = 240;
 constexpr double GridTop = 240;

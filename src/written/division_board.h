@@ -20,9 +20,15 @@ class DivisionBoard {
 public:
     explicit DivisionBoard(ui::ControlFactory& controls);
 
-    /// Makes the work lines characters wide, up to the bracket, and leaves room for so many
-    /// figures at its right; the sheet grows for what does not fit its first size.
-    void fit(int lineCharacters, int rightFigures);
+    /// What an exercise needs of the sheet, in squares.
+    struct Room {
+        int lineCharacters; ///< of the work, up to the bracket
+        int lines; ///< of the work, the dividend's included
+        int rightFigures; ///< at the right of the bracket
+    };
+    /// The sheet grows for what does not fit its first size; downwards only so far that it is
+    /// still seen whole, for the work can be scrolled.
+    void fit(const Room& room);
 
     /// The sheet on the canvas, in twips.
     const ui::TwipRect& place() const { return m_place; }
@@ -41,6 +47,7 @@ private:
     void makeWork();
     void makeNumbers();
     void makeLines();
+    void placeWork(int lineCharacters, int lines);
     void placeNumbers(double bracket, int figures);
 
     ui::ControlFactory& m_controls;

@@ -16,7 +16,7 @@ namespace written {
 namespace {
 
 /// From 10^(digits-1) + 1 to 10^digits - 1; the largest is deliberately twice as likely.
-double drawNumber(core::RandomSource& random, int digits)
+double randomNumber(core::RandomSource& random, int digits)
 {
     const double limit = std::pow(10.0, digits);
     const double excluded = std::pow(10.0, digits - 1);
@@ -75,6 +75,12 @@ int LongDivision::rightFigures() const
     const int decimals = m_settings.DecimalesCociente.value();
     const auto quotient = QString::number(Dividendo()).size() + (decimals > 0 ? 1 + decimals : 0);
     return static_cast<int>(std::max(QString::number(Divisor()).size(), quotient));
+}
+
+int LongDivision::workLines() const
+{
+    const int figures = m_settings.CifrasDividendo.value() + m_settings.DecimalesCociente.value();
+    return 1 + 2 * figures + 1;
 }
 
 QString LongDivision::operationText() const
@@ -156,17 +162,17 @@ void LongDivision::toggleForcedZeros()
 void LongDivision::start(const DivisionSettings& settings)
 {
     const core::Int16 width = lineWidth(settings);
-    m_operands = drawOperands(settings);
+    m_operands = randomOperands(settings);
     m_AnchoLinea = width;
     m_settings = settings;
 }
 
-LongDivision::Operands LongDivision::drawOperands(const DivisionSettings& settings) const
+LongDivision::Operands LongDivision::randomOperands(const DivisionSettings& settings) const
 {
     Operands drawn;
     do {
-        drawn.Dividendo = core::toInt32(drawNumber(m_random, settings.CifrasDividendo.value()));
-        drawn.Divisor = core::toInt32(drawNumber(m_random, settings.CifrasDivisor.value()));
+        drawn.Dividendo = core::toInt32(randomNumber(m_random, settings.CifrasDividendo.value()));
+        drawn.Divisor = core::toInt32(randomNumber(m_random, settings.CifrasDivisor.value()));
     } while (settings.ForzarCeros && !hasZeroOrIsShort(drawn.Dividendo, drawn.Divisor));
     return drawn;
 }
@@ -197,7 +203,7 @@ bool LongDivision::typeDivisor(const QString& typed)
 shell::Verdict LongDivision::judge(const Answer& answer)
 {
     const double remainder = core::readNumber(answer.work.lastWrittenLine());
-    // Without a comma the position is 0, so that every character counts as a decimal.
+    // Without a comma the position is 0, so that every character counts as a decimal: meant.
     const auto decimals =
         static_cast<int>(answer.quotient.size() - (answer.quotient.indexOf(u',') + 1));
     const int wanted = m_settings.DecimalesCociente.value();

@@ -40,6 +40,9 @@ public:
 
     /// How many characters the divisor or a quotient may have, whichever is longer.
     int rightFigures() const;
+    /// How many lines the work may take: the dividend, a product and a remainder for each figure
+    /// that the quotient may have, and one to spare.
+    int workLines() const;
 
     /// "84 ÷ 7".
     QString operationText() const;
@@ -89,7 +92,7 @@ private:
         qint32 Divisor = 1;
     };
 
-    Operands drawOperands(const DivisionSettings& settings) const;
+    Operands randomOperands(const DivisionSettings& settings) const;
     void start(const DivisionSettings& settings);
     bool isRight(double quotient, double remainder, int decimals) const;
 

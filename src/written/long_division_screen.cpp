@@ -7,33 +7,41 @@
 #include "written/work_area.h"
 
 using namespace Qt::StringLiterals;
+using ui::look::Family;
 
 namespace written {
 
 namespace {
 
 // In twips. At the right of the sheet stand the operation, at the height of the quotient, and
-// under it the buttons; they move with the sheet's edge.
-constexpr double Margin = 240;
+// under it the buttons; they move with the sheet's edge. The squares are small by nature: all
+// else is small too, so that the screen opens at a large factor, and is large with it.
+constexpr double Margin = 180;
 constexpr double TrayMargin = 180; // around the buttons
-constexpr double ColumnGap = 240;
-constexpr double ColumnWidth = 4260;
-constexpr double OperationHeight = 720;
-constexpr double CommandHeight = 640;
-constexpr double CommandPitch = 800;
-constexpr double CountersHeight = 330;
+constexpr double ColumnGap = 180;
+constexpr double ColumnWidth = 2895;
+constexpr double OperationHeight = 480;
+constexpr double CommandHeight = 400;
+constexpr double CommandPitch = 485;
+constexpr double CountersGap = 90;
+constexpr double CountersHeight = 240;
 
+constexpr ui::look::Font OperationFont{Family::Andika, 14, true};
 constexpr qsizetype LongOperation = 18; // characters, with which it needs a smaller type
-constexpr ui::look::Font LongOperationFont{ui::look::Family::Andika, 14, true};
+constexpr ui::look::Font LongOperationFont{Family::Andika, 10, true};
+constexpr double VerdictMark = 25;
+constexpr ui::look::Font CommandFont{Family::Andika, 10, true};
+constexpr ui::look::Font CounterFont{Family::Andika, 9};
+constexpr int MenuType = 9;
 
 double columnLeft()
 {
     return DivisionBoard::firstPlace().right() + ColumnGap;
 }
 
-double countersTop()
+double designHeightFor(const ui::TwipRect& sheet)
 {
-    return DivisionBoard::firstPlace().bottom() + Margin / 2;
+    return sheet.bottom() + CountersGap + CountersHeight + CountersGap;
 }
 
 double designWidthAtFirst()
@@ -47,7 +55,7 @@ ui::TwipRect operationPlace()
         OperationHeight};
 }
 
-/// The tray of the four ends where the sheet does.
+/// The tray of the four ends where the sheet does at first.
 ui::TwipRect commandPlace(int position)
 {
     const double bottom = DivisionBoard::firstPlace().bottom() - TrayMargin;
@@ -64,9 +72,10 @@ QString Form6::screenName()
 
 Form6::Form6(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"DIVISIONES"_s, designWidthAtFirst(),
-        countersTop() + CountersHeight + Margin / 2)
+        designHeightFor(DivisionBoard::firstPlace()))
     , m_board(*this)
 {
+    setMenuType(MenuType);
     makeMenu();
     connectBoard();
     makeTexts();
@@ -75,6 +84,8 @@ Form6::Form6(ui::Screens& screens)
                      .clear = commandPlace(1),
                      .solution = commandPlace(3)},
         u"&Ver solucióm"_s); // misspelled: meant
+    for (QWidget* command : {Command1, Command2[0], Command2[1], Command2[2]})
+        setControlFont(command, CommandFont);
 }
 
 void Form6::connectBoard()
@@ -93,25 +104,30 @@ void Form6::connectBoard()
 void Form6::makeTexts()
 {
     Text4 = verdictBox(u"Text4"_s, operationPlace(), u"Operación y resultado"_s);
+    Text4->setMarkSize(VerdictMark);
     Text4->setJudged({m_board.Text3});
-    tbResultados = displayBox(u"tbResultados"_s,
-        {Margin, countersTop(), DivisionBoard::firstPlace().width, CountersHeight},
-        ui::look::Counters, u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
+    setControlFont(Text4, OperationFont);
+    const ui::TwipRect sheet = DivisionBoard::firstPlace();
+    tbResultados = countersBox(u"tbResultados"_s,
+        {Margin, sheet.bottom() + CountersGap, sheet.width, CountersHeight},
+        m_model.counters().FormatoAlineado(), CounterFont);
 }
 
-/// What stands at the right of the sheet moves with its edge.
+/// What stands at the right of the sheet and below it moves with its edges.
 void Form6::fitSheet()
 {
-    m_board.fit(m_model.AnchoLinea().value(), m_model.rightFigures());
-    const double width =
-        designWidthAtFirst() + m_board.place().width - DivisionBoard::firstPlace().width;
+    m_board.fit({m_model.AnchoLinea().value(), m_model.workLines(), m_model.rightFigures()});
+    const ui::TwipRect& sheet = m_board.place();
+    const double width = designWidthAtFirst() + sheet.width - DivisionBoard::firstPlace().width;
+    const double height = designHeightFor(sheet);
     const double moved = width - designWidth();
-    if (moved == 0)
+    if (moved == 0 && height == designHeight())
         return;
     for (QWidget* control :
         std::initializer_list<QWidget*>{Text4, Command1, Command2[0], Command2[1], Command2[2]})
         moveTo(control, placeOf(control).left + moved, placeOf(control).top);
-    setDesignSize(width, designHeight());
+    moveTo(tbResultados, Margin, sheet.bottom() + CountersGap);
+    setDesignSize(width, height);
 }
 
 void Form6::Form_Load()
@@ -152,8 +168,7 @@ void Form6::clearWork()
 void Form6::showOperation()
 {
     const QString operation = m_model.operationText();
-    setControlFont(
-        Text4, operation.size() > LongOperation ? LongOperationFont : ui::look::Verdict);
+    setControlFont(Text4, operation.size() > LongOperation ? LongOperationFont : OperationFont);
     Text4->setPlainText(operation);
     sayExercise();
 }

@@ -45,8 +45,9 @@ LongMultiplication::LongMultiplication(core::RandomSource& random)
 
 void LongMultiplication::newExercise()
 {
-    const double factor1 = drawFactor(m_CifrasFactor1);
-    const double factor2 = m_CualquierCifra ? drawFactor(m_CifrasFactor2) : drawChosenDigits();
+    const double factor1 = randomFactor(m_CifrasFactor1);
+    const double factor2 =
+        m_CualquierCifra ? randomFactor(m_CifrasFactor2) : randomFromChosenDigits();
     if (!prepare({factor1, factor2, factor1 * factor2, true, {}}))
         throw core::OverflowError(
             u"Los factores de %1 y %2 cifras son demasiado grandes: elige menos cifras en el menú Opciones."_s
@@ -55,7 +56,7 @@ void LongMultiplication::newExercise()
     m_verdict.clear();
 }
 
-double LongMultiplication::drawFactor(core::Int16 digits)
+double LongMultiplication::randomFactor(core::Int16 digits)
 {
     const double limit = std::pow(10.0, digits.value());
     if (!std::isfinite(limit))
@@ -68,13 +69,13 @@ double LongMultiplication::drawFactor(core::Int16 digits)
     return factor;
 }
 
-double LongMultiplication::drawChosenDigits()
+double LongMultiplication::randomFromChosenDigits()
 {
     QString digits;
     QString allowed = m_CifrasElegidas;
     for (int place = 0; place < m_CifrasFactor2.value(); ++place) {
         const core::Int16 drawn =
-            core::drawInteger(m_random, static_cast<int>(allowed.size()), 0);
+            core::randomInteger(m_random, static_cast<int>(allowed.size()), 0);
         digits += allowed[drawn.value()];
         allowed = m_CifrasElegidas + u'0'; // zeros everywhere but in front
     }
@@ -144,6 +145,7 @@ QString LongMultiplication::zerosCaption() const
 TypedFactor LongMultiplication::typeFactor1(QStringView typed)
 {
     const std::optional<double> factor = readFactor(typed);
+    // The second factor then stands there without its sign: meant.
     return factor ? replaceFactors(*factor, Factor2(), false) : TypedFactor::Ignored;
 }
 
@@ -173,7 +175,7 @@ shell::Verdict LongMultiplication::judge(const Answer& answer)
     if (right)
         m_verdict.tell(Verdict::Right, u"Resultado correcto "_s); // the last blank is meant
     else
-        m_verdict.tell(Verdict::Wrong, u"resultado incorrecto"_s);
+        m_verdict.tell(Verdict::Wrong, u"resultado incorrecto"_s); // so is the small letter
     m_wrongRows = right ? std::vector<int>() : compareRows(answer.rows);
     return *m_verdict.verdict();
 }
@@ -234,6 +236,7 @@ std::optional<QString> LongMultiplication::productHint(int posicion, int fila, i
     const QString factor2 = factor2Text();
     const QString digit1 =
         -place < factor1.size() ? factor1.sliced(factor1.size() + place - 1, 1) : u"0"_s;
+    // By the number of the row, whether rows of zeros are hidden or not: meant.
     const QString digit2 = factor2.mid(factor2.size() - fila - 1, 1);
     return digit1 + u" × "_s + digit2;
 }

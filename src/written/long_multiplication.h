@@ -114,8 +114,8 @@ private:
         QStringList rows;
     };
 
-    double drawFactor(core::Int16 digits);
-    double drawChosenDigits();
+    double randomFactor(core::Int16 digits);
+    double randomFromChosenDigits();
     TypedFactor replaceFactors(double factor1, double factor2, bool hasSign);
     bool prepare(Exercise exercise);
     QStringList partialProducts(double factor1, double factor2) const;

@@ -11,8 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace written {
 
+namespace {
+
+constexpr int MenuType = 12;
+
+} // namespace
+
 void Form3::makeMenu()
 {
+    setMenuType(MenuType);
     QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
     makeSettings(options);
     on(item(options, u"MnuOpcIn1"_s, u"I&ntroducir factor 1"_s), &QAction::triggered,

@@ -94,10 +94,10 @@ void Form3::makeTexts()
         {ColumnLeft, verdictTop(m_board.resultTop()), ColumnWidth, VerdictHeight},
         u"Comprobación"_s);
     Text1->setJudged({m_board.TBResultado});
-    Text2 = displayBox(u"Text2"_s,
+    Text2 = countersBox(u"Text2"_s,
         {Margin, m_board.bottom() + CountersGap, MultiplicationBoard::right() - Margin,
             CountersHeight},
-        ui::look::Counters, u"Ejercicios y errores"_s, m_model.counters().FormatoAlineado());
+        m_model.counters().FormatoAlineado());
     for (ui::TextBox* box : std::initializer_list<ui::TextBox*>{Text1, Text2})
         box->allowFocus(Qt::TabFocus);
 }

@@ -19,20 +19,20 @@ MultiplesDivisors::MultiplesDivisors(core::RandomSource& random)
 void MultiplesDivisors::newExercise()
 {
     if (m_random.next() < 0.5f) {
-        Numero = core::drawInteger(m_random, 9, 2);
+        Numero = core::randomInteger(m_random, 9, 2);
         Modo = Mode::Multiples;
         return;
     }
-    drawFactors();
+    chooseFactors();
     Numero = Factores[0] * Factores[1] * Factores[2];
     Modo = Mode::Divisors;
 }
 
-void MultiplesDivisors::drawFactors()
+void MultiplesDivisors::chooseFactors()
 {
     for (auto factor = Factores.begin(); factor != Factores.end(); ++factor) {
         do {
-            *factor = core::drawInteger(m_random, 10, 1);
+            *factor = core::randomInteger(m_random, 10, 1);
         } while (std::find(Factores.begin(), factor, *factor) != factor);
     }
 }

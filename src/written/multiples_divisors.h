@@ -57,7 +57,7 @@ public:
 private:
     bool isRight(double answer) const;
     std::vector<int> findWrong(const Answer& answers) const;
-    void drawFactors();
+    void chooseFactors();
 
     core::RandomSource& m_random;
     Mode Modo = Mode::Multiples;

@@ -88,14 +88,14 @@ void FrmMultidivi::makeBoxes()
     TBMensajes = verdictBox(u"TBMensajes"_s,
         centred(AnswerTop + AnswerHeight + TrayMargin / 2, VerdictWidth, 640), u"Comprobación"_s);
     TBMensajes->setJudged({Text3.begin(), Text3.end()});
-    // Nothing is counted here: the line stays as it is.
-    displayBox(u"TbResultados"_s, {Margin, CountersTop, FullWidth, CountersHeight},
-        ui::look::Counters, u"Ejercicios y errores"_s, u"Ejercicios: 0; Errores: 0"_s);
+    // Nothing is counted here, and the line stays as it is: meant.
+    countersBox(u"TbResultados"_s, {Margin, CountersTop, FullWidth, CountersHeight},
+        u"Ejercicios: 0; Errores: 0"_s);
 }
 
 void FrmMultidivi::Form_Load()
 {
-    core::seedByTimer(screens().random(), screens().clock());
+    core::seedBySecondsOfDay(screens().random(), screens().clock());
     newExercise();
 }
 

@@ -5,6 +5,7 @@
 #include "ui/rule.h"
 #include "ui/squared_box.h"
 #include "ui/squared_paper.h"
+#include "written/squares.h"
 #include "written/wrong_mark.h"
 
 #include <algorithm>
@@ -20,8 +21,8 @@ namespace {
 
 // In twips. The lines of the paper begin and end where the rows do.
 constexpr double RowLeft = 1250;
-constexpr double RowWidth = 3000;
-constexpr double RowHeight = 500;
+constexpr double RowWidth = Squares::RowWidth;
+constexpr double RowHeight = Squares::RowHeight;
 constexpr double RowsTop = 2600;
 constexpr double PaperMargin = 500; // beside the rows, and above the factors
 constexpr double PaperLeft = RowLeft - 2 * PaperMargin;
@@ -30,31 +31,9 @@ constexpr double PaperRight = RowLeft + RowWidth + PaperMargin;
 constexpr int RowsWithRoom = 7; // below which the sheet has a free row at its end
 constexpr double SignLeft = RowLeft - PaperMargin;
 constexpr double SignWidth = RowLeft - SignLeft;
-constexpr double CrossSize = 320;
 
 constexpr ui::look::Font DigitFont{Family::CourierNew, 34, true};
 constexpr ui::look::Font QuietSignFont{Family::CourierNew, 16};
-
-/// Squares that fill a row exactly: so many side by side, one to three on top of each other.
-/// The digits stand in the ones that begin top twips below the top of the row.
-struct Squares {
-    int columns;
-    double height;
-    double top;
-    int signPixels; // type of the equals sign beside the result, at factor 1
-
-    double width() const { return RowWidth / columns; }
-    double middle() const { return top + height / 2; }
-};
-constexpr std::array SquareSizes{Squares{6, RowHeight, 0, 34},
-    Squares{12, RowHeight / 2, RowHeight / 2, 18}, Squares{18, RowHeight / 3, RowHeight / 3, 17},
-    Squares{20, RowHeight / 3, RowHeight / 3, 17}};
-
-const Squares& squaresFor(qsizetype characters)
-{
-    return *std::find_if(SquareSizes.begin(), SquareSizes.end() - 1,
-        [characters](const Squares& size) { return size.columns >= characters; });
-}
 
 /// As far as the margins go in whole squares.
 ui::TwipRect paperPlace(const Squares& squares, double bottom)
@@ -77,13 +56,6 @@ ui::TwipRect rowPlace(int fila)
 ui::TwipRect rulePlace(double top)
 {
     return {SignLeft, top, RowLeft + RowWidth - SignLeft, ui::Rule::Room};
-}
-
-void colourText(SquaredBox& box, QRgb colour)
-{
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Text, QColor(colour));
-    box.setPalette(palette);
 }
 
 } // namespace
@@ -120,10 +92,10 @@ MultiplicationBoard::MultiplicationBoard(ui::ControlFactory& controls, RowMade r
 {
     m_paper = m_controls.add(new ui::SquaredPaper(m_controls.canvas()), u"Sheet"_s,
         {PaperLeft, PaperTop, PaperRight - PaperLeft, bottomFor(FewestRows) - PaperTop});
-    addCross();
+    WrongMark* resultCross = makeCross(0);
     makeFactors();
     addRow();
-    makeResult();
+    makeResult(*resultCross);
     makeSigns();
     makeRules();
 }
@@ -141,7 +113,7 @@ void MultiplicationBoard::makeFactors()
     TbFactor[1]->setBlankRun(BlanksBehindSign);
 }
 
-void MultiplicationBoard::makeResult()
+void MultiplicationBoard::makeResult(WrongMark& cross)
 {
     TBResultado = m_controls.add(new SquaredBox(SquaredBox::Kind::Entry, m_controls.canvas()),
         u"TBResultado"_s, rowPlace(1), DigitFont);
@@ -150,6 +122,7 @@ void MultiplicationBoard::makeResult()
         u"Escriba desde las unidades hacia la izquierda y pulse Intro al terminar"_s);
     // Said each time that a reader comes by, hence short.
     TBResultado->setAccessibleDescription(u"desde las unidades"_s);
+    m_result.emplace(m_controls, *TBResultado, cross);
 }
 
 void MultiplicationBoard::makeSigns()
@@ -158,8 +131,8 @@ void MultiplicationBoard::makeSigns()
         u"labIgual"_s, u"="_s, {SignLeft, RowsTop + RowHeight, SignWidth, RowHeight}, DigitFont);
     // Quiet: the times sign that counts is the one in front of factor 2.
     LabX = m_controls.label(u"LabX"_s, u"&X"_s,
-        {SignLeft, RowsTop - RowHeight, SignWidth, RowHeight}, QuietSignFont, TbParcial[0]);
-    LabX->setAccessibleName(TbParcial[0]->accessibleName()); // readers call the box by its label
+        {SignLeft, RowsTop - RowHeight, SignWidth, RowHeight}, QuietSignFont, row(0));
+    LabX->setAccessibleName(row(0)->accessibleName()); // readers call the box by its label
     QPalette quiet = LabX->palette();
     quiet.setColor(QPalette::WindowText, QColor(ui::look::Quiet));
     LabX->setPalette(quiet);
@@ -189,31 +162,25 @@ void MultiplicationBoard::addRow()
     row->setAccessibleDescription(u"desde las unidades"_s);
     if (TBResultado != nullptr)
         row->stackUnder(TBResultado);
-    TbParcial.push_back(row);
-    addCross();
+    TbParcial.emplace_back(m_controls, *row, *makeCross(fila + 1));
     m_rowMade(row, fila);
 }
 
-void MultiplicationBoard::addCross()
+WrongMark* MultiplicationBoard::makeCross(int number)
 {
     auto* cross = m_controls.add(
-        new WrongMark(m_controls.canvas()), u"Cross(%1)"_s.arg(m_crosses.size()), rowPlace(0));
+        new WrongMark(m_controls.canvas()), u"Cross(%1)"_s.arg(number), rowPlace(0));
     cross->hide();
-    m_crosses.push_back(cross);
+    return cross;
 }
 
 void MultiplicationBoard::removeRow()
 {
-    SquaredBox* row = TbParcial.back();
+    const SquaredBox* box = TbParcial.back().box();
+    if (box->window()->focusWidget() == box)
+        row(0)->setFocus();
+    TbParcial.back().remove();
     TbParcial.pop_back();
-    m_crosses.back()->hide();
-    m_crosses.back()->deleteLater();
-    m_crosses.pop_back();
-    if (row->window()->focusWidget() == row)
-        TbParcial.front()->setFocus();
-    row->hide();
-    row->setObjectName({}); // its name is free before it is gone
-    row->deleteLater(); // the key that brought us here may be on its way through it
 }
 
 void MultiplicationBoard::setRowCount(int rows)
@@ -240,14 +207,16 @@ double MultiplicationBoard::bottom() const
 QStringList MultiplicationBoard::rowTexts() const
 {
     QStringList texts;
-    for (const SquaredBox* row : TbParcial)
-        texts << row->text();
+    for (const BoardRow& row : TbParcial)
+        texts << row.box()->text();
     return texts;
 }
 
 std::vector<SquaredBox*> MultiplicationBoard::answerBoxes() const
 {
-    std::vector<SquaredBox*> boxes = TbParcial;
+    std::vector<SquaredBox*> boxes;
+    for (const BoardRow& row : TbParcial)
+        boxes.push_back(row.box());
     boxes.push_back(TBResultado);
     return boxes;
 }
@@ -271,31 +240,19 @@ void MultiplicationBoard::showSolution(const QStringList& rows, const QString& r
 
 void MultiplicationBoard::empty()
 {
-    for (SquaredBox* box : answerBoxes()) {
-        box->write({});
-        colourText(*box, ui::look::Ink);
-    }
-    for (WrongMark* cross : m_crosses)
-        cross->hide();
+    for (BoardRow& row : TbParcial)
+        row.empty();
+    m_result->empty();
 }
 
 void MultiplicationBoard::showWrongRow(int fila)
 {
-    showWrong(*row(fila), *core::at(m_crosses, fila + 1));
+    core::at(TbParcial, fila).showWrong();
 }
 
 void MultiplicationBoard::showWrongResult()
 {
-    showWrong(*TBResultado, *m_crosses.front());
-}
-
-void MultiplicationBoard::showWrong(SquaredBox& box, WrongMark& cross)
-{
-    constexpr double Inset = (RowHeight - CrossSize) / 2;
-    const ui::TwipRect place = m_controls.placeOf(&box);
-    m_controls.place(&cross, {place.right() + Inset, place.top + Inset, CrossSize, CrossSize});
-    colourText(box, ui::look::Red);
-    cross.show();
+    m_result->showWrong();
 }
 
 void MultiplicationBoard::fitSquares(qsizetype characters)
@@ -304,7 +261,7 @@ void MultiplicationBoard::fitSquares(qsizetype characters)
     boxes.insert(boxes.end(), TbFactor.begin(), TbFactor.end());
     for (const SquaredBox* box : boxes)
         characters = std::max<qsizetype>(characters, box->columns());
-    const Squares& squares = squaresFor(characters);
+    const Squares& squares = Squares::forCharacters(characters);
     for (SquaredBox* box : boxes)
         box->setSquare(squares.width(), squares.height, squares.top);
     m_controls.place(m_paper, paperPlace(squares, bottom()));

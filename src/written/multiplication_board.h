@@ -1,10 +1,13 @@
 #pragma once
 
 #include "core/defect.h"
+#include "written/board_row.h"
+
 #include <QStringList>
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -17,8 +20,6 @@ class SquaredPaper;
 } // namespace ui
 
 namespace written {
-
-class WrongMark;
 
 /// The squared sheet of a multiplication and what stands on it: the factors, a row for each
 /// partial product and the result, with their signs and rules. Its squares shrink for a number
@@ -36,7 +37,7 @@ public:
     /// Places what stands below the rows, and empties all.
     void placeRows();
     int rowCount() const { return static_cast<int>(TbParcial.size()); }
-    ui::SquaredBox* row(int fila) const { return core::at(TbParcial, fila); }
+    ui::SquaredBox* row(int fila) const { return core::at(TbParcial, fila).box(); }
     QStringList rowTexts() const;
     /// The rows and the result.
     std::vector<ui::SquaredBox*> answerBoxes() const;
@@ -72,22 +73,21 @@ public:
 
 private:
     void makeFactors();
-    void makeResult();
+    WrongMark* makeCross(int number);
+    void makeResult(WrongMark& cross);
     void makeSigns();
     void makeRules();
     void addRow();
-    void addCross();
     void removeRow();
-    void showWrong(ui::SquaredBox& box, WrongMark& cross);
 
     ui::ControlFactory& m_controls;
     RowMade m_rowMade;
     ui::SquaredPaper* m_paper = nullptr;
     QLabel* LabX = nullptr; ///< the times sign beside factor 2, and the way to the first row
-    std::vector<ui::SquaredBox*> TbParcial; ///< the partial products, row 0 at the top
+    std::vector<BoardRow> TbParcial; ///< the partial products, row 0 at the top
     ui::Rule* Line2 = nullptr; ///< the rule under the last row
     QLabel* labIgual = nullptr; ///< the equals sign beside the result
-    std::vector<WrongMark*> m_crosses; ///< the result's, then those of the rows
+    std::optional<BoardRow> m_result; ///< with TBResultado
 };
 
 } // namespace written

@@ -268,7 +268,7 @@ void WorkArea::paintEvent(QPaintEvent*)
 void WorkArea::paintBar(QPainter& painter) const
 {
     QRect bar = cellRect(cursorPosition());
-    bar.setWidth(std::max(2, qRound(ui::look::CaretWidth * factor())));
+    bar.setWidth(std::max(2, qRound(ui::look::thick(ui::look::CaretWidth) * factor())));
     painter.fillRect(bar, QColor(ui::look::Focus));
 }
 

@@ -37,11 +37,28 @@ private slots:
         QVERIFY(clock.readings.empty());
     }
 
-    void seedByTimerKeepsTheFraction()
+    void theSystemsClockTellsTheTimeAndGoesOn()
+    {
+        const core::SystemClock clock;
+        const auto since = [](QTime from, QTime to) { // also past midnight
+            constexpr int Day = 24 * 60 * 60 * 1000;
+            return (from.msecsTo(to) + Day) % Day;
+        };
+        const QTime before = QTime::currentTime();
+        const QTime told = clock.timeOfDay();
+        const QTime after = QTime::currentTime();
+        QVERIFY(since(before, told) <= since(before, after));
+        const auto steadily = [] { return std::chrono::steady_clock::now().time_since_epoch(); };
+        const auto first = std::chrono::floor<std::chrono::milliseconds>(steadily());
+        const std::chrono::milliseconds passed = clock.elapsed();
+        QVERIFY(first <= passed && passed <= steadily());
+    }
+
+    void seedBySecondsOfDayKeepsTheFraction()
     {
         FakeClock clock(QTime(0, 1, 1, 250));
         ScriptedRandom random;
-        core::seedByTimer(random, clock);
+        core::seedBySecondsOfDay(random, clock);
         QCOMPARE(random.seeds, std::vector<double>{61.25});
     }
 };

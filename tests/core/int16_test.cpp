@@ -27,6 +27,18 @@ private slots:
         QCOMPARE((-Int16(5)).value(), -5);
     }
 
+    void startsAtNothingAndCounts()
+    {
+        Int16 number;
+        QCOMPARE(number.value(), 0);
+        QCOMPARE((++number).value(), 1);
+        QCOMPARE((number += 6).value(), 7);
+        QCOMPARE((number *= 3).value(), 21);
+        QCOMPARE((number -= 9).value(), 12);
+        QCOMPARE((--number).value(), 11);
+        QCOMPARE(number.value(), 11);
+    }
+
     void leavingTheRangeThrowsAndChangesNothing()
     {
         Int16 top = 32767;

@@ -113,6 +113,20 @@ private slots:
         }
     }
 
+    void overflowQuotesTheBeginningOfALongText()
+    {
+        const auto quoted = [](const QString& typed) {
+            try {
+                core::readInt16(typed);
+            } catch (const core::OverflowError& error) {
+                return error.text().section(u'»', 0, 0).mid(1);
+            }
+            return QString();
+        };
+        QCOMPARE(quoted(QString(40, u'9')), QString(40, u'9'));
+        QCOMPARE(quoted(QString(41, u'9')), QString(40, u'9') + u"…"_s);
+    }
+
     void writesGeneralTextInTheLocale()
     {
         const QLocale spanish(QLocale::Spanish, QLocale::Spain);
@@ -120,6 +134,8 @@ private slots:
         QCOMPARE(core::generalText(100.0 / 3, QLocale::c()), u"33.3333333333333"_s);
         QCOMPARE(core::generalText(50, spanish), u"50"_s);
         QCOMPARE(core::generalText(0, spanish), u"0"_s);
+        QCOMPARE(core::generalText(-0.0, spanish), u"0"_s);
+        QCOMPARE(core::generalText(1, spanish), u"1"_s);
         QCOMPARE(core::generalText(12345.5, spanish), u"12345,5"_s);
         QCOMPARE(core::generalText(200.0 / 3, spanish), u"66,6666666666667"_s);
     }
@@ -128,6 +144,7 @@ private slots:
     {
         QCOMPARE(core::wholeText(0), u"0"_s);
         QCOMPARE(core::wholeText(-0.0), u"0"_s);
+        QCOMPARE(core::wholeText(1), u"1"_s);
         QCOMPARE(core::wholeText(-12), u"-12"_s);
         QCOMPARE(core::wholeText(99999999980000000001.0), u"99999999980000002048"_s);
         QCOMPARE(core::wholeText(1e22), u"10000000000000000000000"_s);

@@ -47,11 +47,11 @@ private slots:
     {
         const float highest = std::nextafter(1.0f, 0.0f);
         ScriptedRandom random{0.0f, 0.0999f, 0.1f, highest, highest};
-        QCOMPARE(core::drawInteger(random, 10, 1).value(), 1);
-        QCOMPARE(core::drawInteger(random, 10, 1).value(), 1);
-        QCOMPARE(core::drawInteger(random, 10, 1).value(), 2);
-        QCOMPARE(core::drawInteger(random, 10, 1).value(), 10);
-        QCOMPARE(core::drawInteger(random, 32767, 0).value(), 32766);
+        QCOMPARE(core::randomInteger(random, 10, 1).value(), 1);
+        QCOMPARE(core::randomInteger(random, 10, 1).value(), 1);
+        QCOMPARE(core::randomInteger(random, 10, 1).value(), 2);
+        QCOMPARE(core::randomInteger(random, 10, 1).value(), 10);
+        QCOMPARE(core::randomInteger(random, 32767, 0).value(), 32766);
         QCOMPARE(random.left(), 0u);
     }
 
@@ -61,7 +61,7 @@ private slots:
         random.seed(1);
         std::array<int, 9> counts{};
         for (int i = 0; i < 90'000; ++i)
-            ++core::at(counts, core::drawInteger(random, 9, 2).value() - 2);
+            ++core::at(counts, core::randomInteger(random, 9, 2).value() - 2);
         for (int count : counts)
             QVERIFY2(std::abs(count - 10'000) < 500, qPrintable(QString::number(count)));
     }

@@ -19,7 +19,7 @@ namespace {
 
 using Gotas = std::array<Gota, RainFall::Slots>;
 
-constexpr int Height = 9000; // twips
+constexpr int LastRow = 16;
 
 /// Keeps the books of a game from what happens to it, without asking the model: which numbers
 /// escape in a tick, what that costs, which box must open and what must be free after it.
@@ -115,7 +115,7 @@ class RandomPlayer {
 public:
     RandomPlayer(std::uint32_t seed, Difficulty difficulty)
         : m_engine(seed)
-        , m_rain(m_random, Height)
+        , m_rain(m_random, LastRow)
         , m_books(difficulty)
     {
         m_random.seed(seed);
@@ -150,7 +150,7 @@ private:
 
     bool escapes(const Gota& gota) const
     {
-        return gota.Espera.value() == 1 && 780 + 500 * (gota.Fila.value() + 1) > Height;
+        return gota.Espera.value() == 1 && gota.Fila.value() + 1 > LastRow;
     }
 
     void tick()

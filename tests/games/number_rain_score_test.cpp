@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// One row: a number launched into it escapes with its first step.
-constexpr int OneRow = 780;
+constexpr int OneRow = 0;
 
 /// A number escapes at its row 18.
-constexpr int TwoAtOnce = 780 + 500 * 17;
+constexpr int TwoAtOnce = 17;
 
 const auto Clumsy = u"Has cometido demasiados errores y pierdes una vida. "
                     "Deberás volver a empezar esta fase."_s;
@@ -65,7 +65,7 @@ private slots:
     void everyFateOfANumberIsTold()
     {
         using Kind = games::RainEvent::Kind;
-        RainGame game(1000); // twips: a number is out of sight after its first step
+        RainGame game(OneRow);
         game.rain.start();
         const auto told = [](const RainStep& step, Kind kind, int valor, int points) {
             return step.events.size() == 1 && step.events.front().kind == kind
@@ -261,7 +261,7 @@ private slots:
         QVERIFY(asksNoFocus(step));
         // behind the box: slots to 10 have moved, the others have not, nothing is reset
         QCOMPARE(game.gota(9).Espera.value(), afterATick(before[9]));
-        QVERIFY(game.gota(10).top() > TwoAtOnce);
+        QVERIFY(game.gota(10).Fila > TwoAtOnce);
         QVERIFY(!game.rain.fall().Libre()[10]);
         QCOMPARE(game.gota(11).Espera.value(), before[11].Espera.value());
         QCOMPARE(game.gota(13).Fila.value(), before[13].Fila.value());
@@ -518,7 +518,7 @@ private slots:
 
     void aFreeSlotCannotBeClicked()
     {
-        RainGame game(780);
+        RainGame game(OneRow);
         game.launch(3, 5, 2);
         game.calmTick(); // just escaped
         const auto text = game.rain.pointsText();
@@ -645,7 +645,7 @@ private:
         game.rain.answer();
     }
 
-    /// On Hard, up to the tick in which, at height TwoAtOnce, the numbers in slots 10 and 13
+    /// On Hard, up to the tick in which, with TwoAtOnce rows, the numbers in slots 10 and 13
     /// escape, both targets that cost a life, and another number is launched.
     static void armTwoEscapes(RainGame& game)
     {

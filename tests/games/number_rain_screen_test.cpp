@@ -3,6 +3,7 @@
 
 #include "games/rain_drop.h"
 #include "games/rain_game.h"
+#include "games/rain_grid.h"
 #include "games/rain_halo.h"
 #include "games/rain_splash.h"
 #include "games/token_row.h"
@@ -15,6 +16,7 @@
 #include <random>
 
 using games::RainFall;
+using games::RainGrid;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -739,7 +741,7 @@ private:
     {
         screen = &bench->open<QuietForm5>();
         guard = screen;
-        model = std::make_unique<RainGame>(Height);
+        model = std::make_unique<RainGame>(RainGrid::lastRow(Height));
     }
 
     // Both, the screen and the model beside it.
@@ -832,7 +834,7 @@ private:
                 continue;
             const auto& gota = model->gota(slot);
             QCOMPARE(drop(slot).text(), QString::number(gota.Valor.value()));
-            QCOMPARE(drop(slot).pos(), at(gota.left(), gota.top()));
+            QCOMPARE(drop(slot).pos(), at(RainGrid::left(gota), RainGrid::top(gota)));
         }
     }
 

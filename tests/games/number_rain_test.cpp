@@ -1,5 +1,6 @@
 #include "core/defect.h"
 #include "games/rain_game.h"
+#include "games/rain_grid.h"
 
 #include <QtTest>
 
@@ -8,6 +9,7 @@
 using core::Int16;
 using games::Difficulty;
 using games::RainFall;
+using games::RainGrid;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -236,8 +238,8 @@ private slots:
         QCOMPARE(gota.Espera.value(), 6 - gota.Velocidad.value());
         QCOMPARE(gota.Direccion.value(), 0);
         QCOMPARE(gota.Deriva.value(), 0);
-        QCOMPARE(gota.top(), 780);
-        QCOMPARE(gota.left(), 500 * gota.Columna.value());
+        QCOMPARE(RainGrid::top(gota), 780);
+        QCOMPARE(RainGrid::left(gota), 500 * gota.Columna.value());
     }
 
     void launchTakesTheLowestFreeSlot()
@@ -291,7 +293,7 @@ private slots:
         for (const int row : rows) {
             game.calmTick();
             QCOMPARE(game.gota(0).Fila.value(), row);
-            QCOMPARE(game.gota(0).top(), 780 + 500 * row);
+            QCOMPARE(RainGrid::top(game.gota(0)), 780 + 500 * row);
         }
         QCOMPARE(game.gota(0).Columna.value(), 8);
     }
@@ -372,7 +374,7 @@ private slots:
                 game.calmTick();
             }
             QCOMPARE(game.gota(0).Columna.value(), column);
-            QCOMPARE(game.gota(0).left(), 500 * column);
+            QCOMPARE(RainGrid::left(game.gota(0)), 500 * column);
         }
         QCOMPARE(game.gota(0).Deriva.value(), 0);
         QCOMPARE(game.gota(0).Fila.value(), 7);
@@ -390,7 +392,7 @@ private slots:
     {
         QFETCH(int, height);
         QFETCH(int, steps);
-        RainGame game(height);
+        RainGame game(RainGrid::lastRow(height));
         game.launch(6, 5, 2);
         game.calmTicks(steps - 1);
         QCOMPARE(game.taken(), 1);

@@ -1,4 +1,4 @@
-#include "games/race.h"
+#include "games/race_course.h"
 
 #include "support/scripted_random.h"
 
@@ -181,8 +181,8 @@ private slots:
         QCOMPARE(race->solved(), 1);
         QCOMPARE(race->operation(), u"2 × 8 ="_s);
         QCOMPARE(race->verdict().text(), u"Correcto "_s);
-        QCOMPARE(race->playerLeft(), 9500.0 - 9500.0 / 15);
-        QCOMPARE(race->rivalLeft(), 9500.0);
+        QCOMPARE(course.playerLeft(race->solved()), 9500.0 - 9500.0 / 15);
+        QCOMPARE(course.rivalLeft(race->rivalSteps()), 9500.0);
     }
 
     void wrongAnswerKeepsTheOperationAndStartsNothing_data()
@@ -202,7 +202,7 @@ private slots:
         QCOMPARE(race->verdict().text(), u"Error"_s);
         QCOMPARE(race->solved(), 0);
         QVERIFY(!race->clocksRun());
-        QCOMPARE(race->playerLeft(), 9500.0);
+        QCOMPARE(course.playerLeft(race->solved()), 9500.0);
         QCOMPARE(random.left(), 0u);
     }
 
@@ -325,7 +325,7 @@ private slots:
         prepare(7, 5);
         for (int step = 1; step < 15; ++step) {
             QCOMPARE(solve(), Verdict::Right);
-            QCOMPARE(race->playerLeft(), 9500.0 - 9500.0 / 15 * step);
+            QCOMPARE(course.playerLeft(race->solved()), 9500.0 - 9500.0 / 15 * step);
             race->secondPassed();
         }
         QVERIFY(!race->isOver());
@@ -333,7 +333,7 @@ private slots:
         QCOMPARE(race->solved(), 15);
         QVERIFY(race->isOver());
         QVERIFY(!race->clocksRun());
-        QVERIFY(std::abs(race->playerLeft()) < 1e-9);
+        QVERIFY(std::abs(course.playerLeft(race->solved())) < 1e-9);
         QCOMPARE(race->wonText(), u"Has ganado la carrera. Has tardado 14 segundos."_s);
     }
 
@@ -343,14 +343,14 @@ private slots:
         solve();
         for (int step = 1; step < 60; ++step) {
             QCOMPARE(race->rivalStep(), RivalStep::Moved);
-            QCOMPARE(race->rivalLeft(), 9500.0 - 9500.0 / 60 * step);
+            QCOMPARE(course.rivalLeft(race->rivalSteps()), 9500.0 - 9500.0 / 60 * step);
         }
         race->secondPassed();
         QCOMPARE(race->rivalStep(), RivalStep::Won);
         QCOMPARE(race->rivalSteps(), 60);
         QVERIFY(race->isOver());
         QVERIFY(!race->clocksRun());
-        QVERIFY(std::abs(race->rivalLeft()) < 1e-9);
+        QVERIFY(std::abs(course.rivalLeft(race->rivalSteps())) < 1e-9);
         QCOMPARE(
             race->lostText(), u"tu adversario ha ganado la carrera. Ha tardado 1 segundos."_s);
     }
@@ -407,8 +407,8 @@ private slots:
         QCOMPARE(race->solved(), 0);
         QCOMPARE(race->seconds(), 0);
         QCOMPARE(race->rivalSteps(), 0);
-        QCOMPARE(race->playerLeft(), 9500.0);
-        QCOMPARE(race->rivalLeft(), 9500.0);
+        QCOMPARE(course.playerLeft(race->solved()), 9500.0);
+        QCOMPARE(course.rivalLeft(race->rivalSteps()), 9500.0);
         QVERIFY(!race->isOver());
         QCOMPARE(race->operation(), u"4 ÷ 2 ="_s);
     }
@@ -526,6 +526,7 @@ private:
 
     ScriptedRandom random;
     std::unique_ptr<Race> race;
+    const games::RaceCourse course;
 };
 
 QTEST_GUILESS_MAIN(RaceTest)

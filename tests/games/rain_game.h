@@ -16,10 +16,10 @@ inline bool asksNoFocus(const games::RainStep& step)
 class RainGame {
 public:
     static constexpr float Never = 0.999f; ///< a draw that starts no drift
-    static constexpr int Deep = 30000; ///< a height (twips) from which nothing escapes soon
+    static constexpr int Deep = 60; ///< rows out of which nothing escapes soon
 
-    explicit RainGame(int height = Deep)
-        : rain(random, height)
+    explicit RainGame(int lastRow = Deep)
+        : rain(random, lastRow)
     {
     }
 

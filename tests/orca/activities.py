@@ -1,7 +1,7 @@
 """Each activity as a pupil who cannot see plays it: by keys alone, from what is heard. Every
 answer is worked out from the words of the reader, so that a word too few ends the walk."""
 
-import re
+from games import race, rain
 
 
 def repeated_sum(pupil):
@@ -43,16 +43,15 @@ def tables(pupil):
     a, b = (int(number) for number in question.groups())
     pupil.does("9", "9", "Return", says=["resultado incorrecto"])
     pupil.does("Return", says=["resultado incorrecto"])
-    pupil.does("alt+v", says=[f"{a} por {b} igual a {a * b}"], also=["selected"])
-    pupil.goes_on("Return", f"{a} por {b + 1}", before=["Resultado correcto"],
-                  also=["Selection deleted"])
+    pupil.does("alt+v", says=[f"{a} por {b} igual a {a * b}"])
+    pupil.goes_on("Return", f"{a} por {b + 1}", before=["Resultado correcto"])
     pupil.close()
 
 
 def quick_tables(pupil):
     """Whoever takes more than ten seconds is told so, and gets another operation."""
-    pupil.open("Tablas rápidas", names=["Empezar", "Respuesta"])
-    pupil.desk.hear("Empezar (?:push )?button.*")
+    pupil.open("Tablas rápidas", names=["TABLAS RÁPIDAS", "Empezar", "Respuesta", "Salir"])
+    pupil.exercise("Escribe el resultado correcto y pulsa enter")
     operation = r"(\d+) por (\d+)"
     pupil.press("alt+e")
     pupil.hears(operation)
@@ -66,14 +65,41 @@ def quick_tables(pupil):
         if pupil.desk.passed[-2] == "BIEN":
             break
     pupil.press("alt+s")
-    pupil.hears("alert Pizarrin", ".*operaciones.*", "Aceptar (?:push )?button.*")
+    hear_report(pupil, r".*Errores por tiempo: [1-9].*")
+    quick_tables_to_a_limit(pupil)
+
+
+def quick_tables_to_a_limit(pupil):
+    """Two errors, then the report comes by itself."""
+    pupil.open("Tablas rápidas", names=[])
+    pupil.hears("Empezar (?:push )?button.*")
+    pupil.press("shift+Tab")
+    pupil.hears(".*Al pulsar Salir.*")
+    for option in ("Tiempo", "Operaciones", "Errores"):
+        pupil.press("Down")
+        pupil.hears(f"{option}.*")
+    pupil.press("Tab")
+    pupil.hears("Límite.*")
+    pupil.press("2", "Tab")
+    pupil.hears("Empezar (?:push )?button.*")
+    pupil.press("space")
+    operation = r"(\d+) por (\d+)"
+    pupil.hears(operation)
     pupil.press("Return")
-    pupil.at_the_menu()
+    pupil.hears("MAL", operation)
+    pupil.press("Return")
+    hear_report(pupil, r"Número de operaciones: \d\. Número total de errores: 2\..*")
+
+
+def hear_report(pupil, report):
+    pupil.hears("alert Pizarrin", report, "Aceptar (?:push )?button.*")
+    pupil.press("Return")
+    pupil.back_at_the_menu()
 
 
 def multiples(pupil):
     pupil.open("Múltiplos y divisores", names=[
-        "Respuesta", "Hecho", "Ver solución", "Continuar", "Text unselected", "selected"])
+        "Respuesta", "Hecho", "Ver solución", "Continuar"])
     asked = r"Introduzca tres (múltiplos|divisores) diferentes .*: (\d+)"
     pupil.exercise(asked)
     pupil.does("1", "Tab", "1", "Tab", "1", "Return", says=["Resultado incorrecto"])
@@ -129,7 +155,9 @@ def division(pupil):
         pupil.does(digit, "Right", says=["línea 1.*"])
     pupil.does("Tab", says=["Divisor label.*"])
     pupil.does("Tab", says=["Cociente.*"])
-    pupil.does(*str(quotient), "alt+h", says=["resultado correcto"])
+    # An access key is faster than the digits before it, which the reader hands on.
+    pupil.does(*str(quotient), "Tab", says=["Hecho.*"])
+    pupil.does("space", says=["resultado correcto"])
     pupil.goes_on("space", asked, also=[first_square])
     pupil.close()
 
@@ -149,15 +177,16 @@ def problems(pupil):
 
 def combined(pupil):
     pupil.open("Operaciones combinadas", names=[
-        "Resultado text", "Hecho", "Ver Solución", "Continuar", "Selection deleted"])
+        "Resultado text", "Hecho", "Ver Solución", "Continuar"])
     operation = r"(?=.*\d.*\d).* (?:más|menos|por|entre) .*"
     result = value_of(pupil.exercise(operation).group())
     pupil.does(*str(result + 1), "Return", says=["Resultado incorrecto"])
     pupil.does("Return", says=["Resultado incorrecto"])
     pupil.does("alt+v", says=[f"Solución: {result}"])
-    result = value_of(pupil.goes_on("alt+c", operation, also=[r"(\d+ )?selected"]).group())
+    # The answer stays in the box until the next one is typed: the reader says what is in it.
+    result = value_of(pupil.goes_on("alt+c", operation, also=[str(result)]).group())
     pupil.does(*str(result), "Return", says=["Resultado correcto"])
-    pupil.goes_on("alt+c", operation, also=[r"(\d+ )?selected", str(result)])
+    pupil.goes_on("alt+c", operation, also=[str(result)])
     pupil.close()
 
 
@@ -166,50 +195,6 @@ def value_of(spoken):
     signs = {"más": "+", "menos": "-", "por": "*", "entre": "//"}
     spoken = spoken.replace("abre paréntesis", "(").replace("cierra paréntesis", ")")
     return eval(" ".join(signs.get(word, word) for word in spoken.split()), {})
-
-
-def rain(pupil):
-    pupil.open("Lluvia de números", names=["EMPEZAR"])
-    pupil.exercise("Elimina los números impares.*")
-    pupil.press("space")
-    catch(pupil, lambda number: number % 2 == 1, "Acierto 1")
-    catch(pupil, lambda number: number % 2 == 0, "Error")
-    pupil.close()
-
-
-def catch(pupil, wanted, outcome):
-    """Presses numbers until one is as wanted: another may have come up meanwhile."""
-    while True:
-        number = int(pupil.hears(r"(\d+) (?:push )?button").group(1))
-        if not wanted(number):
-            continue
-        pupil.press("space")
-        if re.fullmatch(outcome, pupil.hears(r"Acierto \d+|Error").group()):
-            return
-
-
-def race(pupil):
-    pupil.open("La gran carrera", names=[])
-    pupil.hears("Selecciona tu coche.*")
-    pupil.press("Tab")
-    pupil.hears("Selecciona el coche de tu rival.*")
-    pupil.press("Tab")
-    pupil.hears("Selecciona el tipo de carrera.*")
-    pupil.press("Tab")
-    pupil.hears("Aceptar (?:push )?button.*")
-    pupil.names = ["La gran carrera", "Resultado", "Respuesta"]
-    pupil.press("space")
-    operation = r"(\d+) por (\d+)"
-    a, b = (int(number) for number in pupil.exercise(operation).groups())
-    pupil.does("1", "Return", says=["Error"])
-    for answer in range(3):
-        pupil.press(*str(a * b), "Return")
-        a, b = (int(number) for number in pupil.hears(operation).groups())
-    pupil.press(*str(a * b), "Return")
-    pupil.hears("Correcto", r"Tú: 4 de 15\. Rival: \d+ de 15", operation)
-    pupil.hears(".*adversario ha ganado.*")  # without a hand on the keyboard
-    pupil.desk.press_until("Return", "Pista.*")
-    pupil.close()
 
 
 PLACES = ["unidades", "decenas", "centenas"]

@@ -32,12 +32,24 @@ SETTINGS = {
 }
 
 
+# What a reader says of a text that the program has highlighted or replaced, and of where the
+# focus rests while there is nothing to be done: none of it is of use to a pupil.
+CHATTER = re.compile(r"(.* )?(un)?selected|Selection .*|Cielo.*|panel|unknown")
+
+
 class Silence(AssertionError):
     """The reader did not say what it had to."""
 
 
+class Chatter(AssertionError):
+    """The reader said what it should not."""
+
+
 class Desk:
     """Use as a context: everything that it has started ends with it."""
+
+    def __init__(self, reader=True):
+        self.has_reader = reader
 
     def __enter__(self):
         self.folder = Path(tempfile.mkdtemp(prefix="desk-"))
@@ -57,7 +69,9 @@ class Desk:
         (self.folder / "run").mkdir(mode=0o700)
         try:
             self._start_display()
-            self._start_reader()
+            self._start_accessibility()
+            if self.has_reader:
+                self._start_reader()
         except BaseException:
             self.__exit__()
             raise
@@ -99,6 +113,14 @@ class Desk:
         self.start("openbox", "--startup", f"sh -c 'echo >{managed}'")
         managed.read_text()
 
+    def _start_accessibility(self):
+        # Asking where its bus is starts it.
+        subprocess.run(
+            ["dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
+             "org.a11y.Bus.GetAddress"],
+            env=self.environment, check=True, stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL)
+
     def _start_reader(self):
         speech = self.folder / "speech"
         shutil.copytree("/etc/speech-dispatcher", speech)
@@ -106,12 +128,6 @@ class Desk:
         settings = self.folder / ".local/share/orca/user-settings.conf"
         settings.parent.mkdir(parents=True)
         settings.write_text(json.dumps(SETTINGS))
-        # Asking where the accessibility bus is starts it.
-        subprocess.run(
-            ["dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
-             "org.a11y.Bus.GetAddress"],
-            env=self.environment, check=True, stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL)
         self.start("speech-dispatcher", "-s", "-t", "0", "-C", str(speech), "-L",
                    str(self.folder))
         socket = self.folder / "run/speech-dispatcher/speechd.sock"
@@ -163,7 +179,7 @@ class Desk:
                 raise Silence(f"{key} does not bring about {words}")
             self.press(key)
             try:
-                self.heard.append(self.said.get(timeout=0.3))
+                self._take(0.3)
             except queue.Empty:
                 pass
         self.hear(words)
@@ -187,6 +203,12 @@ class Desk:
 
     def _hear_on(self, pattern, end):
         try:
-            self.heard.append(self.said.get(timeout=max(0, end - time.monotonic())))
+            self._take(max(0, end - time.monotonic()))
         except queue.Empty:
             raise Silence(f"waited for {pattern!r}, heard {self.heard}") from None
+
+    def _take(self, seconds):
+        said = self.said.get(timeout=seconds)
+        if CHATTER.fullmatch(said):
+            raise Chatter(f"heard {said!r} behind {self.heard}")
+        self.heard.append(said)

@@ -53,6 +53,11 @@ class Pupil:
         self.desk.press(*keys)
         self._note(" ".join(keys), [])
 
+    def press_until(self, key, words):
+        """Presses a key until it brings this about: what came up by itself takes none at first."""
+        self.desk.press_until(key, words)
+        self._note(key, self.desk.passed)
+
     def hears(self, *words):
         """Hears these in order, whatever else is said in between. Returns the last match."""
         match = self.desk.hear(*words)[-1]
@@ -64,19 +69,16 @@ class Pupil:
         self.desk.press(*keys)
         matches = self.desk.hear(*says)
         self._note(" ".join(keys))
-        self._again([*says], also)
+        self._again([*says], [*also, *typed_by(keys)])
         return matches
-
-    def reads_the_tree(self):
-        """Every control that shows has its role, name and states, and Tab reads the screen."""
-        tree = subprocess.run([sys.executable, Path(__file__).with_name("tree.py"), "--order"],
-                              env=self.desk.environment, capture_output=True, text=True)
-        if tree.returncode != 0:
-            raise AssertionError(tree.stdout + tree.stderr)
 
     def close(self):
         self.desk.press("alt+F4")
-        self.at_the_menu()
+        self.back_at_the_menu()
+
+    def back_at_the_menu(self):
+        """Where the focus still is on what has been opened."""
+        self.desk.hear(rf"{self.at} (?:push )?button.*")
 
     def _note(self, keys, said=None):
         self.transcript.append((keys, list(self.desk.passed if said is None else said)))
@@ -95,6 +97,12 @@ class Pupil:
                    if len(one) > 1 and not any(re.match(name, one) for name in own)]
         if chatter:
             raise Silence(f"heard {chatter} besides {expected}")
+
+
+def typed_by(keys):
+    """What stands in the boxes meanwhile: whoever looks late finds more than a key in one."""
+    runs = "".join(key if len(key) == 1 else " " for key in keys).split()
+    return [run[:length] + "$" for run in runs for length in range(2, len(run) + 1)]
 
 
 def main():

@@ -274,14 +274,14 @@ private slots:
 
     void bankAndBackupKeepTheBanksPermissions_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::newRow("a class shares it") << 0664;
-        QTest::newRow("one person's") << 0600;
-        QTest::newRow("everybody's") << 0666;
+        QTest::addColumn<unsigned>("mode");
+        QTest::newRow("a class shares it") << 0664U;
+        QTest::newRow("one person's") << 0600U;
+        QTest::newRow("everybody's") << 0666U;
     }
     void bankAndBackupKeepTheBanksPermissions()
     {
-        QFETCH(int, mode);
+        QFETCH(unsigned, mode);
         write(u"Problemas3.dat"_s, "antes\r\n");
         write(u"Problemas3.bak"_s, "otro\r\n"); // somebody else's, of before
         QVERIFY(QFile::setPermissions(path(u"Problemas3.dat"_s), permissions(mode)));
@@ -414,6 +414,17 @@ private slots:
         }
         QVERIFY2(failure.contains(u"No hay permiso para escribir en esa carpeta."),
             qPrintable(failure));
+        QCOMPARE(contents(u"Problemas3.dat"_s), QByteArray("antes\r\n"));
+    }
+
+    void aFolderInPlaceOfTheBackupKeepsTheBank()
+    {
+        write(u"Problemas3.dat"_s, "antes\r\n");
+        QVERIFY(QDir(m_folder->path()).mkdir(u"Problemas3.bak"_s));
+        QCOMPARE(savingFails({u"a"_s}),
+            u"No se puede guardar «%1».\nEl archivo está protegido contra escritura.\n"
+            "El banco de problemas anterior sigue como estaba."_s.arg(
+                QDir::toNativeSeparators(path(u"Problemas3.bak"_s))));
         QCOMPARE(contents(u"Problemas3.dat"_s), QByteArray("antes\r\n"));
     }
 

@@ -20,7 +20,7 @@ private slots:
     {
         bench = std::make_unique<ScreenBench>();
         writeBank(bench->folder.path(), {"P0|10|u0|*", "P1|11|u1|*"});
-        screens = std::make_unique<ui::Screens>(
+        screens = std::make_unique<ui::ScreenSet>(
             bench->random, bench->clock, bench->folder.filePath(u"nada"_s), bench->folder.path());
     }
     void cleanup()
@@ -69,7 +69,7 @@ private:
     }
 
     std::unique_ptr<ScreenBench> bench;
-    std::unique_ptr<ui::Screens> screens;
+    std::unique_ptr<ui::ScreenSet> screens;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(SharedBankTest)

@@ -52,8 +52,8 @@ private slots:
             QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
             QVERIFY2(face, qPrintable(control->objectName()));
             const QString name = face->text(QAccessible::Name);
-            if (isDecoration(*control))
-                continue;
+            if (isDecoration(*control) || control->objectName() == u"PbFoco"_s)
+                continue; // the latter is where the focus rests: a name would be read out there
             QVERIFY2(!name.isEmpty(), qPrintable(control->objectName()));
             QVERIFY2(name != control->objectName(), qPrintable(name));
             QCOMPARE(int(face->role()), int(expectedRole(control)));

@@ -12,7 +12,7 @@ class ActivitiesTest : public QObject {
 private slots:
     void init()
     {
-        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
+        screens = std::make_unique<ui::ScreenSet>(random, clock, folder.path());
         addScreens(*screens);
         screens->show(u"Form1"_s);
         menu = screens->loaded(u"Form1"_s);
@@ -50,6 +50,10 @@ private slots:
                  u"tests/%1_screen_test.cpp"_s})
             QVERIFY2(
                 has(file.arg(row.source)), qPrintable(u"missing: "_s + file.arg(row.source)));
+        QFile screen(QStringLiteral(PIZARRIN_SOURCE "/src/") + row.source + u"_screen.h"_s);
+        QVERIFY(screen.open(QIODevice::ReadOnly));
+        QVERIFY2(screen.readAll().contains("spokenExercise() const"),
+            "a screen reader says nothing: there is no spokenExercise()");
         QVERIFY2(row.pictogram != shell::Pictogram::Exit, "the pictogram is the exit's");
         const QString chapter = u"### "_s + QString(row.caption).remove(u'&');
         QVERIFY2(manual().contains(u'\n' + chapter + u'\n'),
@@ -167,7 +171,7 @@ private:
     core::SeededRandom random;
     FakeClock clock;
     QTemporaryDir folder;
-    std::unique_ptr<ui::Screens> screens;
+    std::unique_ptr<ui::ScreenSet> screens;
     ui::Screen* menu = nullptr;
 };
 

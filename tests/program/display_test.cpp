@@ -88,6 +88,18 @@ private slots:
         QVERIFY(ui::Tray::holds(accept) && ui::Tray::holds(cancel));
     }
 
+    void raceIsChosenAtTheBottomRight()
+    {
+        program->screens.show(u"DlgCarrera"_s);
+        const ui::Screen& dialog = *program->screens.loaded(u"DlgCarrera"_s);
+        const auto& accept = ScreenBench::find<QPushButton>(dialog, u"OKButton"_s);
+        const int near = qRound(16 * dialog.factor()) + 1;
+        const QRect corner = placeIn(dialog, accept);
+        QVERIFY(dialog.width() - corner.right() - 1 <= near);
+        QVERIFY(dialog.height() - corner.bottom() - 1 <= near);
+        QVERIFY(ui::Tray::holds(accept));
+    }
+
     void boxesFit()
     {
         QStringList report{u"Número de operaciones: 500. Número total de errores: 500."_s,
@@ -126,7 +138,7 @@ private:
     static void addScreenRows(const QString& butFor = {})
     {
         QTest::addColumn<QString>("name");
-        for (const QString& name : ScreenNames) {
+        for (const QString& name : screenNames()) {
             if (name != butFor)
                 QTest::newRow(qPrintable(name)) << name;
         }

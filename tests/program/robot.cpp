@@ -31,7 +31,7 @@ const QList<Qt::Key> Keys{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Backspace, Qt::
 
 } // namespace
 
-Robot::Robot(ui::Screens& screens, unsigned seed, int actions)
+Robot::Robot(ui::ScreenSet& screens, unsigned seed, int actions)
     : m_screens(screens)
     , m_engine(seed)
     , m_left(actions)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/watchdog.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QObject>
 #include <QStringList>
@@ -16,7 +16,7 @@ class QWidget;
 /// goes on inside the event loops of boxes. The same seed gives the same walk.
 class Robot : public QObject {
 public:
-    Robot(ui::Screens& screens, unsigned seed, int actions);
+    Robot(ui::ScreenSet& screens, unsigned seed, int actions);
 
     /// Walks until the actions are used up or the program is ended by one of them; returns
     /// the number of actions that are left.
@@ -38,7 +38,7 @@ private:
     int draw(int count); ///< 0 to count - 1
     template <typename List> auto any(const List& list);
 
-    ui::Screens& m_screens;
+    ui::ScreenSet& m_screens;
     std::mt19937 m_engine;
     int m_left;
     Watchdog m_watchdog;

@@ -27,7 +27,7 @@ private slots:
         while (left > 0) {
             core::SeededRandom random;
             FakeClock clock;
-            ui::Screens screens(random, clock, folder.path());
+            ui::ScreenSet screens(random, clock, folder.path());
             addScreens(screens);
             screens.show(u"Form1"_s);
             Robot robot(screens, seed++, left);

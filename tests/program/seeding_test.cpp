@@ -45,7 +45,7 @@ private slots:
         copyCarPictures(folder.path());
         QFile::copy(QStringLiteral(PIZARRIN_RESOURCES "/Problemas3.dat"),
             folder.filePath(u"Problemas3.dat"_s));
-        screens = std::make_unique<ui::Screens>(random, clock, folder.path());
+        screens = std::make_unique<ui::ScreenSet>(random, clock, folder.path());
         addScreens(*screens);
         screens->show(u"Form1"_s);
     }
@@ -131,7 +131,7 @@ private:
     LoggedRandom random;
     FakeClock clock;
     QTemporaryDir folder;
-    std::unique_ptr<ui::Screens> screens;
+    std::unique_ptr<ui::ScreenSet> screens;
     ui::Screen* screen = nullptr;
 };
 

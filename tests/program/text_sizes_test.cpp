@@ -13,7 +13,9 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QRadioButton>
+#include <QTextEdit>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -109,12 +111,13 @@ protected:
     }
 };
 
-enum class State { Opening, Wrong, Right, Filled };
+enum class State { Opening, Wrong, Right, Filled, Largest };
 
 } // namespace
 
 /// The size of every text of every screen on a display of a given size, in pixels of the
-/// display: as it opens, after a wrong and after a right answer.
+/// display: as it opens, after a wrong and after a right answer, and with the largest exercise
+/// that its options draw.
 class TextSizesTest : public QObject {
     Q_OBJECT
 
@@ -141,14 +144,13 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<State>("state");
-        for (const QString& name : ScreenNames)
-            if (isJudged(name))
-                QTest::addRow("%s", qPrintable(name)) << name << State::Opening;
+        for (const QString& name : screenNames())
+            QTest::addRow("%s", qPrintable(name)) << name << State::Opening;
         for (const QString& name : {u"DLGProblemas"_s, u"DLGSelProb"_s})
             QTest::addRow("%s, filled", qPrintable(name)) << name << State::Filled;
-        for (const QString& name : Activities) {
-            if (!isJudged(name))
-                continue;
+        for (const QString& name : {u"Form3"_s, u"Form6"_s, u"FormProblemas"_s})
+            QTest::addRow("%s, largest", qPrintable(name)) << name << State::Largest;
+        for (const QString& name : activityScreens()) {
             QTest::addRow("%s, wrong", qPrintable(name)) << name << State::Wrong;
             QTest::addRow("%s, right", qPrintable(name)) << name << State::Right;
         }
@@ -161,6 +163,8 @@ private slots:
             return;
         if (state == State::Filled)
             fill();
+        else if (state == State::Largest)
+            enlarge();
         else if (state != State::Opening)
             answer(state);
         if (QTest::currentTestFailed())
@@ -168,32 +172,31 @@ private slots:
         const SmallestByClass found = smallestTexts(*screen);
         print(found);
         for (std::size_t i = 0; i < found.size(); ++i)
-            QVERIFY2(found.at(i).pixels >= limits().at(i),
+            QVERIFY2(found.at(i).pixels >= limits(state).at(i),
                 qPrintable(u"%1: %2 px"_s.arg(found.at(i).where).arg(found.at(i).pixels)));
     }
 
 private:
     using Limits = std::array<double, ClassNames.size()>;
 
-    const QStringList Activities = u"Form2 Form3 Form4 Form5 Form6 Form8 FrmMultHuecos "
-                                   "FrmMultidivi FRMCombi FormProblemas FrmCarrera"_s.split(u' ');
-
     /// A laptop at school, and what is larger: a child reads its work at a glance. A netbook:
     /// nothing is too small to read.
-    static Limits limits()
+    static Limits limits(State state)
     {
+        QFETCH(QString, name);
         const QSize display = QGuiApplication::primaryScreen()->size();
-        if (display.width() >= 1366 && display.height() >= 768)
-            return {18, 15, 24};
-        return display.height() >= 600 ? Limits{15, 15, 15} : Limits{13, 13, 13};
-    }
-
-    /// The repeated sum and the rain are not laid out for the display of a netbook yet: there
-    /// their smallest texts have 14 and 13 pixels.
-    static bool isJudged(const QString& name)
-    {
-        const bool netbook = QGuiApplication::primaryScreen()->size().height() < 768;
-        return !netbook || (name != u"Form4"_s && name != u"Form5"_s);
+        const bool laptop = display.width() >= 1366 && display.height() >= 768;
+        const bool netbook = display.height() >= 600;
+        Limits least = laptop ? Limits{18, 15, 24}
+            : netbook         ? Limits{15, 15, 15}
+                              : Limits{13, 13, 13};
+        // Twenty figures side by side in rows of the given width and height, ten of which must
+        // stand one above the other: the screen then fills the display from top to bottom.
+        if (state == State::Largest && name == u"Form3"_s)
+            least = laptop ? Limits{17, 14, 17}
+                : netbook  ? Limits{13, 11, 13}
+                           : Limits{11, 10, 11};
+        return least;
     }
 
     void open()
@@ -221,6 +224,30 @@ private:
 
     const QMap<QString, QString> Openers{{u"Dialog"_s, u"MnuOpcSelLis(1)"_s},
         {u"DLGProblemas"_s, u"MnuOpcGes"_s}, {u"DLGSelProb"_s, u"MnuOpcSel"_s}};
+
+    /// The most digits and decimals that can be chosen; of many statements the longest.
+    void enlarge()
+    {
+        QFETCH(QString, name);
+        const QMap<QString, QStringList> most{
+            {u"Form3"_s, {u"MnuOpcCi1Lis(9)"_s, u"MnuOpcCi2Lis(9)"_s}},
+            {u"Form6"_s, {u"MnuOpcDivLis(5)"_s, u"MnuOpcDisLis(5)"_s, u"MnuOpcDecLis(5)"_s}}};
+        for (const QString& item : most.value(name))
+            ScreenBench::find<QAction>(*screen, item).trigger();
+        click(*screen, u"Command2(0)"_s);
+        if (name != u"FormProblemas"_s) {
+            click(*screen, u"Command2(2)"_s);
+            return;
+        }
+        const auto& statement = ScreenBench::find<QTextEdit>(*screen, u"TBEnunciado"_s);
+        const auto length = [&] { return statement.toPlainText().size(); };
+        qsizetype longest = length();
+        for (int i = 0; i < 200; ++i, longest = std::max(longest, length()))
+            click(*screen, u"Command2(0)"_s);
+        for (int i = 0; i < 2000 && length() < longest; ++i)
+            click(*screen, u"Command2(0)"_s);
+        QVERIFY(length() >= longest);
+    }
 
     void fill()
     {

@@ -98,7 +98,7 @@ private:
     {
         QTest::addColumn<QString>("screenName");
         QTest::addColumn<Hand>("hand");
-        for (const QString& name : ScreenNames) {
+        for (const QString& name : screenNames()) {
             QTest::addRow("%s, mouse", qPrintable(name)) << name << Hand::Mouse;
             QTest::addRow("%s, keys", qPrintable(name)) << name << Hand::Keyboard;
         }

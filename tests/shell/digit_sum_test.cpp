@@ -12,7 +12,7 @@ private slots:
     {
         bench = std::make_unique<ScreenBench>();
         append(3, 5);
-        bench->open<FrmSuma>();
+        screen = &bench->open<FrmSuma>();
     }
     void cleanup() { bench.reset(); }
 
@@ -21,6 +21,7 @@ private slots:
         QCOMPARE(bench->text(u"TbSuma"_s), u"3 + 5"_s);
         QCOMPARE(bench->text(u"TbEjercicios"_s), u"Ejercicios: 0 Errores: 0"_s);
         QCOMPARE(bench->focusName(), u"TbRespuesta"_s);
+        QCOMPARE(screen->spokenExercise(), u"3 más 5"_s);
     }
 
     void aWrongAnswerCountsUntilARightOne()
@@ -68,6 +69,7 @@ private:
     }
 
     std::unique_ptr<ScreenBench> bench;
+    FrmSuma* screen = nullptr;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(DigitSumTest)

@@ -5,6 +5,19 @@
 
 using namespace Qt::StringLiterals;
 using shell::ExerciseCounters;
+using shell::Verdict;
+
+namespace {
+
+class Drill : public shell::Exercise {
+public:
+    using Exercise::countEveryWrong;
+    using Exercise::countWhilePending;
+
+    QString line() const { return counters().FormatoSimple(); }
+};
+
+} // namespace
 
 class ExerciseTest : public QObject {
     Q_OBJECT
@@ -41,6 +54,39 @@ private slots:
         QCOMPARE(counters.FormatoSimple(), u"Ejercicios: 1 Errores: 1"_s);
         counters.countRight();
         QCOMPARE(counters.FormatoSimple(), u"Ejercicios: 2 Errores: 1"_s);
+    }
+
+    void whilePendingEachAnswerCountsUpToTheRightOne()
+    {
+        Drill drill;
+        drill.countWhilePending(Verdict::Wrong);
+        drill.countWhilePending(Verdict::Wrong);
+        QVERIFY(drill.isPending());
+        drill.countWhilePending(Verdict::NotJudged);
+        QCOMPARE(drill.line(), u"Ejercicios: 2 Errores: 2"_s);
+        QVERIFY(drill.isPending());
+        drill.countWhilePending(Verdict::Right);
+        QVERIFY(!drill.isPending());
+        drill.countWhilePending(Verdict::Wrong);
+        drill.countWhilePending(Verdict::Right);
+        QCOMPARE(drill.line(), u"Ejercicios: 3 Errores: 2"_s);
+        QVERIFY(!drill.isPending());
+    }
+
+    void everyWrongAnswerCountsAlsoBehindTheRightOne()
+    {
+        Drill drill;
+        drill.countEveryWrong(Verdict::Wrong);
+        drill.countEveryWrong(Verdict::NotJudged);
+        QVERIFY(drill.isPending());
+        drill.countEveryWrong(Verdict::Right);
+        QVERIFY(!drill.isPending());
+        QCOMPARE(drill.line(), u"Ejercicios: 2 Errores: 1"_s);
+        drill.countEveryWrong(Verdict::Right);
+        QCOMPARE(drill.line(), u"Ejercicios: 2 Errores: 1"_s);
+        drill.countEveryWrong(Verdict::Wrong);
+        QCOMPARE(drill.line(), u"Ejercicios: 3 Errores: 2"_s);
+        QVERIFY(!drill.isPending());
     }
 
     void overflowIsReportedAndChangesNothing()

@@ -2,6 +2,8 @@
 
 #include "shell/exercise.h"
 
+#include <QString>
+
 namespace core {
 class RandomSource;
 }
@@ -15,8 +17,12 @@ public:
     /// random must outlive the model.
     explicit DigitSum(core::RandomSource& random);
 
-    int first() const { return m_first.value(); } ///< 1 to 9
-    int second() const { return m_second.value(); } ///< 1 to 9
+    /// "3 + 5": two digits from 1 to 9.
+    QString text() const;
+
+    /// The same in words, "3 más 5", and "3 más 5 igual a 8".
+    QString spokenExercise() const;
+    QString spokenSolution() const;
 
     void newExercise();
 
@@ -27,7 +33,7 @@ public:
     int showSolution();
 
 private:
-    int sum() const { return first() + second(); }
+    int sum() const { return m_first.value() + m_second.value(); }
 
     core::RandomSource& m_random;
     core::Int16 m_first;

@@ -25,6 +25,7 @@ FrmSuma::FrmSuma(ui::Screens& screens)
         entryBox(u"TbRespuesta"_s, {3000, 300, 1500, 510}, ui::look::Instruction, u"Respuesta"_s);
     enterChecks(TbRespuesta);
     TbResultado = verdictBox(u"TbResultado"_s, {300, 1050, 4200, 510}, u"Comprobación"_s);
+    TbResultado->setJudged({TbRespuesta});
     TbEjercicios = displayBox(u"TbEjercicios"_s, {300, 2850, 5400, 510}, ui::look::Counters,
         u"Ejercicios y errores"_s, m_model.counters().FormatoSimple());
     makeCommands({.check = {300, 1950, 1200, 510},
@@ -43,8 +44,9 @@ void FrmSuma::Form_Load()
 void FrmSuma::newExercise()
 {
     m_model.newExercise();
-    TbSuma->setText(u"%1 + %2"_s.arg(m_model.first()).arg(m_model.second()));
+    TbSuma->setText(m_model.text());
     showVerdict(*TbResultado, m_model.verdict());
+    sayExercise();
 }
 
 void FrmSuma::check()
@@ -71,4 +73,5 @@ void FrmSuma::clearAnswer()
 void FrmSuma::showSolution()
 {
     TbRespuesta->setText(QString::number(m_model.showSolution()));
+    say(m_model.spokenSolution());
 }

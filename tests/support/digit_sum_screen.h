@@ -10,6 +10,8 @@ public:
 
     explicit FrmSuma(ui::Screens& screens);
 
+    QString spokenExercise() const override { return m_model.spokenExercise(); }
+
 protected:
     void Form_Load() override;
     void newExercise() override;

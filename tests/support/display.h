@@ -7,12 +7,6 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
-/// Every screen of the program, by name.
-inline const QStringList ScreenNames = QStringLiteral(
-    "Form1 Form2 Form3 Form4 Form5 Form6 Form8 FrmMultHuecos FrmMultidivi FRMCombi FormProblemas "
-    "FrmCarrera Dialog DLGProblemas DLGSelProb DlgCarrera")
-                                           .split(QLatin1Char(' '));
-
 /// A description of one display, for the toolkit's offscreen platform.
 inline QByteArray displayOf(const QList<QByteArray>& size)
 {
@@ -34,9 +28,9 @@ template <typename Test> int runOnDisplay(int argc, char* argv[])
         description.close();
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toUtf8());
     }
-    ui::prepareApplication();
+    ui::ignoreDesktopSettings();
     QApplication application(argc, argv);
-    ui::dress();
+    ui::setUpApplication();
     if (sized && QGuiApplication::primaryScreen()->name() != QStringLiteral("display"))
         return 1; // this platform takes no description
     QStringList arguments = QCoreApplication::arguments();

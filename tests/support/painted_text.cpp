@@ -32,6 +32,7 @@ public:
     {
     }
     void drawPolygon(const QPointF*, int, PolygonDrawMode) override { }
+    void drawPath(const QPainterPath&) override { }
     void drawTextItem(const QPointF&, const QTextItem& item) override
     {
         if (!item.text().trimmed().isEmpty())

@@ -3,7 +3,7 @@
 #include "activities.h"
 #include "core/random.h"
 #include "support/fake_clock.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -24,5 +24,20 @@ struct ProgramBench {
     core::SeededRandom random;
     FakeClock clock;
     QTemporaryDir folder;
-    ui::Screens screens;
+    ui::ScreenSet screens;
 };
+
+/// Every screen of the program, by name.
+inline QStringList screenNames()
+{
+    return ProgramBench().screens.names();
+}
+
+/// The screens of the activities, by name.
+inline QStringList activityScreens()
+{
+    QStringList names;
+    for (const shell::Activity& activity : activities())
+        names << activity.screen;
+    return names;
+}

@@ -7,7 +7,7 @@
 #include "support/window_manager.h"
 #include "ui/application.h"
 #include "ui/screen.h"
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include <QAction>
 #include <QMenu>
@@ -102,19 +102,19 @@ public:
     QTemporaryDir folder;
     ScriptedRandom random;
     FakeClock clock;
-    ui::Screens screens;
+    ui::ScreenSet screens;
 
 private:
     QPointer<ui::Screen> m_screen;
 };
 
-/// main() of a screen test: the application is dressed as the program's is.
+/// main() of a screen test: the application looks and behaves as the program's.
 #define PIZARRIN_SCREEN_TEST_MAIN(TestClass)                                                     \
     int main(int argc, char* argv[])                                                             \
     {                                                                                            \
-        ui::prepareApplication();                                                                \
+        ui::ignoreDesktopSettings();                                                             \
         QApplication application(argc, argv);                                                    \
-        ui::dress();                                                                             \
+        ui::setUpApplication();                                                                  \
         TestClass test;                                                                          \
         return QTest::qExec(&test, argc, argv);                                                  \
     }

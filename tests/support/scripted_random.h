@@ -34,7 +34,7 @@ public:
         m_draws.insert(m_draws.end(), draws.begin(), draws.end());
     }
 
-    /// Appends the middle of the step that drawInteger turns into value.
+    /// Appends the middle of the step that randomInteger turns into value.
     void appendInteger(int value, int count, int first)
     {
         const int step = value - first;

@@ -1,24 +1,36 @@
 #pragma once
 
-#include <QString>
+#include <QTemporaryFile>
 
-#include <iostream>
-#include <sstream>
+#include <unistd.h>
 
-/// Keeps what is written to std::cerr as long as it lives.
+#include <cstdio>
+
+/// Keeps what the program writes to its standard error as long as it lives.
 class StandardError {
 public:
     StandardError()
-        : m_before(std::cerr.rdbuf(m_kept.rdbuf()))
+        : m_before(dup(fileno(stderr)))
     {
+        m_kept.open();
+        dup2(m_kept.handle(), fileno(stderr));
     }
-    ~StandardError() { std::cerr.rdbuf(m_before); }
+    ~StandardError()
+    {
+        dup2(m_before, fileno(stderr));
+        close(m_before);
+    }
     StandardError(const StandardError&) = delete;
     StandardError& operator=(const StandardError&) = delete;
 
-    QString text() const { return QString::fromStdString(m_kept.str()); }
+    QString text() const
+    {
+        QFile file(m_kept.fileName());
+        file.open(QIODevice::ReadOnly | QIODevice::Text);
+        return QString::fromUtf8(file.readAll());
+    }
 
 private:
-    std::ostringstream m_kept;
-    std::streambuf* m_before;
+    int m_before;
+    QTemporaryFile m_kept;
 };

@@ -217,10 +217,6 @@ private slots:
         QCOMPARE(model->multiplier(), 0);
     }
 
-private:
-    ScriptedRandom random;
-    std::unique_ptr<MultiplicationTables> model;
-
     void reportsTheErrorsOfTheSeries()
     {
         model->chooseTable(0);
@@ -232,6 +228,10 @@ private:
         QCOMPARE(model->showSolution(), 1);
         QCOMPARE(model->seriesErrors(), 2); // showing the solution counts nothing
     }
+
+private:
+    ScriptedRandom random;
+    std::unique_ptr<MultiplicationTables> model;
 };
 
 QTEST_GUILESS_MAIN(MultiplicationTablesTest)

@@ -615,6 +615,9 @@ private slots:
         QTest::newRow("too large")
             << End::Operations << u" 40000 "_s
             << u"«40000» es demasiado grande. Escribe un número del 1 al 500 y vuelve a empezar."_s;
+        QTest::newRow("too large, ended by the button")
+            << End::Button << u"32768"_s
+            << u"«32768» es demasiado grande. Escribe un número del 1 al 32767 y vuelve a empezar."_s;
         QTest::newRow("smallest") << End::Minutes << u"-32768"_s << QString();
         QTest::newRow("too small")
             << End::Minutes << u"-32769"_s

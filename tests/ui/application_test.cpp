@@ -43,6 +43,21 @@ private slots:
         QCOMPARE(QColor(screen.grab().toImage().pixel(2, 100)), QColor(ui::look::Paper));
     }
 
+    void noMenuBarIsTheDesktops()
+    {
+        QVERIFY(QApplication::testAttribute(Qt::AA_DontUseNativeMenuBar));
+    }
+
+    void windowsCarryTheBoard()
+    {
+        const QImage icon = QApplication::windowIcon().pixmap(64, 64).toImage();
+        QCOMPARE(icon.size(), QSize(64, 64));
+        QCOMPARE(icon.pixelColor(32, 1).alpha(), 0); // above the frame
+        QCOMPARE(icon.pixelColor(32, 6), QColor(0xD9, 0xA0, 0x5B)); // wood
+        QCOMPARE(icon.pixelColor(32, 40), QColor(0x1F, 0x4D, 0x3D)); // board
+        QCOMPARE(icon.pixelColor(18, 30), QColor(Qt::white)); // the cross of its times sign
+    }
+
     void closingTheLastWindowDoesNotEndTheProgram()
     {
         QVERIFY(!QApplication::quitOnLastWindowClosed());

@@ -1,9 +1,11 @@
 #include "support/sample_screen.h"
 #include "support/screen_bench.h"
+#include "ui/box_strip.h"
 #include "ui/boxes.h"
 #include "ui/opening_factor.h"
 
 #include <QLabel>
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -68,6 +70,49 @@ private slots:
             QVERIFY(box.rect().contains(label.geometry()));
         };
         ui::MessageBox::show(*screen, u"a"_s);
+    }
+
+    void aBoxIsNoLargerThanTheDisplayBears()
+    {
+        const double most = screen->screen()->availableGeometry().height() / 400.0;
+        for (const double factor : {1.0, 40.0}) {
+            ui::setWindowFactor(*screen, factor);
+            BoxAnswerer boxes({u"Aceptar"_s, u"Cancelar"_s});
+            boxes.whileOpen = [&](QDialog& box) {
+                const auto expected = static_cast<int>(18 * std::min(factor, most));
+                for (const QPushButton* button : box.findChildren<QPushButton*>()) {
+                    QCOMPARE(button->font().pixelSize(), expected);
+                    QCOMPARE(button->height(), qRound(44 * std::min(factor, most)));
+                }
+            };
+            ui::MessageBox::show(*screen, u"a"_s);
+            ui::InputBox::ask(*screen, u"a"_s, u"b"_s);
+        }
+    }
+
+    void onlyButtonsStandOnTheStrip()
+    {
+        BoxAnswerer boxes({u"Aceptar"_s, u"Aceptar"_s, u"Cancelar"_s, u"Cancelar"_s});
+        boxes.whileOpen = [](QDialog& box) {
+            const QWidget* strip = nullptr;
+            for (const QWidget* part : box.findChildren<QWidget*>()) {
+                if (dynamic_cast<const ui::BoxStrip*>(part) != nullptr)
+                    strip = part;
+            }
+            QVERIFY(strip);
+            for (const QWidget* part : box.findChildren<QWidget*>()) {
+                const bool shown = qobject_cast<const QLabel*>(part) != nullptr
+                    || qobject_cast<const QLineEdit*>(part) != nullptr;
+                if (shown && part->isVisible())
+                    QVERIFY2(
+                        part->mapTo(&box, part->contentsRect().bottomLeft()).y() < strip->y(),
+                        qPrintable(part->objectName()));
+            }
+        };
+        ui::MessageBox::show(*screen, u"a"_s, u"Atención"_s, ui::Icon::Information);
+        ui::MessageBox::show(*screen, QString(9, u'\n'));
+        ui::InputBox::ask(*screen, {}, u"Introducir dividendo"_s);
+        ui::InputBox::ask(*screen, u"Escriba un número."_s, u"Introducir"_s);
     }
 
     void messageHasItsTitleAndIcon()

@@ -2,9 +2,13 @@
 
 #include "ui/placement.h"
 
+#include <QFontDatabase>
 #include <QFontInfo>
 #include <QPainter>
 #include <QtTest>
+
+#include <algorithm>
+#include <map>
 
 namespace look = ui::look;
 
@@ -85,8 +89,24 @@ private slots:
         for (const look::Font& font : {look::Font(), look::Counters, look::Instruction,
                  look::Verdict, look::Command, look::BoxText})
             QCOMPARE(look::scaled(font, 1).families().first(), QStringLiteral("Andika"));
-        QCOMPARE(
-            look::scaled({look::Family::Arial}, 1).families().first(), QStringLiteral("Arial"));
+    }
+
+    void aFontIsThatAskedForOrItsTwin()
+    {
+        const auto installed = [](const QString& name) { return QFontDatabase::hasFamily(name); };
+        const std::map<look::Family, QStringList> names{
+            {look::Family::Arial, {QStringLiteral("Arial"), QStringLiteral("Liberation Sans")}},
+            {look::Family::Verdana, {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")}},
+            {look::Family::CourierNew,
+                {QStringLiteral("Courier New"), QStringLiteral("Nimbus Mono PS"),
+                    QStringLiteral("Liberation Mono")}}};
+        for (const auto& [family, wanted] : names) {
+            const auto first = std::find_if(wanted.begin(), wanted.end(), installed);
+            QVERIFY(first != wanted.end());
+            const QFont font = look::scaled({family}, 1);
+            QCOMPARE(font.families().first(), *first);
+            QVERIFY(QFontInfo(font).family().startsWith(*first)); // a maker behind it
+        }
     }
 
     void touchingPlacesTouchInPixels()

@@ -49,6 +49,18 @@ private slots:
         QVERIFY(!list.at(1)->isChecked());
     }
 
+    void barIsAsHighAsItsTypeNeeds()
+    {
+        QWidget window;
+        ui::MenuFactory make(&window);
+        make.setMenuType(8);
+        const QMenu* options = make.menu(u"MnuOpc"_s, {});
+        make.setMenuFactor(2);
+        QCOMPARE(make.menuBarHeight(), 14.0);
+        QCOMPARE(make.menuBar()->font().pixelSize(), 16);
+        QCOMPARE(options->font().pixelSize(), 16);
+    }
+
     void fontsFollowTheFactorWheneverTheMenuIsMade()
     {
         QWidget window;

@@ -79,6 +79,29 @@ private slots:
         QCOMPARE(screen->height(), 300 + 28);
     }
 
+    void anotherDesignSizeKeepsTheMiddle()
+    {
+        const QRect available = screen->screen()->availableGeometry();
+        screen->move(available.center() - screen->rect().center());
+        const QPoint before = screen->frameGeometry().center();
+        screen->setDesignSize(6000, 4500);
+        QVERIFY((screen->frameGeometry().center() - before).manhattanLength() <= 2);
+        screen->move(available.topLeft());
+        screen->setDesignSize(9000, 6000);
+        QVERIFY(available.contains(screen->frameGeometry()));
+    }
+
+    void noCrackOfGroundBesideTheCanvas()
+    {
+        for (int width = 300; width < 340; ++width) {
+            screen->resize(width, width * screen->height() / screen->width());
+            const QRect canvas = screen->canvas()->geometry();
+            for (const int ground :
+                {screen->width() - canvas.width(), screen->height() - 28 - canvas.height()})
+                QVERIFY2(ground <= 0 || ground > 2, qPrintable(QString::number(width)));
+        }
+    }
+
     void designTooLargeForTheDisplayGivesASmallerFactor()
     {
         screen->setDesignSize(4500, 30000);

@@ -58,7 +58,7 @@ private:
     double square() const { return Place.width / Columns * factor / ui::TwipsPerPixel; }
 
 private slots:
-    void initTestCase() { ui::dress(); }
+    void initTestCase() { ui::setUpApplication(); }
 
     void everyDigitStandsInTheMiddleOfItsSquare_data()
     {

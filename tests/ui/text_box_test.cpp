@@ -68,6 +68,53 @@ private slots:
         QCOMPARE(shown->text(QAccessible::Value), u"12"_s);
     }
 
+    void assistiveToolsHearOnlyOfWhatTheWriterSelects()
+    {
+        ui::TextBox& entry = *screen->entry;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&entry);
+        QAccessibleTextInterface* text = face->textInterface();
+        screen->lines->setFocus();
+        entry.setText(u"123"_s);
+        QTest::keyClick(screen->lines, Qt::Key_Backtab);
+        QVERIFY(entry.hasFocus());
+        QCOMPARE(entry.selectedText(), u"123"_s); // by the toolkit
+        QCOMPARE(text->selectionCount(), 0);
+        QTest::keyClick(&entry, Qt::Key_End);
+        QTest::keyClick(&entry, Qt::Key_Left, Qt::ShiftModifier);
+        QCOMPARE(text->selectionCount(), 1);
+        int start = 0;
+        int end = 0;
+        text->selection(0, &start, &end);
+        QCOMPARE(start, 2);
+        QCOMPARE(end, 3);
+        screen->lines->setFocus();
+        QCOMPARE(text->selectionCount(), 1); // it stays, and whose it is
+        entry.selectAll();
+        QCOMPARE(text->selectionCount(), 0);
+    }
+
+    void entryBoxIsAnEditableTextToAssistiveTools()
+    {
+        ui::TextBox& entry = *screen->entry;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&entry);
+        QCOMPARE(face->role(), QAccessible::EditableText);
+        QVERIFY(face->state().editable && !face->state().readOnly);
+        QCOMPARE(face->text(QAccessible::Name), u"Respuesta"_s);
+        face->editableTextInterface()->insertText(0, u"134"_s);
+        face->editableTextInterface()->replaceText(1, 2, u"2"_s);
+        QCOMPARE(face->text(QAccessible::Value), u"124"_s);
+        face->editableTextInterface()->deleteText(2, 3);
+        QCOMPARE(entry.text(), u"12"_s);
+        QCOMPARE(face->textInterface()->characterCount(), 2);
+        QCOMPARE(face->textInterface()->text(1, 2), u"2"_s);
+        face->textInterface()->setCursorPosition(1);
+        QCOMPARE(face->textInterface()->cursorPosition(), 1);
+        const QRect second = face->textInterface()->characterRect(1);
+        QCOMPARE(face->textInterface()->offsetAtPoint(second.center()), 1);
+        entry.setReadOnly(true);
+        QVERIFY(face->editableTextInterface() == nullptr && face->state().readOnly);
+    }
+
     void longShownTextShowsItsBeginning()
     {
         screen->shown->setText(QString(200, u'9'));

@@ -47,6 +47,7 @@ private slots:
     void itsOwnSolutionsAreRight();
     void speaksOfDivisionAndSquares();
     void leavesRoomForDivisorAndQuotient();
+    void leavesRoomForEverySolution();
 };
 
 namespace {
@@ -594,6 +595,26 @@ void LongDivisionTest::speaksOfDivisionAndSquares()
     QCOMPARE(LongDivision::spokenSquare(work, 18 + 2), u"línea 3; encima, 2; del dividendo, 1"_s);
     QCOMPARE( // over a blank
         LongDivision::spokenSquare(work, 18 + 1), u"línea 3; encima, 1; del dividendo, 7"_s);
+}
+
+/// And for a line more, but not for many.
+void LongDivisionTest::leavesRoomForEverySolution()
+{
+    core::SeededRandom random;
+    random.seed(12);
+    int least = 99;
+    for (int i = 0; i < 1000; ++i) {
+        LongDivision division(random);
+        division.chooseDividendDigits(i % 6 + 1);
+        division.chooseDecimals(i / 6 % 6);
+        division.toggleProducts();
+        const GridText work = division.showSolution().work;
+        const auto figures = work.text().trimmed().size() + 1; // behind a blank
+        const auto lines = static_cast<int>((figures - 1) / work.columns() + 1);
+        QVERIFY(lines < division.workLines());
+        least = std::min(least, division.workLines() - lines);
+    }
+    QCOMPARE(least, 1);
 }
 
 void LongDivisionTest::leavesRoomForDivisorAndQuotient()

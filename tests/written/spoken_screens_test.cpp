@@ -1,4 +1,5 @@
 #include "support/screen_bench.h"
+#include "support/speech.h"
 #include "written/combined_operations_screen.h"
 #include "written/digit_dialog.h"
 #include "written/long_division_screen.h"
@@ -6,35 +7,11 @@
 #include "written/multiples_divisors_screen.h"
 #include "written/work_area.h"
 
-#include <QAccessible>
-
 #include <cmath>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QStringList spoken; // what was to be read aloud
-
-void listen(QAccessibleEvent* event)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    if (event->type() == QAccessible::Announcement)
-        spoken << static_cast<QAccessibleAnnouncementEvent*>(event)->message();
-#else
-    const QAccessibleInterface* face = event->accessibleInterface();
-    if (event->type() == QAccessible::ObjectShow && face->role() == QAccessible::Notification)
-        spoken << face->text(QAccessible::Name);
-#endif
-}
-
-/// What was to be read aloud since the last call.
-QStringList heard()
-{
-    QCoreApplication::sendPostedEvents();
-    return std::exchange(spoken, {});
-}
 
 /// A window gets the focus before it is up or behind that, as its desktop will have it.
 QStringList inOrder(QStringList told)
@@ -54,7 +31,7 @@ private slots:
     void initTestCase()
     {
         QTRY_VERIFY(QAccessible::isActive());
-        QAccessible::installUpdateHandler(listen);
+        listenToSpeech();
     }
     void init()
     {

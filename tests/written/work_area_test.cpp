@@ -157,7 +157,7 @@ void WorkAreaTest::inkStandsInItsCell()
             if (qGray(picture.pixel(x, y)) > 128)
                 continue;
             QVERIFY2(x < cellWidth, qPrintable(u"ink at %1, %2"_s.arg(x).arg(y)));
-            ++core::at(ink, y / cellHeight);
+            ++core::at(ink, static_cast<int>(y / cellHeight));
         }
     }
     const auto [least, most] = std::minmax_element(ink.begin(), ink.end());

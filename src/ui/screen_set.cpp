@@ -1,4 +1,4 @@
-#include "ui/screens.h"
+#include "ui/screen_set.h"
 
 #include "core/defect.h"
 #include "ui/application.h"
@@ -8,27 +8,32 @@
 
 namespace ui {
 
-Screens::Screens(core::RandomSource& random, const core::Clock& clock, const QString& resources,
-    const QString& sharedBank)
-    : m_random(random)
-    , m_clock(clock)
-    , m_resources(resources)
-    , m_bankFolder(resources, sharedBank)
+ScreenSet::ScreenSet(core::RandomSource& random, const core::Clock& clock,
+    const QString& resources, const QString& sharedBank)
+    : Screens(random, clock, resources, sharedBank)
 {
 }
 
-Screens::~Screens()
+ScreenSet::~ScreenSet()
 {
     for (const QPointer<Screen>& screen : m_loaded)
         delete screen.data();
 }
 
-void Screens::add(const QString& name, Factory factory)
+void ScreenSet::add(const QString& name, Factory factory)
 {
     m_factories[name] = std::move(factory);
 }
 
-Screen* Screens::loaded(const QString& name) const
+QStringList ScreenSet::names() const
+{
+    QStringList names;
+    for (const auto& [name, factory] : m_factories)
+        names << name;
+    return names;
+}
+
+Screen* ScreenSet::loaded(const QString& name) const
 {
     for (const QPointer<Screen>& screen : m_loaded) {
         if (screen && screen->objectName() == name)
@@ -37,7 +42,7 @@ Screen* Screens::loaded(const QString& name) const
     return nullptr;
 }
 
-const Screens::Factory& Screens::factoryOf(const QString& name) const
+const ScreenSet::Factory& ScreenSet::factoryOf(const QString& name) const
 {
     const auto found = m_factories.find(name);
     if (found == m_factories.end())
@@ -45,7 +50,7 @@ const Screens::Factory& Screens::factoryOf(const QString& name) const
     return found->second;
 }
 
-Screen& Screens::load(const QString& name)
+Screen& ScreenSet::load(const QString& name)
 {
     if (Screen* screen = loaded(name))
         return *screen;
@@ -64,7 +69,7 @@ Screen& Screens::load(const QString& name)
     return *screen;
 }
 
-void Screens::show(const QString& name, const Screen* below)
+void ScreenSet::show(const QString& name, const Screen* below)
 {
     Screen& screen = load(name);
     if (below != nullptr)
@@ -77,7 +82,7 @@ void Screens::show(const QString& name, const Screen* below)
     screen.activateWindow();
 }
 
-void Screens::showModal(const QString& name, Screen& owner, std::function<void()> then)
+void ScreenSet::showModal(const QString& name, Screen& owner, std::function<void()> then)
 {
     Screen& screen = load(name);
     const QPointer<Screen> waiter(&owner);
@@ -89,13 +94,13 @@ void Screens::showModal(const QString& name, Screen& owner, std::function<void()
     });
 }
 
-void Screens::unload(const QString& name)
+void ScreenSet::unload(const QString& name)
 {
     if (Screen* screen = loaded(name))
         screen->unload();
 }
 
-void Screens::forget(Screen& screen)
+void ScreenSet::forget(Screen& screen)
 {
     std::erase_if(m_loaded, [&](const auto& entry) { return !entry || entry == &screen; });
     if (screen.objectName() != m_mainScreen)
@@ -104,7 +109,7 @@ void Screens::forget(Screen& screen)
     QCoreApplication::quit();
 }
 
-void Screens::unloadRest()
+void ScreenSet::unloadRest()
 {
     while (!m_loaded.empty()) {
         if (m_loaded.back())

@@ -24,7 +24,7 @@ private:
 
 } // namespace
 
-class ScreensTest : public QObject {
+class ScreenSetTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -377,5 +377,5 @@ private:
     int samples = 0;
 };
 
-PIZARRIN_SCREEN_TEST_MAIN(ScreensTest)
-#include "screens_test.moc"
+PIZARRIN_SCREEN_TEST_MAIN(ScreenSetTest)
+#include "screen_set_test.moc"

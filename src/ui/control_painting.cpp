@@ -1,4 +1,4 @@
-#include "ui/faces.h"
+#include "ui/control_painting.h"
 
 #include "ui/look.h"
 
@@ -54,9 +54,9 @@ int drawIconCard(
     const int side = std::min(qRound(CardSize * factor), rect.height());
     const int left = rect.left() + qRound(CardMargin * factor);
     const QRect card(left, rect.top() + (rect.height() - side) / 2, side, side);
-    drawRounded(painter, card, QColor(look::Paper),
-        look::edgeOf(option.palette.color(QPalette::Button)), look::EdgeWidth * factor,
-        ButtonRadius * factor);
+    drawRounded(painter, card, look::paper(),
+        look::edgeOf(option.palette.color(QPalette::Button)),
+        look::thick(look::EdgeWidth) * factor, ButtonRadius * factor);
     QRect icon(0, 0, qRound(IconSize * factor), qRound(IconSize * factor));
     icon.moveCenter(card.center());
     option.icon.paint(&painter, icon, Qt::AlignCenter,
@@ -69,7 +69,7 @@ int drawIconCard(
 void drawBox(QPainter& painter, const QStyleOption& option, double factor)
 {
     drawRounded(painter, option.rect, option.palette.brush(QPalette::Base), QColor(look::Edge),
-        look::EdgeWidth * factor, look::BoxRadius * factor);
+        look::thick(look::EdgeWidth) * factor, look::BoxRadius * factor);
 }
 
 void drawEntry(QPainter& painter, const QStyleOption& option, double factor, bool showsFocus)
@@ -81,7 +81,7 @@ void drawEntry(QPainter& painter, const QStyleOption& option, double factor, boo
         typedInto && plain == QColor(look::Card) ? QColor(look::CardFocused) : plain;
     const bool ring = focused && showsFocus;
     drawRounded(painter, option.rect, fill, QColor(ring ? look::Focus : look::Edge),
-        (ring ? look::RingWidth : look::EdgeWidth) * factor, look::BoxRadius * factor);
+        look::thick(ring ? look::RingWidth : look::EdgeWidth) * factor, look::BoxRadius * factor);
 }
 
 void drawGroup(QPainter& painter, const QStyleOption& option, const QWidget* group, double factor)
@@ -89,13 +89,13 @@ void drawGroup(QPainter& painter, const QStyleOption& option, const QWidget* gro
     QRect frame = option.rect;
     if (const auto* box = qobject_cast<const QGroupBox*>(group); box != nullptr)
         frame.setTop(frame.top() + box->fontMetrics().height() + qRound(TitleGap * factor));
-    drawRounded(painter, frame, QColor(look::Card), QColor(look::Edge), look::EdgeWidth * factor,
-        look::BoxRadius * factor);
+    drawRounded(painter, frame, QColor(look::Card), QColor(look::Edge),
+        look::thick(look::EdgeWidth) * factor, look::BoxRadius * factor);
 }
 
 QRect buttonFace(const QRect& place, bool hasIcon, double factor)
 {
-    const int gap = hasIcon ? qRound((look::RingWidth + 1) * factor) : 0;
+    const int gap = hasIcon ? qRound((look::thick(look::RingWidth) + 1) * factor) : 0;
     return place.adjusted(gap, 0, -gap, 0);
 }
 
@@ -112,11 +112,11 @@ void drawButton(QPainter& painter, const QStyleOption& option, double factor, bo
     if (down)
         rect.translate(0, 1);
     const bool raised = enabled && (hover || down);
-    const double pen = (raised ? RaisedEdge : look::EdgeWidth) * factor;
+    const double pen = look::thick(raised ? RaisedEdge : look::EdgeWidth) * factor;
     drawRounded(painter, rect, fill, edge, pen, ButtonRadius * factor);
     if (showsFocus && (option.state & QStyle::State_HasFocus))
         drawRounded(painter, rect, Qt::NoBrush, option.palette.color(QPalette::Highlight),
-            look::RingWidth * factor, ButtonRadius * factor);
+            look::thick(look::RingWidth) * factor, ButtonRadius * factor);
 }
 
 void drawButtonLabel(

@@ -7,7 +7,7 @@ class QStyleOptionButton;
 class QStyleOptionMenuItem;
 class QWidget;
 
-/// The faces of controls: their frames, fills and captions, at the factor of their screen.
+/// How controls are painted: their frames, fills and captions, at the factor of their screen.
 namespace ui {
 
 /// The frame of a text or a list.
