@@ -113,6 +113,7 @@ pixels_off() { # picture that the display is compared with
   import -window root "$work/now.png"
   compare -metric AE "$1" "$work/now.png" null: 2>&1 | xargs printf '%.0f' || true
 }
+is_changed() { [ "$(pixels_off "$1")" -gt 5000 ]; }
 is_covered() { [ "$(pixels_off "$1")" -gt 100000 ]; }
 is_bare() { [ "$(pixels_off "$1")" -lt 50000 ]; } # the frame has another colour
 
@@ -198,9 +199,11 @@ show_installer() {
   until_so "the installer does not come up" is_other none
   picture instalador
   xdotool key Return
-  sleep 1
+  until_so "the installer has no second page" is_changed "$pictures/instalador.png"
   picture instalador-usuarios
   xdotool key Escape
+  until_so "the installer does not ask before it ends" is_changed "$pictures/instalador-usuarios.png"
+  xdotool key Return
   wait
 }
 
