@@ -33,6 +33,7 @@ mkdir -p "$pictures"
 drive=$WINEPREFIX/drive_c
 installed="$drive/Program Files/Pizarrin"
 shared=$drive/ProgramData/Pizarrin/Recursos
+menu=PIZARRIN
 statement='A 2,5 € la piña, [2_9] piñas, ¿suman?'
 statement_keys='Shift+a space 2 comma 5 space ISO_Level3_Shift+e space l a space p i ntilde a comma space
   ISO_Level3_Shift+8 2 Shift+minus 9 ISO_Level3_Shift+9 space p i ntilde a s comma space
@@ -56,14 +57,10 @@ until_so() { # what is wrong else, command...
   fail "$what"
 }
 
-active() { # the window manager's word for a window that is gone is worth nothing
-  local window
-  if window=$(xdotool getactivewindow 2>/dev/null) && xdotool getwindowgeometry "$window" \
-      >/dev/null 2>&1; then
-    echo "$window"
-  else
-    echo none
-  fi
+active() { # the title of the active window: Wine may change what stands for it on the display
+  local title
+  title=$(xdotool getactivewindow getwindowname 2>/dev/null) || true
+  echo "${title:-none}"
 }
 is_active() { [ "$(active)" = "$1" ]; }
 is_other() {
@@ -73,7 +70,7 @@ is_other() {
 }
 is_painted() { # a window of one colour or two is not there yet
   local colours
-  colours=$(import -window "$(active)" -format %k info: 2>/dev/null) && [ "${colours:-0}" -ge 8 ]
+  colours=$(import -window "$(xdotool getactivewindow)" -format %k info: 2>/dev/null) && [ "${colours:-0}" -ge 8 ]
 }
 
 picture() { # name
@@ -83,8 +80,7 @@ picture() { # name
 
 start() { # program, name of the picture
   "$here/wine.sh" "$1" &
-  until_so "the menu of $1 does not come up" is_other none
-  menu=$(active)
+  until_so "the menu of $1 does not come up" is_active "$menu"
   picture "$2"
 }
 
@@ -96,7 +92,7 @@ press() { # keys...
   until_so "nothing comes up after $*" is_other "$before"
 }
 
-close_down_to() { # window
+close_down_to() { # title
   local over
   until_so "no window comes up" is_other none
   while over=$(active) && [ "$over" != "$1" ]; do
@@ -117,6 +113,7 @@ pixels_off() { # picture that the display is compared with
   import -window root "$work/now.png"
   compare -metric AE "$1" "$work/now.png" null: 2>&1 | xargs printf '%.0f' || true
 }
+is_changed() { [ "$(pixels_off "$1")" -gt 5000 ]; }
 is_covered() { [ "$(pixels_off "$1")" -gt 100000 ]; }
 is_bare() { [ "$(pixels_off "$1")" -lt 50000 ]; } # the frame has another colour
 
@@ -202,9 +199,11 @@ show_installer() {
   until_so "the installer does not come up" is_other none
   picture instalador
   xdotool key Return
-  sleep 1
+  until_so "the installer has no second page" is_changed "$pictures/instalador.png"
   picture instalador-usuarios
   xdotool key Escape
+  until_so "the installer does not ask before it ends" is_changed "$pictures/instalador-usuarios.png"
+  xdotool key Return
   wait
 }
 
