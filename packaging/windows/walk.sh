@@ -128,7 +128,11 @@ lose_an_activity() {
   until_so "the menu on Wine's desktop is never whole" still "$before"
   xdotool key Return
   until_so "no activity comes up on Wine's desktop" is_covered "$before"
-  xdotool mousemove 683 20 click 3 key n # "Minimize" in the menu of its frame
+  cp "$before" "$work/activity.png"
+  until_so "an activity on Wine's desktop is never whole" still "$work/activity.png"
+  xdotool mousemove 683 20 click 3
+  until_so "the frame has no menu" is_changed "$work/activity.png"
+  xdotool key n # "Minimize"
   until_so "an activity does not minimise" is_bare "$before"
   picture actividad-minimizada
   xdotool mousemove 300 400 click 1
