@@ -1,6 +1,7 @@
 """join_sources.py BUILD FILE…: what lint.sh looks at. Most of what a check walks through is the
 toolkit's headers, so sources that share no name of their own are joined and walked through them
-once. Writes BUILD/joined/N.cpp with a compile_commands.json, and prints their paths."""
+once; what is built for other systems alone is left out. Writes BUILD/joined/N.cpp with a
+compile_commands.json, and prints their paths."""
 
 import json
 import re
@@ -41,9 +42,10 @@ def batches(paths):
 
 def main():
     build = Path(sys.argv[1]).resolve()
-    paths = [Path(name).resolve() for name in sys.argv[2:]]
     entries = json.loads((build / "compile_commands.json").read_text())
-    words = next(shlex.split(e["command"]) for e in entries if e["file"].endswith("/main.cpp"))
+    built = {e["file"]: e["command"] for e in entries}
+    paths = [path for path in map(Path.resolve, map(Path, sys.argv[2:])) if str(path) in built]
+    words = shlex.split(built[str(ROOT / "src/ui/screen.cpp")])  # its headers are found by all
     folder = build / "joined"
     folder.mkdir(exist_ok=True)
     for old in folder.glob("*.cpp"):

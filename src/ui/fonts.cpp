@@ -61,6 +61,7 @@ std::jthread readFontSettings()
     return std::jthread([] {
         // The library that the toolkit asks on most systems; elsewhere there is nothing to hurry.
         if (const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit"))
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): found by its name
             reinterpret_cast<int (*)()>(init)();
     });
 }

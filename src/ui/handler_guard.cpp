@@ -95,7 +95,7 @@ void HandlerGuard::run(const std::function<void()>& body, core::SourceLine where
 QString HandlerGuard::logged(const char* what, core::SourceLine where)
 {
     // No stream: as soon as one is named, the library makes all of them at the start.
-    std::fprintf(stderr, "%s: %s\n", where.text().c_str(), what);
+    std::fputs((where.text() + ": " + what + '\n').c_str(), stderr);
     return mistakeText();
 }
 
