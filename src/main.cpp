@@ -13,27 +13,11 @@
 #include <algorithm>
 #include <utility>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The toolkit's threads hardly allocate: a heap for each would only take memory.
-void shareOneHeap()
-{
-#ifdef __GLIBC__
-    mallopt(M_ARENA_MAX, 1);
-#endif
-}
-
-} // namespace
 
 int main(int argc, char* argv[])
 {
-    shareOneHeap();
+    core::shareOneHeap(); // the toolkit's threads hardly allocate
     ui::ignoreDesktopSettings();
     std::jthread fontSettings = ui::look::readFontSettings();
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's

@@ -7,6 +7,9 @@
 #ifdef Q_OS_WIN
 #include <windows.h>
 #endif
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +26,13 @@ bool canWrite(const QString& file)
     return QFile(file).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
 }
 
+void shareOneHeap()
+{
+#ifdef __GLIBC__
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
 #ifdef Q_OS_WIN
 
 QString commonBankFolder()
@@ -37,6 +47,14 @@ void writeUtf8ToTerminal()
     SetConsoleOutputCP(CP_UTF8);
 }
 
+bool asksForHighContrast()
+{
+    HIGHCONTRASTW asked{};
+    asked.cbSize = sizeof asked;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof asked, &asked, 0) != 0
+        && (asked.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 #else
 
 QString commonBankFolder()
@@ -45,6 +63,11 @@ QString commonBankFolder()
 }
 
 void writeUtf8ToTerminal() { }
+
+bool asksForHighContrast()
+{
+    return false;
+}
 
 #endif
 

@@ -18,4 +18,12 @@ QString commonBankFolder();
 /// Has the terminal take what this program writes as UTF-8, where it would not by itself.
 void writeUtf8ToTerminal();
 
+/// Whether the person has chosen high contrast in the system's own settings; false where it is
+/// the desktop that has to be asked.
+bool asksForHighContrast();
+
+/// Has all threads take memory from one heap, where each would get its own: worth it where they
+/// hardly allocate.
+void shareOneHeap();
+
 } // namespace core

@@ -17,8 +17,8 @@ namespace {
 constexpr int LineLength = 10; // characters
 
 // Pixels at factor 1.
-constexpr double SideMargin = 26; // of paper beside the rows
-constexpr double RowMargin = 3; // between a row's end and its text, at least
+constexpr double SideMargin = 8; // of paper beside the rows
+constexpr double RowMargin = 6; // between a row's end and its text, at least
 constexpr double EndMargin = 6; // of paper above and below them
 constexpr double Rod = 9;
 constexpr double RodOverhang = 7;

@@ -59,10 +59,9 @@ QStringList foundOrLoaded(const QStringList& names, const QString& prefix)
 std::jthread readFontSettings()
 {
     return std::jthread([] {
-#ifndef Q_OS_WIN // the library that the toolkit asks; with others there is nothing to hurry
+        // The library that the toolkit asks on most systems; elsewhere there is nothing to hurry.
         if (const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit"))
             reinterpret_cast<int (*)()>(init)();
-#endif
     });
 }
 
