@@ -107,7 +107,8 @@ leave() {
 }
 
 has_red() { # the menu's last button, and an activity's
-  import -window root -unique-colors txt: | grep -qi '#FF0000'
+  import -window root "$work/now.png"
+  convert "$work/now.png" -unique-colors txt: | grep -qi '#FF0000'
 }
 still() { # picture of the display, taken anew if it has changed since
   [ "$(pixels_off "$1")" -eq 0 ] || ! mv "$work/now.png" "$1"
