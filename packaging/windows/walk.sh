@@ -106,6 +106,10 @@ leave() {
   wait
 }
 
+has_red() { # the menu's last button, and an activity's
+  import -window root "$work/now.png"
+  convert "$work/now.png" -unique-colors txt: | grep -qi '#FF0000'
+}
 still() { # picture of the display, taken anew if it has changed since
   [ "$(pixels_off "$1")" -eq 0 ] || ! mv "$work/now.png" "$1"
 }
@@ -124,6 +128,7 @@ lose_an_activity() {
   local before="$pictures/escritorio.png"
   "$here/wine.sh" explorer /desktop=escuela,1366x768 pizarrin.exe &
   until_so "the menu does not come up on Wine's desktop" is_other none
+  until_so "the menu on Wine's desktop has no way out" has_red
   picture escritorio
   until_so "the menu on Wine's desktop is never whole" still "$before"
   xdotool key Return
