@@ -37,6 +37,10 @@ SETTINGS = {
 CHATTER = re.compile(r"(.* )?(un)?selected|Selection .*|Cielo.*|panel|unknown")
 
 
+# The last that the reader writes before it does nothing but listen, in old words and in new ones.
+LISTENING = re.compile(r"ORCA: Starting (registry|Atspi main event loop)")
+
+
 class Silence(AssertionError):
     """The reader did not say what it had to."""
 
@@ -55,6 +59,7 @@ class Desk:
         self.folder = Path(tempfile.mkdtemp(prefix="desk-"))
         self.processes = []
         self.said = queue.Queue()
+        self.listening = threading.Event()
         self.heard = []  # since the last step, in order
         self.environment = dict(
             os.environ,
@@ -137,7 +142,9 @@ class Desk:
         tty.setraw(log)
         threading.Thread(target=self._listen, args=[terminal], daemon=True).start()
         self.start("orca", f"--debug-file={os.ttyname(log)}", "--replace")
-        self.hear("Screen reader on")
+        self.hear("Screen reader on")  # which it says before it listens to programs
+        if not self.listening.wait(LIMIT):
+            raise Silence("the reader does not listen")
 
     @staticmethod
     def _wait(condition, complaint):
@@ -152,6 +159,8 @@ class Desk:
             utterance = ""
             try:
                 for line in log:
+                    if LISTENING.search(line):
+                        self.listening.set()
                     if not utterance and "SPEECH OUTPUT: '" not in line:
                         continue
                     utterance += line  # a box may say several lines
