@@ -526,7 +526,7 @@ private:
 
     ScriptedRandom random;
     std::unique_ptr<Race> race;
-    const games::RaceCourse course;
+    const games::RaceCourse course{};
 };
 
 QTEST_GUILESS_MAIN(RaceTest)
