@@ -23,7 +23,7 @@ class Pupil:
 
     def at_the_menu(self):
         """Hears which activity of the menu has the focus."""
-        self.at = self.desk.hear(r"(.*?) (?:push )?button.*")[0].group(1)
+        self.at = self.desk.hear_or_ask("Tab", r"(.*?) (?:push )?button.*").group(1)
 
     def open(self, activity, names):
         """Goes through the menu with Tab until an activity has the focus, and opens it."""
