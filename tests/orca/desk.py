@@ -16,7 +16,7 @@ import tty
 from pathlib import Path
 
 LIMIT = 90  # seconds: far more than a busy machine takes, so that only real silence ends it
-LATE = 15  # seconds that a reader may need to take notice of a program
+LATE = 15  # seconds in which a reader takes notice of a program, or never does
 
 SPEECH = """LogLevel 0
 LogDir "{folder}"
@@ -193,15 +193,6 @@ class Desk:
             except queue.Empty:
                 pass
         self.hear(words)
-
-    def hear_or_ask(self, key, wanted):
-        """As hear(), of a window that has just come up. A reader that learns late of a program
-        misses its first words: then, as a pupil would, presses a key that has it tell."""
-        try:
-            return self.hear(wanted, limit=LATE)[0]
-        except Silence:
-            self.press(key)
-            return self.hear(wanted)[0]
 
     def hear(self, *wanted, limit=LIMIT):
         """Waits until the reader has said each wanted regular expression, in this order, as
