@@ -153,7 +153,7 @@ def division(pupil):
     quotient, rest = divmod(int(dividend), int(divisor))
     for digit in str(rest):
         pupil.does(digit, "Right", says=["línea 1.*"])
-    pupil.does("Tab", says=["Divisor label.*"])
+    pupil.does("Tab", says=["Divisor read only text", divisor])
     pupil.does("Tab", says=["Cociente.*"])
     # An access key is faster than the digits before it, which the reader hands on.
     pupil.does(*str(quotient), "Tab", says=["Hecho.*"])
