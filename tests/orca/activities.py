@@ -164,12 +164,13 @@ def division(pupil):
 
 def problems(pupil):
     pupil.open("Problemas", names=["Respuesta", "Hecho", "Ver solución", "Continuar"])
-    statement = r".* Respuesta en (.*)"
+    statement = r".+\?(?: Respuesta en (.+))?"  # a year and a floor have none
     pupil.exercise(statement)
     pupil.does("minus", "1", "Return", says=["Respuesta incorrecta"])
     pupil.does("Return", says=["Respuesta incorrecta"])
     unit = pupil.heard_exercise.group(1)
-    answer = pupil.does("alt+v", says=[rf"(\d+) {unit}"])[0].group(1)
+    solution = rf"(\d+) {unit}" if unit else r"(\d+)"
+    answer = pupil.does("alt+v", says=[solution])[0].group(1)
     pupil.does("alt+b", *answer, "Return", says=["Respuesta correcta"])
     pupil.goes_on("alt+c", statement)
     pupil.close()
