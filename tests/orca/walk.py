@@ -11,7 +11,7 @@ from pathlib import Path
 import activities
 from desk import Desk, Silence
 
-READING = 0.8  # seconds after it has come up in which such a box takes no key
+READING = 0.8  # seconds in which a box that has come up by itself takes no key
 
 
 class Pupil:
@@ -57,7 +57,7 @@ class Pupil:
         self._note(" ".join(keys), [])
 
     def answer_box(self, key):
-        """Presses a key in a box that came up by itself and has been heard, hence shown."""
+        """Presses a key in a box that came up by itself: once heard, it has been shown."""
         time.sleep(READING)
         self.press(key)
 
