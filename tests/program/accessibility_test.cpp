@@ -206,7 +206,7 @@ private:
     static QAccessible::Role expectedRole(const QWidget* control)
     {
         const auto* box = dynamic_cast<const ui::TextBox*>(control);
-        if (box != nullptr && box->kind() == ui::TextBox::Kind::Display)
+        if (box != nullptr && box->focusPolicy() == Qt::NoFocus)
             return QAccessible::StaticText;
         if (qobject_cast<const QLineEdit*>(control) || qobject_cast<const QTextEdit*>(control)
             || qobject_cast<const QPlainTextEdit*>(control)

@@ -267,6 +267,26 @@ private slots:
         QCOMPARE(heard(), {u"detrás"_s});
     }
 
+    void noNameIsToldWithItsAccessKey_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const QString& name : {u"Form3"_s, u"FRMCombi"_s, u"DLGProblemas"_s})
+            QTest::newRow(qPrintable(name)) << name;
+    }
+    void noNameIsToldWithItsAccessKey()
+    {
+        static QStringList names;
+        names.clear();
+        QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            if (event->type() == QAccessible::NameChanged)
+                names << event->accessibleInterface()->text(QAccessible::Name);
+        });
+        open();
+        listenToSpeech();
+        QVERIFY(!names.isEmpty());
+        QCOMPARE(names.filter(u"&"_s), {});
+    }
+
 private:
     ui::Screen& open()
     {
