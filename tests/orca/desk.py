@@ -16,7 +16,6 @@ import tty
 from pathlib import Path
 
 LIMIT = 90  # seconds: far more than a busy machine takes, so that only real silence ends it
-LATE = 15  # seconds in which a reader takes notice of a program, or never does
 
 SPEECH = """LogLevel 0
 LogDir "{folder}"
@@ -194,12 +193,12 @@ class Desk:
                 pass
         self.hear(words)
 
-    def hear(self, *wanted, limit=LIMIT):
+    def hear(self, *wanted):
         """Waits until the reader has said each wanted regular expression, in this order, as
         whole utterances. Returns the matches, and forgets what came before the last one."""
         matches, at = [], 0
         for pattern in wanted:
-            end = time.monotonic() + limit
+            end = time.monotonic() + LIMIT
             while True:
                 if at == len(self.heard):
                     self._hear_on(pattern, end)

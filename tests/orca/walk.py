@@ -8,9 +8,7 @@ import sys
 from pathlib import Path
 
 import activities
-from desk import LATE, Desk, Silence
-
-DESKS = 4  # set up at most
+from desk import Desk, Silence
 
 
 class Pupil:
@@ -25,7 +23,7 @@ class Pupil:
 
     def at_the_menu(self):
         """Hears which activity of the menu has the focus."""
-        self.at = self.desk.hear(r"(.*?) (?:push )?button.*", limit=LATE)[0].group(1)
+        self.at = self.desk.hear(r"(.*?) (?:push )?button.*")[0].group(1)
 
     def open(self, activity, names):
         """Goes through the menu with Tab until an activity has the focus, and opens it."""
@@ -123,21 +121,11 @@ def play(pupil, wanted):
 def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped"))  # what was started ends too
     program, wanted = sys.argv[1], sys.argv[2:]
-    for desks_left in reversed(range(DESKS)):
-        with Desk() as desk:
-            pupil = Pupil(desk)
-            desk.start(program)
-            try:
-                pupil.at_the_menu()
-            except Silence:
-                # On a busy machine a reader that has just started may stay deaf to a program
-                # for good; nothing has been played then.
-                if desks_left == 0:
-                    raise
-                print("the reader is deaf: another desk", flush=True)
-                continue
-            play(pupil, wanted)
-            return
+    with Desk() as desk:
+        desk.start(program)
+        pupil = Pupil(desk)
+        pupil.at_the_menu()
+        play(pupil, wanted)
 
 
 if __name__ == "__main__":
