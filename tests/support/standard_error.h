@@ -17,6 +17,7 @@ public:
     }
     ~StandardError()
     {
+        std::fflush(stderr);
         dup2(m_before, fileno(stderr));
         close(m_before);
     }
@@ -25,6 +26,7 @@ public:
 
     QString text() const
     {
+        std::fflush(stderr); // it has a buffer in some systems' runtime, when it is a file
         QFile file(m_kept.fileName());
         file.open(QIODevice::ReadOnly | QIODevice::Text);
         return QString::fromUtf8(file.readAll());
