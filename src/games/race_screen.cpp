@@ -230,8 +230,6 @@ void FrmCarrera::CBCalcu_Click(int Index)
         m_keypad->hide();
         return;
     }
-    if (!TBResultado->isEnabled())
-        return;
     if (Index == RaceKeypad::EnterKey) {
         TBResultado_KeyPress(QChar(ui::key::Enter));
         return;
