@@ -320,6 +320,7 @@ private slots:
         const QString operation = text(u"TBOperación"_s);
         const QString result = QString::number(value(operation));
         bench->click(u"CBConmutar"_s);
+        QCOMPARE(screen->focusWidget()->objectName(), u"Picture1"_s); // no button
         for (const QString& digit : result.split(QString(), Qt::SkipEmptyParts))
             bench->click(u"CBCalcu(%1)"_s.arg(digit == u"0"_s ? u"11"_s : digit));
         bench->click(u"CBCalcu(12)"_s);
@@ -332,6 +333,8 @@ private slots:
         verifyCarLeft(1, 9500);
         bench->click(u"CBCalcu(10)"_s);
         QCOMPARE(text(u"TBResultado"_s), QString());
+        bench->click(u"CBCalcu(0)"_s);
+        QCOMPARE(screen->focusWidget()->objectName(), u"Picture1"_s);
         verifyEnded();
     }
 
@@ -838,6 +841,7 @@ private:
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
             QTest::keyClick(screen->focusWidget(), key);
         QCOMPARE(text(u"TBOperación"_s), operation); // no new race
+        QVERIFY(!dialog->isVisible());
     }
 
     std::unique_ptr<ScreenBench> bench;
