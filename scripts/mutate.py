@@ -34,9 +34,10 @@ SWAPS = {
 }
 SWITCHED = {"+", "-", "*", "/", "%", "<", "<=", ">", ">=", "==", "!="}
 ELSE_NO_OPERATION = {"<", ">", "*"}  # unless between blanks: brackets of templates, and pointers
-# Literals, comments and directives are passed over whole; a number may have digit marks.
+# Literals, comments, directives and what Windows alone compiles are passed over whole; a number may
+# have digit marks.
 TOKEN = re.compile(
-    r'(?P<skip>//[^\n]*|/\*.*?\*/|^\s*\#[^\n]*|u?"(?:[^"\\\n]|\\.)*"(?:_s)?|u?\'(?:[^\'\\\n]|\\.)+\''
+    r'(?P<skip>^\s*\#ifdef Q_OS_WIN.*?^\#(?:else|endif)|//[^\n]*|/\*.*?\*/|^\s*\#[^\n]*|u?"(?:[^"\\\n]|\\.)*"(?:_s)?|u?\'(?:[^\'\\\n]|\\.)+\''
     r"|->|::|<<=?|>>=?|<=>|template\s*<[^;{]*?>|\w+_cast\s*<[^>]*>)"
     r"|(?P<number>(?<![\w.])\d[\d']*(?:\.\d+)?f?(?![\w.]))"
     r"|(?P<word>[A-Za-z_]\w*)"

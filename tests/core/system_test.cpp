@@ -41,6 +41,13 @@ private slots:
         QVERIFY(core::commonBankFolder().isEmpty());
 #endif
     }
+
+#ifndef Q_OS_WIN // there, whoever runs this may have chosen it
+    void contrastIsAskedOfTheDesktop()
+    {
+        QVERIFY(!core::asksForHighContrast());
+    }
+#endif
 };
 
 QTEST_GUILESS_MAIN(SystemTest)
