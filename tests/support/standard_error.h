@@ -12,7 +12,8 @@ public:
     StandardError()
         : m_before(dup(fileno(stderr)))
     {
-        m_kept.open();
+        if (!m_kept.open())
+            qFatal("nothing keeps the standard error");
         dup2(m_kept.handle(), fileno(stderr));
     }
     ~StandardError()
@@ -26,7 +27,8 @@ public:
     QString text() const
     {
         QFile file(m_kept.fileName());
-        file.open(QIODevice::ReadOnly | QIODevice::Text);
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+            qFatal("%s cannot be read", qPrintable(file.fileName()));
         return QString::fromUtf8(file.readAll());
     }
 
