@@ -18,6 +18,7 @@ public:
     }
     ~StandardError()
     {
+        std::fflush(stderr);
         dup2(m_before, fileno(stderr));
         close(m_before);
     }
@@ -26,6 +27,7 @@ public:
 
     QString text() const
     {
+        std::fflush(stderr); // it has a buffer in some systems' runtime, when it is a file
         QFile file(m_kept.fileName());
         if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
             qFatal("%s cannot be read", qPrintable(file.fileName()));
