@@ -20,9 +20,9 @@ constexpr double Smallest32 = std::numeric_limits<qint32>::min();
 constexpr double Largest32 = std::numeric_limits<qint32>::max();
 
 struct Prefix {
-    double value = 0;
-    bool hasDigits = false;
-    qsizetype length = 0; // from the start of the text, blanks included
+    double value;
+    bool hasDigits;
+    qsizetype length; // from the start of the text, blanks included
 };
 
 bool isDigit(QChar c)
@@ -74,14 +74,9 @@ Prefix readPrefix(QStringView text)
         negative = text[at++] == u'-';
     const std::string decimal = takeDecimal(text, at);
 
-    Prefix prefix;
-    prefix.length = at;
-    prefix.hasDigits = !decimal.empty() && decimal != ".";
-    if (prefix.hasDigits)
-        prefix.value = finiteValue(decimal);
-    if (negative && prefix.value != 0) // never -0
-        prefix.value = -prefix.value;
-    return prefix;
+    const bool hasDigits = !decimal.empty() && decimal != ".";
+    const double value = hasDigits ? finiteValue(decimal) : 0;
+    return {negative && value != 0 ? -value : value, hasDigits, at}; // never -0
 }
 
 QString quoted(QStringView text)
