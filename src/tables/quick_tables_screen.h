@@ -26,6 +26,9 @@ public:
 protected:
     void Form_Load() override;
 
+    /// The computer's beep.
+    virtual void beep();
+
 private:
     void makeOptions();
     void makeRow();
