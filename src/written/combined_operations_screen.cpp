@@ -2,6 +2,7 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
+#include "ui/quiet_text.h"
 #include "ui/screens.h"
 #include "written/scratch_area.h"
 
@@ -89,6 +90,7 @@ void FRMCombi::makeAnswer()
     TBResultado = entryBox(u"TBResultado"_s, centred(AnswerTop, AnswerWidth, AnswerHeight),
         AnswerFont, u"Resultado"_s);
     TBResultado->setAlignment(Qt::AlignCenter);
+    m_past = new ui::QuietText(TBResultado, false);
     enterChecks(TBResultado);
     on(TBResultado, &QLineEdit::textChanged, [this] { showAnswerAsPast(false); });
     const double answerLeft = (Width - AnswerWidth) / 2;
@@ -123,14 +125,12 @@ void FRMCombi::newExercise()
 /// The answer to an expression that has gone stays, faded, until it is changed or judged anew.
 void FRMCombi::showAnswerAsPast(bool past)
 {
-    QPalette palette = ui::look::palette();
-    if (past) {
-        const QColor quiet(ui::look::Quiet);
-        palette.setColor(QPalette::Text, quiet);
-        palette.setColor(QPalette::Highlight, ui::look::displayed().color(QPalette::Highlight));
-        palette.setColor(QPalette::HighlightedText, quiet);
-    }
-    TBResultado->setPalette(palette);
+    m_past->setQuiet(false);
+    QPalette colours = ui::look::palette();
+    if (past)
+        colours.setColor(QPalette::Highlight, QColor(ui::look::Marker));
+    TBResultado->setPalette(colours);
+    m_past->setQuiet(past);
 }
 
 void FRMCombi::check()
