@@ -21,6 +21,7 @@ namespace {
 constexpr double Width = 13800;
 constexpr double Margin = 240;
 constexpr double Gap = 120;
+constexpr double GroupGap = 195; // before the caption of the next field
 constexpr double ListWidth = 4980;
 constexpr double FieldLeft = Margin + ListWidth + 360;
 constexpr double FieldWidth = Width - Margin - FieldLeft;
@@ -32,13 +33,13 @@ constexpr double CommandHeight = 510;
 constexpr double InsertWidth = 3240;
 constexpr double UnsavedWidth = 4800;
 
-constexpr double FirstLabel = 90;
+constexpr double FirstLabel = 120;
 constexpr double FirstBox = FirstLabel + LabelStep;
-constexpr double StatementHeight = 1860;
+constexpr double StatementHeight = 1740; // four lines
 constexpr double StatementInserts = FirstBox + StatementHeight + Gap;
-constexpr double AnswerTop = StatementInserts + CommandHeight + Gap + LabelStep;
+constexpr double AnswerTop = StatementInserts + CommandHeight + GroupGap + LabelStep;
 constexpr double AnswerInserts = AnswerTop + BoxHeight + Gap;
-constexpr double UnitTop = AnswerInserts + CommandHeight + Gap + LabelStep;
+constexpr double UnitTop = AnswerInserts + CommandHeight + GroupGap + LabelStep;
 constexpr double ActionsTop = UnitTop + BoxHeight + 2 * Gap;
 constexpr double ListBottom = ActionsTop + CommandHeight;
 constexpr double StripMargin = 180; // around the ways out
