@@ -43,7 +43,7 @@ constexpr QRgb Panel = 0xFF10172C;
 
 constexpr int MenuType = 17; // this screen opens small
 constexpr ui::look::Font ScoreFont{Family::CourierNew, 17, true};
-constexpr ui::look::Font InstructionFont{Family::CourierNew, 17};
+constexpr ui::look::Font InstructionFont{Family::CourierNew, 17, true};
 constexpr ui::look::Font StartFont{Family::Arial, 30, true};
 
 QPalette textOn(QPalette palette, QRgb fill, QRgb text)

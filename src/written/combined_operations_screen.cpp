@@ -23,8 +23,9 @@ constexpr double AnswerHeight = 780;
 constexpr double LabelWidth = 2100;
 constexpr double VerdictWidth = 4200;
 constexpr double TrayMargin = 180; // around the buttons
-constexpr double CommandWidth = 2440;
-constexpr double CommandPitch = CommandWidth + 120;
+constexpr double CommandGap = 120;
+constexpr double CommandWidth = (FullWidth - 2 * TrayMargin - 3 * CommandGap) / 4;
+constexpr double CommandPitch = CommandWidth + CommandGap;
 constexpr double CommandTop = 5760;
 constexpr double CommandHeight = 600;
 constexpr double Height = CommandTop + CommandHeight + 2 * TrayMargin;
@@ -37,8 +38,8 @@ ui::TwipRect centred(double top, double width, double height)
 
 ui::TwipRect commandPlace(int position)
 {
-    constexpr double Left = (Width - 3 * CommandPitch - CommandWidth) / 2;
-    return {Left + position * CommandPitch, CommandTop, CommandWidth, CommandHeight};
+    return {
+        Margin + TrayMargin + position * CommandPitch, CommandTop, CommandWidth, CommandHeight};
 }
 
 constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
