@@ -1,7 +1,8 @@
 # shellcheck shell=bash
 # Shared by the scripts: installs what is missing, configures and builds. Sourced.
 
-# Quiet unless it fails: then the log of the step is shown.
+# Quiet unless it fails: then the end of the step's log is shown, and what stands far above it, the
+# complaints of single tests and of the sanitizers.
 quietly() { # title, command...
   local title=$1 log
   shift
@@ -9,6 +10,8 @@ quietly() { # title, command...
   log=build/${title// /-}.log
   if ! "$@" >"$log" 2>&1; then
     tail -n 60 "$log" >&2
+    { grep -E -A 5 '(FAIL!|QFATAL) +:|ERROR: [A-Z]|: runtime error: ' "$log" || true; } |
+      tail -n 40 >&2
     echo "Falló este paso: $title (todo el detalle en $PWD/$log)" >&2
     exit 1
   fi

@@ -33,9 +33,10 @@ check_imports
 gather_fonts
 export QT_QPA_FONTDIR=$PWD/$windows_build/fonts
 quietly "preparar wine" packaging/windows/wine.sh cmd /c ver
+rm -f "$windows_build/errors.txt"
 # What a test says goes to a debugger else, where there is no console.
-QT_FORCE_STDERR_LOGGING=1 quietly "probar wine" ctest --test-dir "$windows_build" --verbose \
-  -j "$(nproc)"
+WINE_ERRORS=$PWD/$windows_build/errors.txt QT_FORCE_STDERR_LOGGING=1 quietly "probar wine" \
+  ctest --test-dir "$windows_build" --verbose -j "$(nproc)"
 grep -E 'tests passed|^[0-9]+: SKIP' build/probar-wine.log
 WINDOW_PLATFORM=windows quietly "recorrer wine" tests/support/on_display.sh \
   packaging/windows/walk.sh \

@@ -15,7 +15,7 @@ options=(
 )
 for feature in sql network dbus xml printsupport concurrent vulkan direct2d1_1 zstd icu glib \
     system_zlib system_pcre2 system_png system_jpeg system_freetype system_harfbuzz \
-    system_doubleconversion system_libb2 gif ico style_windowsvista; do
+    system_doubleconversion system_libb2 gif ico style_windowsvista style_windows11; do
   options+=("-DFEATURE_$feature=OFF")
 done
 for feature in testlib png jpeg freetype harfbuzz; do

@@ -108,7 +108,8 @@ leave() {
 
 has_red() { # the menu's last button, and an activity's
   import -window root "$work/now.png"
-  convert "$work/now.png" -unique-colors txt: | grep -qi '#FF0000'
+  convert "$work/now.png" -unique-colors txt: >"$work/colours.txt"
+  grep -qi '#FF0000' "$work/colours.txt"
 }
 still() { # picture of the display, taken anew if it has changed since
   [ "$(pixels_off "$1")" -eq 0 ] || ! mv "$work/now.png" "$1"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs a program for Windows under Wine, as on Windows 10, in the folder WINEPREFIX, which it
 # makes the first time: one of the build's own unless set. Names of files have accents whatever
-# the locale.
+# the locale. WINE_ERRORS is a file for what it says on standard error.
 set -euo pipefail
 prefix=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/build/windows/wine
 export WINEPREFIX=${WINEPREFIX:-$prefix} LC_ALL=C.UTF-8
@@ -18,4 +18,8 @@ if [ ! -e "$WINEPREFIX/system.reg" ]; then
   wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f
   wineserver --wait
 fi
+
+# Programs that Wine starts behind the first one with windows keep its standard error, and run as
+# long as any other: whoever reads that to its end would wait for all.
+[ -z "${WINE_ERRORS:-}" ] || exec 2>>"$WINE_ERRORS"
 exec wine "$@"

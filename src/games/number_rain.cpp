@@ -5,7 +5,6 @@
 #include <utility>
 
 using core::Int16;
-using namespace Qt::StringLiterals;
 
 namespace games {
 
@@ -165,32 +164,22 @@ void NumberRain::loseLife(bool porError)
 {
     m_running = false;
     if (!m_score.loseLife()) {
-        ask(RainBox::Kind::GameOver, u"GAME OVER"_s,
-            u"En esta partida has conseguido %1 puntos. \n¿Deseas volver a jugar?"_s.arg(
-                state().PuntosTotales.value()));
+        ask(RainBox::gameOver(state()));
         return;
     }
-    ask(RainBox::Kind::LifeLost, u"Lluvia de números"_s,
-        porError ? u"Has cometido demasiados errores y pierdes una vida. "
-                   "Deberás volver a empezar esta fase."_s
-                 : u"Has dejado escapar demasiados números y pierdes una vida. "
-                   "Deberás volver a empezar esta fase."_s);
+    ask(RainBox::lifeLost(porError));
 }
 
 void NumberRain::FaseSuperada()
 {
     m_running = false;
-    ask(RainBox::Kind::PhasePassed, u"FASE SUPERADA"_s,
-        u"Ha superado la fase %1.\nEn esta fase ha conseguido %2 puntos y en total lleva %3 "
-        "puntos acumulados."_s.arg(m_phase.Fase().value())
-            .arg(state().Puntos.value())
-            .arg(state().PuntosTotales.value()));
+    ask(RainBox::phasePassed(m_phase.Fase(), state()));
 }
 
-void NumberRain::ask(RainBox::Kind kind, const QString& title, const QString& text)
+void NumberRain::ask(const RainBox& box)
 {
-    m_box = kind;
-    m_step.box = RainBox{kind, title, text};
+    m_box = box.kind;
+    m_step.box = box;
 }
 
 RainStep NumberRain::answer(bool yes)

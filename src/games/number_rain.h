@@ -1,5 +1,6 @@
 #pragma once
 
+#include "games/rain_box.h"
 #include "games/rain_fall.h"
 #include "games/rain_phase.h"
 #include "games/rain_score.h"
@@ -12,14 +13,6 @@
 namespace games {
 
 enum class Difficulty { Facil, Normal, Dificil };
-
-/// A message box that interrupts the game until NumberRain::answer() is called.
-struct RainBox {
-    enum class Kind { PhasePassed, LifeLost, GameOver };
-    Kind kind; ///< GameOver is a question (yes or no), the others are reports
-    QString title;
-    QString text;
-};
 
 /// What happened to a number.
 struct RainEvent {
@@ -106,7 +99,7 @@ private:
     void report(RainEvent::Kind kind, int slot, core::Int16 points);
     void launchWhenDue();
 
-    void ask(RainBox::Kind kind, const QString& title, const QString& text);
+    void ask(const RainBox& box);
     void loseLife(bool porError);
     void newGame();
     void repeatPhase();

@@ -5,10 +5,10 @@
 #include "games/night_sky.h"
 #include "games/rain_field.h"
 #include "games/rain_grid.h"
-#include "games/token_row.h"
 #include "ui/screens.h"
 
 #include <QApplication>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -16,14 +16,83 @@ namespace games {
 
 namespace {
 
-/// A key pressed so soon after a launch has taken the focus was meant for the number before.
-constexpr std::chrono::milliseconds TimeToNotice{250};
+// Twips. Wide enough for a number that starts in the last column and always drifts to the
+// right. High enough for thirteen rows: with thirteen no number of any class can escape in a
+// tick that launches one, so a lost life leaves the start button alone on the screen and with
+// the focus.
+constexpr double Width = 17040;
+constexpr double Height = 7260;
+constexpr double StartWidth = 3600;
+constexpr double StartHeight = 1050;
+
+constexpr QRgb Ring = 0xFF8BE9FF; // neither a drop's colour nor the start button's
+
+constexpr int MenuType = 17; // this screen opens small
+constexpr ui::look::Font StartFont{ui::look::Family::Arial, 30, true};
 
 } // namespace
 
 QString Form5::screenName()
 {
     return u"Form5"_s;
+}
+
+Form5::Form5(ui::Screens& screens)
+    : Screen(screens, screenName(), u"Lluvia de números - Fase 1"_s, Width, Height)
+    , m_model(screens.random(), RainGrid::lastRow(static_cast<int>(Height)))
+    , m_sky(new NightSky(this))
+    , m_field(new RainField(*this, this))
+    , m_scoreboard(*this, Width)
+    , m_focus(*this, screens.clock())
+{
+    m_sky->stackUnder(canvas());
+    QPalette night = canvas()->palette();
+    night.setColor(QPalette::Highlight, QColor(Ring));
+    canvas()->setPalette(night);
+    canvas()->setAutoFillBackground(false); // the sky is its surface
+
+    makeMenu();
+    makeStart();
+    makeNumber(0);
+    makeClocks();
+}
+
+void Form5::makeMenu()
+{
+    setMenuType(MenuType);
+    QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
+    MnuOpcMod = menuList(options, u"MnuOpcMod"_s, {u"&Fácil"_s, u"&Normal"_s, u"&Difícil"_s});
+    onList(MnuOpcMod, &Form5::MnuOpcMod_Click);
+    on(item(options, u"MnuOpcSal"_s, u"&Salir (Alt - F4)"_s), &QAction::triggered,
+        [this] { unload(); });
+}
+
+void Form5::makeStart()
+{
+    CbEmpezar = button(u"CbEmpezar"_s, u"&EMPEZAR"_s,
+        {(Width - StartWidth) / 2, (Height - StartHeight) / 2, StartWidth, StartHeight},
+        RainScoreboard::Amber, StartFont);
+    on(CbEmpezar, &QPushButton::clicked, &Form5::CbEmpezar_Click);
+    m_field->watch(m_focus.place());
+    m_field->watch(CbEmpezar);
+    on(m_field, &RainField::pressedNear, &Form5::CbNave_Click);
+}
+
+void Form5::makeClocks()
+{
+    Timer1 = timer(u"Timer1"_s, m_model.interval());
+    Timer1->setTimerType(Qt::PreciseTimer);
+    on(Timer1, &QTimer::timeout, &Form5::Timer1_Timer);
+    Timer2 = timer(u"Timer2"_s, 10000); // nothing starts it: meant
+    on(Timer2, &QTimer::timeout, &Form5::Timer2_Timer);
+}
+
+void Form5::makeNumber(int slot)
+{
+    RainDrop* drop = m_field->make(slot);
+    on(drop, &QPushButton::clicked, &Form5::CbNave_Click, slot);
+    onKeyDown(
+        drop, [this](int keyCode, Qt::KeyboardModifiers) { return CbNave_KeyDown(keyCode); });
 }
 
 void Form5::Form_Load()
@@ -53,7 +122,7 @@ void Form5::MnuOpcMod_Click(int Index)
 
 void Form5::CbEmpezar_Click()
 {
-    Text1->setSelection(0, 1); // not even the first letter goes: meant
+    m_scoreboard.pretendToTakeInstruction();
     play(m_model.start());
     Timer1->start();
 }
@@ -99,10 +168,9 @@ void Form5::show(const RainStep& step)
     if (!m_model.running())
         Timer1->stop();
     setWindowTitle(m_model.caption());
-    showScore();
+    m_scoreboard.showScore(m_model);
     if (step.phasePrepared) {
-        Text1->setText(m_model.instruction());
-        Text1->showSelected();
+        m_scoreboard.showInstruction(m_model.instruction());
         sayExercise();
     }
     for (const RainEvent& event : step.events) {
@@ -113,7 +181,7 @@ void Form5::show(const RainStep& step)
     for (int slot = 0; slot < RainFall::Slots; ++slot)
         showNumber(slot, step.launched == slot);
     if (!m_model.waiting())
-        leaveWithFocus(CbEmpezar);
+        m_focus.leave(CbEmpezar);
     CbEmpezar->setEnabled(m_model.waiting());
     CbEmpezar->setVisible(m_model.waiting());
     giveFocus(step);
@@ -121,24 +189,11 @@ void Form5::show(const RainStep& step)
         beep();
 }
 
-void Form5::showScore()
-{
-    // Only what has changed: a screen reader looks into every text that is set, and would fall
-    // behind the numbers.
-    const std::array texts{m_model.pointsText(), m_model.livesText()};
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        if (Text2.at(i)->text() != texts.at(i))
-            Text2.at(i)->setText(texts.at(i));
-    }
-    m_stars->setLit(m_model.state().Aciertos.value());
-    m_hearts->setLit(m_model.state().Vidas.value());
-}
-
 void Form5::showNumber(int slot, bool launched)
 {
     const Gota& gota = core::at(m_model.fall().Gotas(), slot);
     if (core::at(m_model.fall().Libre(), slot)) {
-        leaveWithFocus(m_field->drop(slot));
+        m_focus.leave(m_field->drop(slot));
         m_field->clear(slot);
     } else if (launched) {
         m_field->launch(slot, gota);
@@ -150,19 +205,11 @@ void Form5::showNumber(int slot, bool launched)
 void Form5::giveFocus(const RainStep& step)
 {
     if (step.cleared)
-        PbFoco->setFocus();
+        m_focus.rest();
     if (step.waits)
         CbEmpezar->setFocus();
     if (step.launched)
-        focusNew(*step.launched);
-}
-
-void Form5::focusNew(int slot)
-{
-    m_focusTaken.reset();
-    if (dynamic_cast<RainDrop*>(focusWidget()) != nullptr)
-        m_focusTaken = clock().elapsed();
-    m_field->drop(slot)->setFocus();
+        m_focus.take(m_field->drop(*step.launched));
 }
 
 /// A new number is read aloud by its focus; this says what became of one.
@@ -191,16 +238,7 @@ void Form5::tellLives()
 ui::KeyResult Form5::CbNave_KeyDown(int KeyCode) const
 {
     const bool hits = KeyCode == ui::key::Space || KeyCode == ui::key::Enter;
-    const bool misses = m_focusTaken && clock().elapsed() - *m_focusTaken < TimeToNotice;
-    return hits && misses ? ui::KeyResult::Swallow : ui::KeyResult::Pass;
-}
-
-// The toolkit would hand the focus of a control that goes to the next one, and a pupil's
-// space bar would then hit another number.
-void Form5::leaveWithFocus(QWidget* control)
-{
-    if (focusWidget() == control)
-        PbFoco->setFocus();
+    return hits && m_focus.isUnnoticed() ? ui::KeyResult::Swallow : ui::KeyResult::Pass;
 }
 
 void Form5::beep()

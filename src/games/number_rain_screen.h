@@ -1,16 +1,14 @@
 #pragma once
 
 #include "games/number_rain.h"
+#include "games/rain_focus.h"
+#include "games/rain_scoreboard.h"
 #include "ui/screen.h"
-
-#include <chrono>
-#include <optional>
 
 namespace games {
 
 class NightSky;
 class RainField;
-class TokenRow;
 
 /// Number rain: shoot the falling numbers that obey the rule of the phase.
 class Form5 : public ui::Screen {
@@ -30,7 +28,6 @@ protected:
 
 private:
     void makeMenu();
-    void makeScoreboard();
     void makeStart();
     void makeClocks();
     void makeNumber(int slot);
@@ -44,11 +41,8 @@ private:
     void play(RainStep step);
     bool ask(const RainBox& box);
     void show(const RainStep& step);
-    void showScore();
     void showNumber(int slot, bool launched);
     void giveFocus(const RainStep& step);
-    void focusNew(int slot);
-    void leaveWithFocus(QWidget* control);
     void tell(const RainEvent& event);
     void tellLives();
     ui::KeyResult CbNave_KeyDown(int KeyCode) const;
@@ -56,17 +50,13 @@ private:
     NumberRain m_model;
     NightSky* m_sky; ///< behind everything
     RainField* m_field; ///< the falling numbers
+    RainScoreboard m_scoreboard;
+    RainFocus m_focus;
     ui::MenuList MnuOpcMod; ///< the difficulties
-    QWidget* PbFoco = nullptr; ///< has the focus when no number is to have it; out of sight
     ui::Button* CbEmpezar = nullptr; ///< starts the rain
-    std::array<ui::TextBox*, 2> Text2{}; ///< the points of the phase; the lives left
-    ui::TextBox* Text1 = nullptr; ///< the rule of the phase
-    TokenRow* m_stars = nullptr; ///< the hits that pass a phase
-    TokenRow* m_hearts = nullptr; ///< the lives left
     QTimer* Timer1 = nullptr; ///< the game's clock
     QTimer* Timer2 = nullptr; ///< would start the clock later; nothing starts it: meant
     core::Int16 m_toldLives = RainState::FullLives; ///< as last said aloud
-    std::optional<std::chrono::milliseconds> m_focusTaken; ///< when, from another number
 };
 
 } // namespace games

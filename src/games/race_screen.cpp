@@ -192,6 +192,15 @@ void FrmCarrera::endRace(const QString& text)
     TBResultado->setEnabled(false);
 }
 
+// To where Enter starts no race: a button that hides would hand the focus on to the next one.
+void FrmCarrera::focusNoButton()
+{
+    if (TBResultado->isEnabled())
+        TBResultado->setFocus();
+    else
+        m_scene->track()->setFocus();
+}
+
 void FrmCarrera::stopTimers()
 {
     Timer1->stop();
@@ -219,19 +228,17 @@ void FrmCarrera::Command1_Click(int Index)
 
 void FrmCarrera::CBConmutar_Click()
 {
-    TBResultado->setFocus(); // a hidden button would hand the focus on
+    focusNoButton();
     m_keypad->show();
 }
 
 void FrmCarrera::CBCalcu_Click(int Index)
 {
     if (Index == RaceKeypad::HideKey) {
-        TBResultado->setFocus();
+        focusNoButton();
         m_keypad->hide();
         return;
     }
-    if (!TBResultado->isEnabled())
-        return;
     if (Index == RaceKeypad::EnterKey) {
         TBResultado_KeyPress(QChar(ui::key::Enter));
         return;

@@ -54,6 +54,7 @@ private:
     void endRace(const QString& text);
     void stopTimers();
     void showTime();
+    void focusNoButton();
 
     Race m_race;
     RaceCourse m_course;

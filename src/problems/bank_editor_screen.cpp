@@ -5,8 +5,6 @@
 #include "ui/list_box.h"
 #include "ui/screens.h"
 
-#include <QCheckBox>
-
 using namespace Qt::StringLiterals;
 
 namespace problems {
@@ -14,15 +12,6 @@ namespace problems {
 namespace {
 
 const QString NewEntry = u"(Nuevo)"_s;
-
-/// A pasted text may have several lines; a problem has one.
-QString oneLine(QString text)
-{
-    text.replace(u"\r\n"_s, u" "_s);
-    for (const char16_t lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'})
-        text.replace(QChar(lineBreak), u' ');
-    return text;
-}
 
 } // namespace
 
@@ -60,26 +49,22 @@ void DLGProblemas::List1_Click()
     CBAccion[static_cast<std::size_t>(Action::Delete)]->setEnabled(entry != m_model.newEntry());
     if (!m_model.isLine(entry))
         return;
-    const TemplateFields shown = m_model.show(entry);
-    Text1->setPlainText(shown.statement);
-    Text2->setText(shown.answer);
-    Text3->setText(shown.unit);
-    showOperations(shown);
+    m_form.show(m_model.show(entry));
     showWhetherSaved();
 }
 
 void DLGProblemas::Text1_Validate()
 {
-    TemplateFields left = fields();
+    TemplateFields left = m_form.fields();
     markFromStatement(left);
-    showOperations(left);
+    m_form.showOperations(left);
 }
 
 void DLGProblemas::Text2_Validate()
 {
-    TemplateFields left = fields();
+    TemplateFields left = m_form.fields();
     markFromAnswer(left);
-    showOperations(left);
+    m_form.showOperations(left);
 }
 
 void DLGProblemas::Command2_Click()
@@ -100,7 +85,7 @@ void DLGProblemas::insertDatum(Target target)
         return;
     const QString maximum = ui::InputBox::ask(*this, u"valor máximo posible: "_s, title);
     if (!maximum.isEmpty())
-        insertAtCaret(target, u'[' + minimum + u'_' + maximum + u']');
+        m_form.insertAtCaret(target, u'[' + minimum + u'_' + maximum + u']');
 }
 
 void DLGProblemas::insertComputed(Target target, const QString& promptEnd)
@@ -116,27 +101,12 @@ void DLGProblemas::insertComputed(Target target, const QString& promptEnd)
             u"Error en la expresión, no debe dejar espacios en blanco tras el signo &"_s,
             u"Error"_s, ui::Icon::Critical);
     else if (!expression.isEmpty())
-        insertAtCaret(target, u'{' + expression + u'}');
-}
-
-void DLGProblemas::insertAtCaret(Target target, const QString& marker)
-{
-    if (target == Target::Statement) {
-        QTextCursor caret = Text1->textCursor();
-        caret.clearSelection(); // a marker is put in, nothing is replaced
-        caret.insertText(marker);
-        Text1->setTextCursor(caret);
-        Text1->setFocus();
-    } else {
-        Text2->setCursorPosition(Text2->cursorPosition());
-        Text2->insert(marker);
-        Text2->setFocus();
-    }
+        m_form.insertAtCaret(target, u'{' + expression + u'}');
 }
 
 void DLGProblemas::CBProbar_Click()
 {
-    const TryOut tried = tryOut(fields(), screens().random(), m_evaluator);
+    const TryOut tried = tryOut(m_form.fields(), screens().random(), m_evaluator);
     ui::MessageBox::show(
         *this, tried.text, ui::MessageBox::programTitle(), ui::Icon::None, tried.notes);
 }
@@ -148,9 +118,7 @@ void DLGProblemas::CBAccion_Click(int Index)
         storeEntry();
         break;
     case Action::Empty:
-        Text1->clear();
-        Text2->clear();
-        Text3->clear();
+        m_form.empty();
         break;
     case Action::Delete:
         deleteEntry();
@@ -160,7 +128,7 @@ void DLGProblemas::CBAccion_Click(int Index)
 
 void DLGProblemas::storeEntry()
 {
-    const TemplateFields stored = fields();
+    const TemplateFields stored = m_form.fields();
     const QString refusal = BankEditor::refusal(stored);
     if (!refusal.isEmpty()) {
         ui::MessageBox::show(*this, refusal);
@@ -174,7 +142,7 @@ void DLGProblemas::storeEntry()
         List1->addItem(NewEntry);
     selectEntry(m_model.newEntry());
     showWhetherSaved();
-    Text1->setFocus();
+    m_form.Text1->setFocus();
 }
 
 void DLGProblemas::deleteEntry()
@@ -220,25 +188,9 @@ int DLGProblemas::selectedEntry() const
     return selected.isEmpty() ? BankEditor::NoEntry : selected.front().row();
 }
 
-TemplateFields DLGProblemas::fields() const
-{
-    // As raw text: the plain one would turn no-break spaces into blanks.
-    TemplateFields typed{oneLine(Text1->document()->toRawText()), oneLine(Text2->text()),
-        oneLine(Text3->text()), {}};
-    for (std::size_t k = 0; k < CHOpera.size(); ++k)
-        typed.operations[k] = CHOpera[k]->isChecked();
-    return typed;
-}
-
-void DLGProblemas::showOperations(const TemplateFields& shown)
-{
-    for (std::size_t k = 0; k < CHOpera.size(); ++k)
-        CHOpera[k]->setChecked(shown.operations[k]);
-}
-
 void DLGProblemas::showWhetherSaved()
 {
-    m_unsaved->setVisible(m_model.isUnsaved(fields()));
+    m_unsaved->setVisible(m_model.isUnsaved(m_form.fields()));
 }
 
 } // namespace problems

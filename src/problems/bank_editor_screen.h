@@ -2,9 +2,8 @@
 
 #include "problems/bank_editor.h"
 #include "problems/expression.h"
+#include "problems/template_form.h"
 #include "ui/screen.h"
-
-class QCheckBox;
 
 namespace ui {
 class ListBox;
@@ -31,16 +30,11 @@ protected:
     void closeRequested() override;
 
 private:
-    enum class Target { Statement, Answer };
+    using Target = TemplateForm::Target;
     enum class Action { Store, Empty, Delete };
 
-    void makeList();
-    void makeStatement();
-    void makeAnswer();
-    ui::Button* insertCommand(
-        int number, const QString& caption, const QString& target, const ui::TwipRect& place);
-    void makeUnit();
-    void makeOperations();
+    ui::ListBox* makeList();
+    void connectForm();
     void makeActions();
     void makeWaysOut();
     /// When the box is left: the fault is told first, then the handler runs in any case.
@@ -48,7 +42,6 @@ private:
         QWidget* box, QString (*fault)(const TemplateFields&), void (DLGProblemas::*validate)());
     void restrictKeys(QWidget* box);
     void markWhatIsUnsaved();
-    void addToolTips();
 
     void List1_Click();
     void Text1_Validate();
@@ -66,21 +59,15 @@ private:
     void deleteEntry();
     void insertDatum(Target target);
     void insertComputed(Target target, const QString& promptEnd);
-    void insertAtCaret(Target target, const QString& marker);
     void selectEntry(int entry);
     int selectedEntry() const;
-    TemplateFields fields() const;
-    void showOperations(const TemplateFields& shown);
     void showWhetherSaved();
     void closeDialog();
 
     BankEditor m_model;
     ExpressionEvaluator m_evaluator;
-    ui::ListBox* List1 = nullptr; ///< the lines of the bank, then the entry for a new one
-    ui::Memo* Text1 = nullptr; ///< the statement
-    ui::TextBox* Text2 = nullptr; ///< the answer
-    ui::TextBox* Text3 = nullptr; ///< the unit of the answer
-    std::array<QCheckBox*, 4> CHOpera{}; ///< the operations that the problem exercises
+    ui::ListBox* List1; ///< the lines of the bank, then the entry for a new one
+    TemplateForm m_form;
     std::array<ui::Button*, 3> CBAccion{}; ///< in the order of Action
     ui::Button* CancelButton = nullptr; ///< closes without saving
     QLabel* m_unsaved = nullptr; ///< shown while the boxes hold what "&Guardar" has not stored

@@ -1,12 +1,9 @@
 #include "tables/quick_tables_screen.h"
 
-#include "core/defect.h"
+#include "tables/limit_options.h"
 #include "tables/quick_tables_widgets.h"
 #include "ui/screens.h"
 #include "ui/tray.h"
-
-#include <QGroupBox>
-#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 using ui::look::Family;
@@ -25,7 +22,6 @@ constexpr ui::look::Font RowFont{Family::CourierNew, 52, true};
 constexpr ui::look::Font LineFont{Family::CourierNew, 22, true};
 constexpr ui::look::Font TimeFont{Family::CourierNew, 26, true};
 constexpr ui::look::Font CommandFont{Family::Verdana, 15, true};
-constexpr ui::look::Font LimitFont{Family::CourierNew, 18, true};
 
 } // namespace
 
@@ -40,7 +36,9 @@ Form8::Form8(ui::Screens& screens)
     TBResul = add(new VerdictPatch(canvas()), u"TBResul"_s, ui::TwipRect{240, 1980, 5400, 540});
     TBResul->setAccessibleName(u"Resultado"_s);
     makeTime();
-    makeOptions(); // in the place of what shows only while they are hidden
+    // In the place of what shows only while they are hidden.
+    m_limits = new LimitOptions(*this, {240, 1980, 5400, 3240}, this);
+    on(m_limits, &LimitOptions::chosen, &Form8::Option1_Click);
 
     Command1 = button(u"Command1"_s, u"&Empezar"_s, {1890, 5640, 2100, 690},
         QColor(ui::look::Yellow), CommandFont);
@@ -78,29 +76,6 @@ void Form8::makeTime()
     m_bar = add(new CountdownBar(canvas()), {}, ui::TwipRect{1560, Top, 4080, BarHeight});
     LBOperacion = label(u"LBOperación"_s, {}, {240, 4260, 5400, 600}, LineFont);
     LBOperacion->setAlignment(Qt::AlignCenter);
-}
-
-void Form8::makeOptions()
-{
-    Frame1 = add(new QGroupBox(u"Acabar la actividad"_s, canvas()), u"Frame1"_s,
-        ui::TwipRect{240, 1980, 5400, 3240});
-    const QStringList captions{u"Al pulsar Salir"_s, u"Tiempo"_s, u"Operaciones"_s, u"Errores"_s};
-    for (int i = 0; i < 4; ++i) {
-        auto* option = add(new QRadioButton(captions.at(i), Frame1), u"Option1(%1)"_s.arg(i),
-            ui::TwipRect{240, 540 + 630.0 * i, 2160, 600});
-        on(option, &QRadioButton::toggled, [this, option, i] {
-            if (option->isChecked())
-                Option1_Click(i);
-        });
-        // One stop of the tab order: the toolkit sees to it only once an option has had the
-        // focus.
-        option->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);
-        core::at(Option1, i) = option;
-    }
-    Label1 = add(new QLabel(Frame1), u"Label1"_s, ui::TwipRect{2640, 900, 2520, 480});
-    Text1 = add(new ui::TextBox(ui::TextBox::Kind::Entry, Frame1), u"Text1"_s,
-        ui::TwipRect{2640, 1410, 1380, 690}, LimitFont);
-    Text1->setAccessibleName(u"Límite"_s);
 }
 
 } // namespace tables

@@ -2,13 +2,12 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
+#include "tables/limit_options.h"
 #include "tables/quick_tables_widgets.h"
 #include "ui/ground.h"
 #include "ui/screens.h"
 
 #include <QApplication>
-#include <QGroupBox>
-#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 using Mark = ui::VerdictBox::Mark;
@@ -36,21 +35,14 @@ void Form8::Form_Load()
     ui::Ground::pose(*this, ui::Pose::Waiting);
     for (ui::TextBox* box : TbDatos)
         box->setEnabled(false);
-    Option1[0]->setChecked(true); // runs its handler: no limit to type
+    m_limits->chooseNone(); // runs its handler: no limit to type
     Command1->setFocus();
 }
 
 void Form8::Option1_Click(int Index)
 {
     m_model.endBy(static_cast<QuickTables::End>(Index));
-    const bool limited = Index != 0;
-    // The "h" is meant.
-    const QStringList captions{{}, u"Mihnutos: "_s, u"Operaciones: "_s, u"Errores: "_s};
-    Label1->setText(captions.at(Index));
-    Label1->setEnabled(limited);
-    Text1->setEnabled(limited);
-    if (!limited)
-        Text1->clear();
+    m_limits->askLimit(Index);
 }
 
 void Form8::Command1_Click()
@@ -63,19 +55,19 @@ void Form8::Command1_Click()
 
 void Form8::start()
 {
-    if (const auto fault = m_model.limitFault(Text1->text())) {
+    if (const auto fault = m_model.limitFault(m_limits->limit())) {
         ui::MessageBox::show(
             *this, *fault, ui::MessageBox::programTitle(), ui::Icon::Exclamation);
         return;
     }
-    play(m_model.start(core::readInt16(Text1->text())));
+    play(m_model.start(core::readInt16(m_limits->limit())));
     if (m_model.ended())
         return;
     Command1->setText(u"&Salir"_s);
-    Frame1->hide();
+    m_limits->hide();
     for (ui::TextBox* box : TbDatos)
         box->setEnabled(true);
-    warnOfLimit(m_model.setLimit(core::readInt16(Text1->text())));
+    warnOfLimit(m_model.setLimit(core::readInt16(m_limits->limit())));
     TbDatos[4]->setFocus();
     Timer1->start();
     if (m_model.state().FinActividad == QuickTables::End::Minutes)

@@ -5,12 +5,10 @@
 
 #include <array>
 
-class QGroupBox;
-class QRadioButton;
-
 namespace tables {
 
 class CountdownBar;
+class LimitOptions;
 class TimeLabel;
 class VerdictPatch;
 
@@ -27,7 +25,6 @@ protected:
     void Form_Load() override;
 
 private:
-    void makeOptions();
     void makeRow();
     void makeTime();
 
@@ -47,10 +44,7 @@ private:
     void finish();
 
     QuickTables m_model;
-    QGroupBox* Frame1 = nullptr; ///< holds the end options; hidden while the drill runs
-    std::array<QRadioButton*, 4> Option1{}; ///< what ends the drill
-    QLabel* Label1 = nullptr; ///< what the limit counts
-    ui::TextBox* Text1 = nullptr; ///< the limit
+    LimitOptions* m_limits = nullptr; ///< what ends the drill
     ui::Button* Command1 = nullptr; ///< starts and ends the drill
     std::array<ui::TextBox*, 5> TbDatos{}; ///< factor, sign, factor, sign, answer
     ui::TextBox* TBInstruc = nullptr; ///< what to do

@@ -81,8 +81,8 @@ QLabel* ControlFactory::label(const QString& name, const QString& caption, const
 {
     auto* label = add(new QLabel(m_canvas), name, place, font);
     label->setTextFormat(Qt::PlainText);
+    label->setBuddy(buddy); // first: readers keep the name that they are told with the caption
     label->setText(caption);
-    label->setBuddy(buddy);
     return label;
 }
 

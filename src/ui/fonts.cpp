@@ -58,18 +58,21 @@ QStringList foundOrLoaded(const QStringList& names, const QString& prefix)
 
 std::jthread readFontSettings()
 {
-    return std::jthread([] {
-        // The library that the toolkit asks on most systems; elsewhere there is nothing to hurry.
-        if (const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit"))
-            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): found by its name
-            reinterpret_cast<int (*)()>(init)();
-    });
+    // The library that the toolkit asks on most systems; elsewhere there is nothing to hurry. It
+    // is looked for here, since the thread that first uses the toolkit is the main one to it for
+    // good.
+    const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit");
+    if (init == nullptr)
+        return {};
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): found by its name
+    return std::jthread(reinterpret_cast<int (*)()>(init));
 }
 
 std::jthread readFontList(std::jthread settings)
 {
     return std::jthread([settings = std::move(settings)]() mutable {
-        settings.join();
+        if (settings.joinable())
+            settings.join();
         // The toolkit keeps for all threads what stands in for a font.
         QFontMetrics(scaled({}, 1)).height();
     });

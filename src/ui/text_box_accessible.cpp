@@ -10,19 +10,20 @@ namespace ui {
 
 namespace {
 
-QAccessible::Role roleOf(const TextBox& box)
-{
-    return box.kind() == TextBox::Kind::Display ? QAccessible::StaticText
-                                                : QAccessible::EditableText;
-}
-
 class TextBoxAccessible final : public QAccessibleWidget,
                                 public QAccessibleTextInterface,
                                 public QAccessibleEditableTextInterface {
 public:
     explicit TextBoxAccessible(TextBox* box)
-        : QAccessibleWidget(box, roleOf(*box))
+        : QAccessibleWidget(box)
     {
+    }
+
+    /// Of a mere text that has the focus, readers say what it shows but not what it is.
+    QAccessible::Role role() const override
+    {
+        return box().focusPolicy() == Qt::NoFocus ? QAccessible::StaticText
+                                                  : QAccessible::EditableText;
     }
 
     void* interface_cast(QAccessible::InterfaceType type) override

@@ -6,7 +6,6 @@
 #include "ui/squared_box.h"
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 using ui::SquaredBox;
@@ -53,18 +52,6 @@ double heightFor(int rows)
         + CountersGap;
 }
 
-/// The caret as the rules count it: the start of a selection, where there is one.
-int caretOf(const QLineEdit& box)
-{
-    return box.hasSelectedText() ? box.selectionStart() : box.cursorPosition();
-}
-
-void stepLeft(QLineEdit& box)
-{
-    if (const int caret = caretOf(box); caret > 0)
-        box.setCursorPosition(caret - 1);
-}
-
 } // namespace
 
 QString Form3::screenName()
@@ -74,6 +61,7 @@ QString Form3::screenName()
 
 Form3::Form3(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Multiplicaciones"_s, Width, heightFor(0))
+    , m_unitsFirst(*this, [this](const QString& place) { say(place); })
     , m_board(*this, [this](SquaredBox* row, int fila) { connectRow(row, fila); })
 {
     makeMenu();
@@ -114,31 +102,16 @@ void Form3::connectRow(SquaredBox* row, int fila)
         TbParcial_KeyDown(fila, KeyCode);
         return ui::KeyResult::Pass;
     });
-    onKeyUp(row, [this, row, fila](int KeyCode, Qt::KeyboardModifiers) {
-        TbParcial_KeyUp(fila, KeyCode);
-        sayPlace(*row);
-    });
-    onGotFocus(row, [this, row] {
-        m_said = {}; // the box is named anew, and so is its place
-        sayPlace(*row);
-    });
+    m_unitsFirst.connectRow(row);
     on(row, &QLineEdit::textChanged, [this, fila] { TbParcial_Change(fila); });
 }
 
 /// Enter checks here alone: in a row, one that is half written would be judged.
 void Form3::connectResult()
 {
-    SquaredBox* result = m_board.TBResultado;
-    enterChecks(result);
-    onKeyUp(result, [this, result](int KeyCode, Qt::KeyboardModifiers) {
-        TBResultado_KeyUp(KeyCode);
-        sayPlace(*result);
-    });
-    onGotFocus(result, [this, result] {
-        m_said = {};
-        sayPlace(*result);
-    });
-    on(result, &QLineEdit::textChanged, [this] { TBResultado_Change(); });
+    enterChecks(m_board.TBResultado);
+    m_unitsFirst.connectResult(m_board.TBResultado);
+    on(m_board.TBResultado, &QLineEdit::textChanged, [this] { TBResultado_Change(); });
 }
 
 void Form3::Form_Load()
@@ -252,16 +225,10 @@ ui::KeyResult Form3::TbFactor_KeyPress()
     return ui::KeyResult::Pass; // the box is read-only: copying is all that it answers
 }
 
-void Form3::TbParcial_KeyUp(int Index, int KeyCode)
-{
-    if (KeyCode == ui::key::Space || KeyCode >= ui::key::Digit0)
-        stepLeft(*m_board.row(Index));
-}
-
 void Form3::TbParcial_KeyDown(int Index, int KeyCode)
 {
     if (KeyCode == ui::key::Shift)
-        IndicaProducto(caretOf(*m_board.row(Index)), Index);
+        IndicaProducto(UnitsFirst::caretOf(*m_board.row(Index)), Index);
 }
 
 void Form3::IndicaProducto(int posicion, int fila)
@@ -273,31 +240,11 @@ void Form3::IndicaProducto(int posicion, int fila)
     say(core::aloud(m_model.verdict().text()));
 }
 
-/// Says which place the next digit takes, where that is another one than before. A reader names
-/// the box by itself.
-void Form3::sayPlace(const SquaredBox& box)
-{
-    if (!box.hasFocus())
-        return;
-    const auto length = static_cast<int>(box.text().size());
-    const QString place = LongMultiplication::spokenCaret(caretOf(box), length);
-    if (std::exchange(m_said, {&box, place}) != std::pair(&box, place))
-        say(place);
-}
-
 void Form3::TbParcial_Change(int Index)
 {
     if (Index == 0 && m_model.firstRowIsResult())
         m_board.TBResultado->write(m_board.row(0)->text());
     fitSquares();
-}
-
-void Form3::TBResultado_KeyUp(int KeyCode)
-{
-    const bool digit = KeyCode >= ui::key::Digit0 && KeyCode <= ui::key::Digit9;
-    const bool keypadDigit = KeyCode >= ui::key::Keypad0 && KeyCode <= ui::key::Keypad9;
-    if (digit || keypadDigit || KeyCode == ui::key::Comma)
-        stepLeft(*m_board.TBResultado);
 }
 
 void Form3::TBResultado_Change()

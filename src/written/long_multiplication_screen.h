@@ -3,6 +3,7 @@
 #include "shell/exercise_screen.h"
 #include "written/long_multiplication.h"
 #include "written/multiplication_board.h"
+#include "written/units_first.h"
 
 namespace written {
 
@@ -34,10 +35,8 @@ private:
     void connectResult();
 
     ui::KeyResult TbFactor_KeyPress();
-    void TbParcial_KeyUp(int Index, int KeyCode);
     void TbParcial_KeyDown(int Index, int KeyCode);
     void TbParcial_Change(int Index);
-    void TBResultado_KeyUp(int KeyCode);
     void TBResultado_Change();
     void MnuOpcCi1Lis_Click(int Index);
     void MnuOpcCi2Lis_Click(int Index);
@@ -49,7 +48,6 @@ private:
     void NuevaMultiplicacion();
     void PreparaFilas();
     void IndicaProducto(int posicion, int fila);
-    void sayPlace(const ui::SquaredBox& box);
     void placeWindow();
     void fitSquares();
     void chainTabs();
@@ -62,8 +60,8 @@ private:
     ui::MenuList MnuOpcCi2Lis; ///< digits of factor 2
     ui::MenuList MnuOpcSelLis; ///< any digit, or chosen ones
     QAction* MnuOpcOcu = nullptr; ///< leaves out the rows of zeros
+    UnitsFirst m_unitsFirst;
     MultiplicationBoard m_board;
-    std::pair<const ui::SquaredBox*, QString> m_said; ///< the place that was said last
     ui::VerdictBox* Text1 = nullptr; ///< the verdict, or the hint of a product of digits
     ui::TextBox* Text2 = nullptr; ///< the counters
 };

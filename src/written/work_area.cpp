@@ -1,9 +1,8 @@
 #include "written/work_area.h"
 
 #include "ui/focus_ring.h"
-#include "ui/look.h"
-#include "ui/marks.h"
 #include "ui/squared_box.h"
+#include "written/cell_painting.h"
 #include "written/work_area_accessible.h"
 
 #include <QClipboard>
@@ -13,7 +12,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -262,14 +260,7 @@ void WorkArea::paintEvent(QPaintEvent*)
     for (int position = m_cells.firstInSight(); position < m_cells.endOfSight(); ++position)
         paintCell(painter, position);
     if (hasFocus() && !m_grid.isWritable(cursorPosition())) // no square to be marked
-        paintBar(painter);
-}
-
-void WorkArea::paintBar(QPainter& painter) const
-{
-    QRect bar = cellRect(cursorPosition());
-    bar.setWidth(std::max(2, qRound(ui::look::thick(ui::look::CaretWidth) * factor())));
-    painter.fillRect(bar, QColor(ui::look::Focus));
+        paintBar(painter, cellRect(cursorPosition()), factor());
 }
 
 bool WorkArea::isComposedAt(int position) const
@@ -280,32 +271,12 @@ bool WorkArea::isComposedAt(int position) const
 
 void WorkArea::paintCell(QPainter& painter, int position) const
 {
-    const QRect cell = cellRect(position);
-    const bool selected = m_caret.selects(position);
     const bool composed = isComposedAt(position);
     const bool next = position == cursorPosition() && m_grid.isWritable(position);
-    if (selected && hasFocus())
-        painter.fillRect(cell, QColor(ui::look::Focus));
-    else if (next && hasFocus())
-        ui::drawHere(painter, cell, factor());
-    else if (selected || composed)
-        painter.fillRect(cell, QColor(ui::look::Marker));
-    painter.setPen(QColor(selected && hasFocus() ? ui::look::Card : ui::look::Ink));
-    paintCharacter(painter, cell,
-        composed ? m_composed.at(position - cursorPosition()) : m_grid.text().at(position));
-}
-
-/// In the middle of its cell, at the height at which a digit stands in the middle.
-void WorkArea::paintCharacter(QPainter& painter, const QRect& cell, QChar character) const
-{
-    if (character == u' ')
-        return;
-    const QFontMetricsF metrics(font());
-    const double free = cell.width() - metrics.horizontalAdvance(character);
-    const double digit = metrics.tightBoundingRect(u"0"_s).height();
-    painter.drawText(
-        QPoint(cell.left() + qRound(free / 2), cell.top() + qRound((cell.height() + digit) / 2)),
-        character);
+    const QChar character =
+        composed ? m_composed.at(position - cursorPosition()) : m_grid.text().at(position);
+    written::paintCell(painter, cellRect(position), character,
+        {hasFocus(), m_caret.selects(position), composed, next}, factor());
 }
 
 } // namespace written

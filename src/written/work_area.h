@@ -81,9 +81,7 @@ private:
     void changed(const GridText& before, int from);
     void setCaret(const GridCaret& caret);
     bool isComposedAt(int position) const;
-    void paintBar(QPainter& painter) const;
     void paintCell(QPainter& painter, int position) const;
-    void paintCharacter(QPainter& painter, const QRect& cell, QChar character) const;
 
     GridText m_grid;
     CellGrid m_cells{*this};

@@ -79,6 +79,16 @@ private slots:
         compare();
     }
 
+    void textsStandInAFixedFace()
+    {
+        const QFont fixed = ui::look::scaled({ui::look::Family::CourierNew, 17}, 1);
+        for (const QString& name : {u"Text1"_s, u"Text2(0)"_s, u"Text2(1)"_s}) {
+            const auto& box = bench->control<QLineEdit>(name);
+            QCOMPARE(box.font().families(), fixed.families());
+            QVERIFY(box.isReadOnly());
+        }
+    }
+
     void captionsAreExact()
     {
         QCOMPARE(start().text(), u"&EMPEZAR"_s);

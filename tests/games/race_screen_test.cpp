@@ -274,7 +274,15 @@ private slots:
         bench->tick(u"Timer1"_s);
         bench->type(u"TBResultado"_s, u"1"_s);
         BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [&](QDialog&) {
+            QCOMPARE(text(u"Text4"_s), u"Correcto "_s);
+            QVERIFY(control<QLineEdit>(u"TBResultado"_s).isEnabled());
+            bench->tick(u"Timer1"_s); // and nothing is counted
+            bench->tick(u"Timer2"_s);
+        };
         bench->tick(u"Timer2"_s);
+        QCOMPARE(text(u"raceTime"_s), u"Tiempo: 2 s"_s);
+        QCOMPARE(text(u"TBResultado"_s), u"1"_s);
         QCOMPARE(boxes.titles, {u"La gran carrera"_s});
         QCOMPARE(boxes.texts, {u"tu adversario ha ganado la carrera. Ha tardado 2 segundos."_s});
         QCOMPARE(boxes.icons, {QMessageBox::NoIcon});
@@ -310,18 +318,23 @@ private slots:
     {
         win();
         const QString operation = text(u"TBOperación"_s);
+        const QString result = QString::number(value(operation));
         bench->click(u"CBConmutar"_s);
-        for (const QString& digit :
-            QString::number(value(operation)).split(QString(), Qt::SkipEmptyParts))
+        QCOMPARE(screen->focusWidget()->objectName(), u"Picture1"_s); // no button
+        for (const QString& digit : result.split(QString(), Qt::SkipEmptyParts))
             bench->click(u"CBCalcu(%1)"_s.arg(digit == u"0"_s ? u"11"_s : digit));
         bench->click(u"CBCalcu(12)"_s);
         bench->tick(u"Timer1"_s);
         bench->tick(u"Timer2"_s);
         QCOMPARE(text(u"TBOperación"_s), operation);
         QCOMPARE(text(u"Text4"_s), QString());
-        QCOMPARE(text(u"TBResultado"_s), QString());
+        QCOMPARE(text(u"TBResultado"_s), result); // the keys write there as ever
         verifyCarLeft(0, 0);
         verifyCarLeft(1, 9500);
+        bench->click(u"CBCalcu(10)"_s);
+        QCOMPARE(text(u"TBResultado"_s), QString());
+        bench->click(u"CBCalcu(0)"_s);
+        QCOMPARE(screen->focusWidget()->objectName(), u"Picture1"_s);
         verifyEnded();
     }
 
@@ -828,6 +841,7 @@ private:
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
             QTest::keyClick(screen->focusWidget(), key);
         QCOMPARE(text(u"TBOperación"_s), operation); // no new race
+        QVERIFY(!dialog->isVisible());
     }
 
     std::unique_ptr<ScreenBench> bench;

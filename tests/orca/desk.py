@@ -16,7 +16,6 @@ import tty
 from pathlib import Path
 
 LIMIT = 90  # seconds: far more than a busy machine takes, so that only real silence ends it
-LATE = 15  # seconds in which a reader takes notice of a program, or never does
 
 SPEECH = """LogLevel 0
 LogDir "{folder}"
@@ -142,10 +141,20 @@ class Desk:
         terminal, log = pty.openpty()
         tty.setraw(log)
         threading.Thread(target=self._listen, args=[terminal], daemon=True).start()
-        self.start("orca", f"--debug-file={os.ttyname(log)}", "--replace")
+        self._hide_other_readers()
+        self.start("orca", f"--debug-file={os.ttyname(log)}")
         self.hear("Screen reader on")  # which it says before it listens to programs
         if not self.listening.wait(LIMIT):
             raise Silence("the reader does not listen")
+
+    def _hide_other_readers(self):
+        """It does not start beside another one of the same user's that it finds. Told to replace
+        that, it would end it, and two seconds later lose whatever it is about to say."""
+        finder = self.folder / "alone/pgrep"
+        finder.parent.mkdir()
+        finder.write_text("#!/bin/sh\n")
+        finder.chmod(0o755)
+        self.environment["PATH"] = f"{finder.parent}:{self.environment['PATH']}"
 
     @staticmethod
     def _wait(condition, complaint):
@@ -180,26 +189,12 @@ class Desk:
     def type(self, text):
         self.press(*str(text))
 
-    def press_until(self, key, words):
-        """Presses a key until the reader says this: a box that came up by itself takes no key
-        at first."""
-        end = time.monotonic() + LIMIT
-        while not any(re.fullmatch(words, said) for said in self.heard):
-            if time.monotonic() > end:
-                raise Silence(f"{key} does not bring about {words}")
-            self.press(key)
-            try:
-                self._take(0.3)
-            except queue.Empty:
-                pass
-        self.hear(words)
-
-    def hear(self, *wanted, limit=LIMIT):
+    def hear(self, *wanted):
         """Waits until the reader has said each wanted regular expression, in this order, as
         whole utterances. Returns the matches, and forgets what came before the last one."""
         matches, at = [], 0
         for pattern in wanted:
-            end = time.monotonic() + limit
+            end = time.monotonic() + LIMIT
             while True:
                 if at == len(self.heard):
                     self._hear_on(pattern, end)

@@ -4,6 +4,7 @@ past already when it is answered."""
 import re
 
 ACCEPT = "Aceptar (?:push )?button.*"
+START = "EMPEZAR (?:push )?button.*"
 
 
 def rain(pupil):
@@ -22,7 +23,8 @@ def rain(pupil):
     pupil.press("space")
     game.plays(None, "alert GAME OVER")
     pupil.hears(r"En esta partida has conseguido \d+ puntos.*", "Sí (?:push )?button.*")
-    pupil.press_until("Tab", "No (?:push )?button.*")
+    pupil.answer_box("Tab")
+    pupil.hears("No (?:push )?button.*")
     pupil.press("Return")
     pupil.back_at_the_menu()
 
@@ -62,16 +64,16 @@ class Rain:
         self.rule = self.pupil.hears("Elimina todos los .*").group()
         self.pupil.press("space")
 
-    # A key too many starts the rain: no more is waited for than what is said in any case.
-
     def loses_a_life(self):
         self.pupil.hears(".*pierdes una vida.*", ACCEPT, "Vidas: [12]")
-        self.pupil.press_until("Return", r"Lluvia de números - Fase \d+")
+        self.pupil.answer_box("Return")
+        self.pupil.hears(START)
         self.pupil.press("space")
 
     def begins_again(self):
-        self.pupil.press_until("Return", "Elimina .*")
-        self.rule = self.pupil.desk.passed[-1]
+        self.pupil.hears("Sí (?:push )?button.*")
+        self.pupil.answer_box("Return")
+        self.rule = self.pupil.hears("Elimina .*").group()
         self.pupil.press("space")
 
 
@@ -88,7 +90,8 @@ def race(pupil):
     pupil.goes_on("Return", operation, before=["Correcto", r"Tú: 1 de 15\. Rival: \d+ de 15"])
     pupil.hears("alert La gran carrera", r"tu adversario ha ganado la carrera\. .* segundos",
                 ACCEPT)  # without a hand on the keyboard
-    pupil.press_until("Return", "Pista.*")
+    pupil.answer_box("Return")
+    pupil.hears("Pista.*")
     pupil.press("F2")
     pupil.hears("La carrera ha terminado. Pulsa en uno de los botones inferiores")
     pupil.press("alt+r")
@@ -101,7 +104,8 @@ def race(pupil):
     else:
         pupil.hears(end)
     pupil.hears(r"(?:Has ganado|tu adversario ha ganado) la carrera\. .* segundos", ACCEPT)
-    pupil.press_until("Return", "Pista.*")
+    pupil.answer_box("Return")
+    pupil.hears("Pista.*")
     pupil.close()
 
 

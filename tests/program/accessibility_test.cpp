@@ -168,16 +168,8 @@ private:
     static void addScreenRows()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("Form1") << u"Form1"_s;
-        for (const shell::Activity& activity : activities())
-            QTest::newRow(qPrintable(activity.screen)) << activity.screen;
-        for (const QString& dialog : dialogs())
-            QTest::newRow(qPrintable(dialog)) << dialog;
-    }
-
-    static QStringList dialogs()
-    {
-        return {u"Dialog"_s, u"DlgCarrera"_s, u"DLGProblemas"_s, u"DLGSelProb"_s};
+        for (const QString& name : screenNames())
+            QTest::newRow(qPrintable(name)) << name;
     }
 
     ui::Screen& open()
@@ -206,7 +198,7 @@ private:
     static QAccessible::Role expectedRole(const QWidget* control)
     {
         const auto* box = dynamic_cast<const ui::TextBox*>(control);
-        if (box != nullptr && box->kind() == ui::TextBox::Kind::Display)
+        if (box != nullptr && box->focusPolicy() == Qt::NoFocus)
             return QAccessible::StaticText;
         if (qobject_cast<const QLineEdit*>(control) || qobject_cast<const QTextEdit*>(control)
             || qobject_cast<const QPlainTextEdit*>(control)

@@ -29,8 +29,10 @@ private slots:
     void everyNewExerciseIsSpoken_data()
     {
         QTest::addColumn<QString>("name");
-        for (const QString& name : {u"Form3"_s, u"Form4"_s, u"Form6"_s, u"FRMCombi"_s,
-                 u"FrmMultHuecos"_s, u"FrmMultidivi"_s, u"FormProblemas"_s})
+        // The tables go on by themselves from a right answer, quick tables and games have clocks:
+        // each is tried by itself below.
+        for (const QString& name :
+            activityScreensBut({u"Form2"_s, u"Form5"_s, u"Form8"_s, u"FrmCarrera"_s}))
             QTest::newRow(qPrintable(name)) << name;
     }
     void everyNewExerciseIsSpoken()
@@ -47,16 +49,20 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("verdict");
-        QTest::newRow("Form3") << u"Form3"_s << u"resultado incorrecto"_s;
-        QTest::newRow("Form4") << u"Form4"_s << u"Respuesta incorrecta"_s;
-        QTest::newRow("Form6") << u"Form6"_s << u"Resultado incorrecto"_s;
-        QTest::newRow("FRMCombi") << u"FRMCombi"_s << u"Resultado incorrecto"_s;
-        QTest::newRow("FrmMultHuecos") << u"FrmMultHuecos"_s << u"Respuesta incorrecta"_s;
-        QTest::newRow("FormProblemas") << u"FormProblemas"_s << u"Respuesta incorrecta"_s;
+        const QMap<QString, QString> verdicts{{u"Form3"_s, u"resultado incorrecto"_s},
+            {u"Form4"_s, u"Respuesta incorrecta"_s}, {u"Form6"_s, u"Resultado incorrecto"_s},
+            {u"FRMCombi"_s, u"Resultado incorrecto"_s},
+            {u"FrmMultHuecos"_s, u"Respuesta incorrecta"_s},
+            {u"FormProblemas"_s, u"Respuesta incorrecta"_s}};
+        // Those left out are tried by themselves below.
+        for (const QString& name : activityScreensBut(
+                 {u"Form2"_s, u"Form5"_s, u"Form8"_s, u"FrmCarrera"_s, u"FrmMultidivi"_s}))
+            QTest::newRow(qPrintable(name)) << name << verdicts.value(name);
     }
     void everyVerdictIsSpokenAgainAndAgain()
     {
         QFETCH(QString, verdict);
+        QVERIFY2(!verdict.isEmpty(), "what it says of a wrong answer is to be listed above");
         ui::Screen& screen = open();
         heard();
         for (int times = 0; times < 2; ++times) {
@@ -84,8 +90,9 @@ private slots:
     void exercisesAreSpokenAgainByKey_data()
     {
         QTest::addColumn<QString>("name");
-        for (const QString& name : {u"Form2"_s, u"Form4"_s, u"FormProblemas"_s,
-                 u"FrmMultHuecos"_s, u"FRMCombi"_s, u"FrmMultidivi"_s})
+        // On squared paper the place is said too; quick tables and games have clocks.
+        for (const QString& name :
+            activityScreensBut({u"Form3"_s, u"Form5"_s, u"Form6"_s, u"Form8"_s, u"FrmCarrera"_s}))
             QTest::newRow(qPrintable(name)) << name;
     }
     void exercisesAreSpokenAgainByKey()
@@ -265,6 +272,26 @@ private slots:
         QCOMPARE(heard(), {});
         makeActive(screen);
         QCOMPARE(heard(), {u"detrás"_s});
+    }
+
+    void noNameIsToldWithItsAccessKey_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const QString& name : {u"Form3"_s, u"FRMCombi"_s, u"DLGProblemas"_s})
+            QTest::newRow(qPrintable(name)) << name;
+    }
+    void noNameIsToldWithItsAccessKey()
+    {
+        static QStringList names;
+        names.clear();
+        QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            if (event->type() == QAccessible::NameChanged)
+                names << event->accessibleInterface()->text(QAccessible::Name);
+        });
+        open();
+        listenToSpeech();
+        QVERIFY(!names.isEmpty());
+        QCOMPARE(names.filter(u"&"_s), {});
     }
 
 private:

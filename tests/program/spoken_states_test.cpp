@@ -92,8 +92,7 @@ private:
             program->screens.show(name);
             runPendingEvents();
         }
-        for (const QString& dialog :
-            {u"DlgCarrera"_s, u"Dialog"_s, u"DLGProblemas"_s, u"DLGSelProb"_s}) {
+        for (const QString& dialog : dialogs()) {
             ui::Screen* open = program->screens.loaded(dialog);
             if (open != nullptr && open->isVisible())
                 accept(*open);

@@ -33,8 +33,6 @@ enum class Class {
 };
 constexpr std::array ClassNames{"work", "aside", "squared"};
 
-const QStringList Dialogs{u"Dialog"_s, u"DLGProblemas"_s, u"DLGSelProb"_s, u"DlgCarrera"_s};
-
 /// What stands aside on the screens of activities.
 const QStringList Asides{u"Form3.Text2"_s, u"Form4.tbResultados"_s,
     u"Form6.tbResultados"_s, // counters
@@ -79,7 +77,7 @@ Class classOf(const ui::Screen& screen, const QWidget& part)
         || dynamic_cast<const written::WorkArea*>(&part) != nullptr)
         return Class::Squared;
     const bool aside = qobject_cast<const QMenuBar*>(&part) != nullptr
-        || Dialogs.contains(screen.objectName())
+        || dialogs().contains(screen.objectName())
         || Asides.contains(screen.objectName() + u'.' + nameOf(part));
     return aside ? Class::Aside : Class::Work;
 }

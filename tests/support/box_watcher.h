@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/pending_events.h"
 #include "ui/handler_guard.h"
 
 #include <QCoreApplication>
@@ -56,6 +57,7 @@ private:
         const QPointer<QDialog> box = *up;
         m_expected.erase(up);
         m_isUp(*box);
+        remindOuterLoops(); // keys that a test sends let events run
     }
 
     static bool isUp(const QDialog& box)

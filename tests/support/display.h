@@ -20,13 +20,15 @@ inline QByteArray displayOf(const QList<QByteArray>& size)
 template <typename Test> int runOnDisplay(int argc, char* argv[])
 {
     const bool sized = argc > 1 && QByteArray(argv[1]).contains('x') && argv[1][0] != '-';
-    QTemporaryFile description;
+    // In the current folder: the platform takes the colon of a drive for the end of a name.
+    QTemporaryFile description(QStringLiteral("display"));
     if (sized) {
         if (!description.open()
             || description.write(displayOf(QByteArray(argv[1]).split('x'))) <= 0)
             return 1;
         description.close();
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toUtf8());
+        qputenv("QT_QPA_PLATFORM",
+            "offscreen:configfile=" + QFileInfo(description).fileName().toUtf8());
     }
     ui::ignoreDesktopSettings();
     QApplication application(argc, argv);

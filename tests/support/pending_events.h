@@ -5,6 +5,13 @@
 #include <QEvent>
 #include <QEventLoop>
 
+/// Makes loops of events further out look whether they have been told to end: on Windows they
+/// forget it when events run within one of their events, and would wait for the next message.
+inline void remindOuterLoops()
+{
+    QAbstractEventDispatcher::instance()->wakeUp();
+}
+
 /// Lets all happen that is pending, and what waits to be destroyed go, however deep in event
 /// loops the test is.
 inline void runPendingEvents()
@@ -12,6 +19,5 @@ inline void runPendingEvents()
     constexpr int LongEnough = 1000; // milliseconds, if something were always pending
     QCoreApplication::processEvents(QEventLoop::AllEvents, LongEnough);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    // A loop further out that has been told to end must look: on Windows it forgets it here.
-    QAbstractEventDispatcher::instance()->wakeUp();
+    remindOuterLoops();
 }

@@ -41,3 +41,29 @@ inline QStringList activityScreens()
         names << activity.screen;
     return names;
 }
+
+/// The same without some, each of which must be one.
+inline QStringList activityScreensBut(const QStringList& left)
+{
+    QStringList names = activityScreens();
+    for (const QString& name : left) {
+        if (!names.removeOne(name))
+            qFatal("%s is no activity", qPrintable(name));
+    }
+    return names;
+}
+
+/// The dialogs that activities open: every screen but theirs and the menu.
+inline const QStringList& dialogs()
+{
+    static const QStringList names = [] {
+        QStringList others = screenNames();
+        others.removeOne(QStringLiteral("Form1"));
+        for (const shell::Activity& activity : activities())
+            others.removeOne(activity.screen);
+        if (others.isEmpty())
+            qFatal("no dialogs");
+        return others;
+    }();
+    return names;
+}

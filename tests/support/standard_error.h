@@ -12,11 +12,13 @@ public:
     StandardError()
         : m_before(dup(fileno(stderr)))
     {
-        m_kept.open();
+        if (!m_kept.open())
+            qFatal("nothing keeps the standard error");
         dup2(m_kept.handle(), fileno(stderr));
     }
     ~StandardError()
     {
+        std::fflush(stderr);
         dup2(m_before, fileno(stderr));
         close(m_before);
     }
@@ -25,8 +27,10 @@ public:
 
     QString text() const
     {
+        std::fflush(stderr); // it has a buffer in some systems' runtime, when it is a file
         QFile file(m_kept.fileName());
-        file.open(QIODevice::ReadOnly | QIODevice::Text);
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+            qFatal("%s cannot be read", qPrintable(file.fileName()));
         return QString::fromUtf8(file.readAll());
     }
 

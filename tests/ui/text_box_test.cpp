@@ -68,6 +68,15 @@ private slots:
         QCOMPARE(shown->text(QAccessible::Value), u"12"_s);
     }
 
+    void shownTextThatMayHaveTheFocusIsABoxToAssistiveTools()
+    {
+        screen->shown->allowFocus(Qt::TabFocus);
+        QAccessibleInterface* shown = QAccessible::queryAccessibleInterface(screen->shown);
+        QCOMPARE(shown->role(), QAccessible::EditableText);
+        QVERIFY(shown->state().readOnly && !shown->state().editable);
+        QVERIFY(shown->editableTextInterface() == nullptr);
+    }
+
     void assistiveToolsHearOnlyOfWhatTheWriterSelects()
     {
         ui::TextBox& entry = *screen->entry;
