@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QTextEdit>
+#include <QtTest>
 
 #include <algorithm>
 
@@ -44,8 +45,11 @@ void photographSelection(gallery::Stage& stage, const QStringList& chosen)
 {
     stage.pick(u"MnuOpcSel"_s);
     ui::Screen& dialog = *stage.screens().loaded(u"DLGSelProb"_s);
-    for (const QString& name : chosen)
-        dialog.findChild<QAbstractButton*>(name)->click();
+    for (const QString& name : chosen) {
+        auto* option = dialog.findChild<QAbstractButton*>(name);
+        const int sign = option->height() / 2; // in the middle of its square or circle
+        QTest::mouseClick(option, Qt::LeftButton, {}, {sign, sign});
+    }
     stage.photographScreen(dialog);
 }
 

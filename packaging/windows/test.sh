@@ -15,19 +15,19 @@ check_imports() {
   [ -z "$strange" ] || { echo "not on every Windows: $strange" >&2 && return 1; }
 }
 
-# The toolkit's display without windows reads its fonts from one folder.
+# The toolkit's display without windows reads its fonts from one folder: those that stand in for
+# the ones of Windows, and the one that the archive brings.
 gather_fonts() {
   local file
+  rm -rf "$windows_build/fonts"
   mkdir -p "$windows_build/fonts"
-  for file in /usr/share/fonts/truetype/{liberation,dejavu,andika}*/*.ttf \
-      /usr/share/fonts/opentype/urw-base35/NimbusMonoPS-*.otf; do
+  for file in /usr/share/fonts/truetype/{liberation,dejavu,andika}*/*.ttf; do
     ln -sf "$file" "$windows_build/fonts"
   done
 }
 
 configure_windows wine wine64 unzip xvfb openbox dbus-daemon dbus-bin at-spi2-core xdotool \
-  x11-xkb-utils imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika \
-  fonts-urw-base35
+  x11-xkb-utils imagemagick fonts-liberation fonts-dejavu-core fonts-sil-andika
 build_windows all
 check_imports
 gather_fonts

@@ -17,17 +17,20 @@ namespace {
 // Twips.
 constexpr double Margin = 240;
 constexpr double Width = RaceScene::Width + 2 * Margin;
-constexpr double Top = 180;
-constexpr double OperationTop = 600;
+constexpr double Top = 120;
+constexpr double KeypadTop = 45; // it ends above the sky
+constexpr double OperationTop = 525;
 constexpr double OperationHeight = 840;
 constexpr double AnswerLeft = 6450;
-constexpr double VerdictTop = 1530;
+constexpr double VerdictTop = 1455;
 constexpr double VerdictHeight = 540; // of the disc
-constexpr double SceneTop = 2100;
-constexpr double CommandTop = SceneTop + RaceScene::Height + 240;
+constexpr double SceneTop = 2055;
+constexpr double TrayMargin = 180; // around the buttons
+constexpr double TrayGap = 100; // above and below the tray
+constexpr double CommandTop = SceneTop + RaceScene::Height + TrayGap + TrayMargin;
 constexpr double CommandWidth = 2520;
 constexpr double CommandHeight = 560;
-constexpr double Height = CommandTop + CommandHeight + 240;
+constexpr double Height = CommandTop + CommandHeight + TrayMargin + TrayGap;
 
 constexpr int Second = 1000; // milliseconds
 
@@ -87,7 +90,7 @@ void FrmCarrera::makeRow()
 
 void FrmCarrera::makeKeypad()
 {
-    m_keypad = new RaceKeypad(*this, {Width - Margin, Top}, this);
+    m_keypad = new RaceKeypad(*this, {Width - Margin, KeypadTop}, this);
     on(m_keypad, &RaceKeypad::pressed, &FrmCarrera::CBCalcu_Click);
     on(m_keypad, &RaceKeypad::showPressed, &FrmCarrera::CBConmutar_Click);
 }

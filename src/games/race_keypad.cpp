@@ -16,6 +16,7 @@ constexpr int Columns = 3;
 constexpr int Rows = 5; // the first holds the key that hides the keypad
 constexpr double KeySize = 400; // twips, as all measures here; keys touch, as large as may be
 constexpr double KeypadWidth = Columns * KeySize;
+constexpr double ShowTop = 75; // below the keypad's upper edge
 constexpr double ShowWidth = 780;
 constexpr double ShowHeight = 660;
 
@@ -56,7 +57,8 @@ RaceKeypad::RaceKeypad(ui::ControlFactory& factory, QPointF upperRight, QObject*
           {upperRight.x() - KeypadWidth, upperRight.y(), KeypadWidth, Rows * KeySize}))
     , CBConmutar(factory.add(new RaceKeypadButton(RaceKeypadButton::Drawing::Keys,
                                  u"Mostrar el teclado"_s, factory.canvas()),
-          u"CBConmutar"_s, {upperRight.x() - ShowWidth, upperRight.y(), ShowWidth, ShowHeight}))
+          u"CBConmutar"_s,
+          {upperRight.x() - ShowWidth, upperRight.y() + ShowTop, ShowWidth, ShowHeight}))
 {
     PBTeclado->hide();
     CBCalcu[HideKey] = factory.add(new RaceKeypadButton(RaceKeypadButton::Drawing::Cross,

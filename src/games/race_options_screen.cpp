@@ -19,7 +19,7 @@ namespace {
 constexpr double LargestPicture = 540; // wide; a wider one is shown so wide
 
 constexpr double Margin = 240;
-constexpr double LabelTop = 90;
+constexpr double LabelTop = 45; // the ring of a focused list lies below
 constexpr double LabelHeight = 390;
 constexpr double ListTop = 480;
 constexpr double CarListWidth = 4350;

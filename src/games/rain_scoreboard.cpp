@@ -26,7 +26,7 @@ constexpr QRgb Moonlight = 0xFFF3F5FF; // texts on the sky
 constexpr QRgb Panel = 0xFF10172C;
 
 constexpr ui::look::Font ScoreFont{Family::CourierNew, 17, true};
-constexpr ui::look::Font InstructionFont{Family::CourierNew, 17};
+constexpr ui::look::Font InstructionFont{Family::CourierNew, 17, true};
 
 QPalette textOn(QPalette palette, QRgb fill, QRgb text)
 {

@@ -19,7 +19,7 @@ namespace {
 constexpr double Width = 13800;
 constexpr double Margin = 240;
 constexpr double Gap = 120;
-constexpr double Top = 90;
+constexpr double Top = 120;
 constexpr double ListWidth = 4980;
 constexpr double FormLeft = Margin + ListWidth + 360;
 constexpr double FormWidth = Width - Margin - FormLeft;

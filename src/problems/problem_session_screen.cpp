@@ -7,6 +7,7 @@
 #include "problems/selection_screen.h"
 #include "problems/statement_box.h"
 #include "ui/ground.h"
+#include "ui/quiet_text.h"
 #include "ui/screens.h"
 
 #include <QAction>
@@ -57,13 +58,6 @@ constexpr ui::look::Font AnswerFont{Family::Andika, 26, true};
 constexpr ui::look::Font CaptionFont{Family::Andika, 18, true};
 constexpr ui::look::Font UnitFont{Family::Andika, 20};
 
-void makeQuiet(QLabel& label)
-{
-    QPalette colours = label.palette();
-    colours.setColor(QPalette::WindowText, QColor(ui::look::Quiet));
-    label.setPalette(colours);
-}
-
 } // namespace
 
 QString FormProblemas::screenName()
@@ -83,7 +77,7 @@ FormProblemas::FormProblemas(ui::Screens& screens)
     // No numbers before the first check: meant.
     LBEstado = label(u"LBEstado"_s, u"Ejercicios:   Errores:   "_s,
         {Margin, CountersTop, FullWidth, CountersHeight}, ui::look::Counters);
-    makeQuiet(*LBEstado);
+    new ui::QuietText(LBEstado);
 }
 
 void FormProblemas::makeMenu()
@@ -118,7 +112,7 @@ void FormProblemas::makeBoxes()
     LBUnidad = label(u"LBUnidad"_s, QString(),
         {UnitLeft, AnswerTop, Width - Margin - UnitLeft, AnswerHeight}, UnitFont);
     LBUnidad->setWordWrap(true);
-    makeQuiet(*LBUnidad);
+    new ui::QuietText(LBUnidad);
 
     TBCorrecto = verdictBox(u"TBCorrecto"_s,
         {Axis, VerdictTop, Width - Margin - Axis, VerdictHeight}, u"Comprobación"_s);

@@ -14,15 +14,17 @@ namespace {
 
 // In twips, from the top of the form.
 constexpr double Gap = 120;
+constexpr double GroupGap = 195; // before the caption of the next field
 constexpr double BoxHeight = 510;
 constexpr double CommandHeight = 510;
 constexpr double InsertWidth = 3240;
 constexpr double StatementTop = TemplateForm::LabelStep;
-constexpr double StatementHeight = 1860;
+constexpr double StatementHeight = 1740; // four lines
 constexpr double StatementInserts = StatementTop + StatementHeight + Gap;
-constexpr double AnswerTop = StatementInserts + CommandHeight + Gap + TemplateForm::LabelStep;
+constexpr double AnswerTop =
+    StatementInserts + CommandHeight + GroupGap + TemplateForm::LabelStep;
 constexpr double AnswerInserts = AnswerTop + BoxHeight + Gap;
-constexpr double UnitTop = AnswerInserts + CommandHeight + Gap + TemplateForm::LabelStep;
+constexpr double UnitTop = AnswerInserts + CommandHeight + GroupGap + TemplateForm::LabelStep;
 static_assert(UnitTop + BoxHeight == TemplateForm::Height);
 
 constexpr ui::look::Font FieldFont{ui::look::Family::Andika, 15};

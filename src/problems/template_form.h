@@ -25,7 +25,7 @@ public:
     static constexpr double LabelHeight = 345;
     static constexpr double LabelStep = LabelHeight + 60; ///< from a caption to its box
     static constexpr double FreeWidth = 4800; ///< at the right of the first caption
-    static constexpr double Height = 5595;
+    static constexpr double Height = 5625;
 
     /// Makes its controls with a factory, which must outlive it, in the order in which Tab goes
     /// through them.

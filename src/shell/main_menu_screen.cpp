@@ -90,8 +90,8 @@ void Form1::Form_QueryUnload()
 void Form1::MnuAce_Click()
 {
     ui::MessageBox::show(*this,
-        u"Pizarrin: multiplicar y dividir en la escuela primaria.\r\n"
-        "Programa, dibujos y problemas son libres: se pueden usar, copiar y cambiar (licencia MIT)."_s);
+        u"Pizarrin: multiplicar y dividir en primaria.\r\n"
+        "Se puede usar, copiar y cambiar (licencia MIT)."_s);
 }
 
 } // namespace shell

@@ -30,7 +30,7 @@ public:
 protected:
     void highlightBlock(const QString& line) override
     {
-        setFormat(0, static_cast<int>(line.indexOf(u'=')) + 1, QColor(ui::look::Quiet));
+        setFormat(0, static_cast<int>(line.indexOf(u'=')) + 1, ui::look::quiet());
     }
 };
 
@@ -99,7 +99,7 @@ PosterHalf::PosterHalf(Side side, QWidget* parent)
     m_rows = new RowLayout(text);
     text->setDocumentLayout(m_rows);
     setDocument(text);
-    new FactorsQuieter(text);
+    m_quieter = new FactorsQuieter(text);
     setReadOnly(true);
     setLineWrapMode(NoWrap);
     setFrameShape(NoFrame);
@@ -113,6 +113,13 @@ void PosterHalf::setFactor(double factor)
     Memo::setFactor(factor);
     document()->setDocumentMargin(0);
     layOutRows();
+}
+
+bool PosterHalf::event(QEvent* event)
+{
+    if (event->type() == ui::look::contrastEvent())
+        m_quieter->rehighlight();
+    return Memo::event(event);
 }
 
 void PosterHalf::changeEvent(QEvent* event)

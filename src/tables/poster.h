@@ -2,6 +2,8 @@
 
 #include "ui/memo.h"
 
+class QSyntaxHighlighter;
+
 namespace tables {
 
 class RowLayout;
@@ -32,6 +34,7 @@ public:
     void setFactor(double factor) override;
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -40,6 +43,7 @@ private:
 
     Side m_side;
     RowLayout* m_rows;
+    QSyntaxHighlighter* m_quieter = nullptr; ///< of what comes before the product
 };
 
 } // namespace tables

@@ -122,8 +122,13 @@ void Form8::showVerdict(shell::Verdict verdict)
         TBResul->setPatch(text, Mark::Right, QColor(ui::look::Green));
         return;
     }
-    QApplication::beep();
+    beep();
     TBResul->setPatch(text, Mark::Wrong, QColor(ui::look::Red));
+}
+
+void Form8::beep()
+{
+    QApplication::beep();
 }
 
 void Form8::showOperation()

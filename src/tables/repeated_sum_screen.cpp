@@ -18,10 +18,11 @@ namespace {
 constexpr double Width = 4680;
 constexpr double Height = 7590;
 
-constexpr ui::look::Font MessageFont{Family::Arial, 14};
 constexpr ui::look::Font SumFont{Family::Arial, 20, true};
 constexpr ui::look::Font FactorFont{Family::Arial, 26, true};
-// The given places are narrow: these are the largest that fit them.
+// The given places are narrow: these are the largest that fit them. On Windows, where letters
+// stand on whole pixels, those of Arial take more room.
+constexpr ui::look::Font MessageFont{Family::Arial, 14, false, 95};
 constexpr ui::look::Font VerdictFont{Family::Andika, 14, true};
 constexpr double VerdictMark = 26;
 constexpr ui::look::Font CommandFont{Family::Andika, 14, false, 93};

@@ -1,5 +1,7 @@
 #include "ui/control_factory.h"
 
+#include "ui/quiet_text.h"
+
 using namespace Qt::StringLiterals;
 
 namespace ui {
@@ -39,9 +41,7 @@ TextBox* ControlFactory::countersBox(
     const QString& name, const TwipRect& place, const QString& text, const look::Font& font)
 {
     TextBox* box = displayBox(name, place, font, u"Ejercicios y errores"_s, text);
-    QPalette quiet = box->palette();
-    quiet.setColor(QPalette::Text, QColor(look::Quiet));
-    box->setPalette(quiet);
+    new QuietText(box);
     return box;
 }
 

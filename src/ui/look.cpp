@@ -52,13 +52,27 @@ Contrast contrastOfApplication()
 void setContrast(Contrast contrast)
 {
     QApplication::setPalette(palette(contrast));
-    for (QWidget* widget : QApplication::allWidgets())
+    QEvent changed(contrastEvent());
+    for (QWidget* widget : QApplication::allWidgets()) {
+        QCoreApplication::sendEvent(widget, &changed);
         widget->update();
+    }
+}
+
+QEvent::Type contrastEvent()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
 }
 
 QColor paper()
 {
     return contrastOfApplication() == Contrast::High ? QColor(Qt::white) : QColor(Paper);
+}
+
+QColor quiet()
+{
+    return contrastOfApplication() == Contrast::High ? QColor(Ink) : QColor(Quiet);
 }
 
 double thick(double width)

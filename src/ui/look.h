@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QEvent>
 #include <QFont>
 #include <QPalette>
 
@@ -15,7 +16,7 @@ inline constexpr QRgb CardFocused = 0xFFFFFBEA; ///< the entry box that is typed
 
 // What is written and drawn on them.
 inline constexpr QRgb Ink = 0xFF16202B; ///< text, digits, lines of an operation
-inline constexpr QRgb Quiet = 0xFF55616E; ///< units, counters, disabled labels
+inline constexpr QRgb Quiet = 0xFF55616E; ///< disabled labels; units and counters: see quiet()
 inline constexpr QRgb Edge = 0xFF7E8A96; ///< edges of boxes
 inline constexpr QRgb Grid = 0xFFCFE2F0; ///< squares of squared paper
 inline constexpr QRgb Chalk = 0xFFFAF7F0; ///< text on slate
@@ -67,7 +68,7 @@ inline constexpr Font BoxText{Family::Andika, 18}; ///< of message and input box
 /// a family loads what travels beside the executable, where the system lacks it.
 QFont scaled(const Font& font, double factor);
 
-/// High: paper is white, edges and marks are twice as thick.
+/// High: paper is white, edges and marks are twice as thick, quiet texts are of ink.
 enum class Contrast { Usual, High };
 
 /// Of the application's palette.
@@ -76,8 +77,14 @@ Contrast contrastOfApplication();
 /// Gives the application and what stands on the display a contrast.
 void setContrast(Contrast contrast);
 
+/// Every widget is sent it when a contrast has been set.
+QEvent::Type contrastEvent();
+
 /// Where work is read and written.
 QColor paper();
+
+/// Texts that stand back, see QuietText.
+QColor quiet();
 
 /// How thick an edge or a mark is drawn, in pixels at factor 1, that usually is so thick.
 double thick(double width);

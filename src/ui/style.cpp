@@ -7,6 +7,7 @@
 #include "ui/look.h"
 #include "ui/opening_factor.h"
 #include "ui/scaling.h"
+#include "ui/scroll_bar.h"
 
 #include <QAccessible>
 #include <QDialog>
@@ -14,6 +15,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -56,6 +58,8 @@ Style::Style()
 void Style::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
+    if (qobject_cast<QScrollBar*>(widget) != nullptr)
+        widget->setAttribute(Qt::WA_OpaquePaintEvent, false); // its box shows beside the handle
     // A context menu and a tool tip are windows: they inherit no font from their text box.
     const bool hasFont = widget->testAttribute(Qt::WA_SetFont); // as the menus of a bar have
     if ((qobject_cast<QMenu*>(widget) != nullptr && !hasFont) || widget->inherits("QTipLabel"))
@@ -125,6 +129,26 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         }
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+    QPainter* painter, const QWidget* widget) const
+{
+    if (control != CC_ScrollBar) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    const QRect handle = subControlRect(control, option, SC_ScrollBarSlider, widget);
+    drawScrollHandle(*painter, *option, handle, factorOf(widget));
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+    SubControl part, const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && bar != nullptr)
+        return partOfScrollBar(*bar, part, pixelMetric(PM_ScrollBarSliderMin, option, widget));
+    return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 int Style::pixelMetric(

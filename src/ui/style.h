@@ -18,6 +18,10 @@ public:
         const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+        QPainter* painter, const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+        SubControl part, const QWidget* widget) const override;
     int pixelMetric(
         PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     QIcon standardIcon(

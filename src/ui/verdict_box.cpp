@@ -4,11 +4,11 @@
 #include "ui/ground.h"
 #include "ui/look.h"
 #include "ui/marks.h"
+#include "ui/quiet_text.h"
 
 #include <QPainter>
 
 #include <algorithm>
-#include <utility>
 
 namespace ui {
 
@@ -34,6 +34,7 @@ Pose poseFor(VerdictBox::Mark mark)
 
 VerdictBox::VerdictBox(QWidget* parent)
     : TextBox(Kind::Display, parent)
+    , m_quiet(new QuietText(this, false))
 {
     makeRoom();
 }
@@ -83,8 +84,7 @@ void VerdictBox::setVerdict(const QString& text, Mark mark)
 void VerdictBox::change(const QString& text, Mark mark)
 {
     m_mark = mark;
-    if (m_palette)
-        setPalette(*std::exchange(m_palette, std::nullopt));
+    m_quiet->setQuiet(false);
     setText(text);
     edgeJudged();
     Ground::pose(*this, poseFor(mark));
@@ -96,11 +96,7 @@ void VerdictBox::retire()
     m_mark = Mark::None;
     edgeJudged();
     Ground::pose(*this, Pose::Waiting);
-    if (!m_palette)
-        m_palette = palette();
-    QPalette quiet = *m_palette;
-    quiet.setColor(QPalette::Text, QColor(look::Quiet));
-    setPalette(quiet);
+    m_quiet->setQuiet(true);
     update();
 }
 

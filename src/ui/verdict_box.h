@@ -4,10 +4,11 @@
 
 #include <QPointer>
 
-#include <optional>
 #include <vector>
 
 namespace ui {
+
+class QuietText;
 
 /// The line that says how a check came out: a disc with a tick or a cross at its left, the
 /// text exactly as given, and a gold star behind it when it was right. The box that was judged
@@ -50,7 +51,7 @@ private:
     Mark m_mark = Mark::None;
     double m_markSize = 36;
     std::vector<QPointer<TextBox>> m_judged;
-    std::optional<QPalette> m_palette; ///< of the next verdict, while one is retired
+    QuietText* m_quiet; ///< while a verdict is retired
 };
 
 } // namespace ui

@@ -2,6 +2,7 @@
 
 #include "core/clock.h"
 #include "core/numbers.h"
+#include "ui/quiet_text.h"
 #include "ui/screens.h"
 #include "written/scratch_area.h"
 
@@ -22,8 +23,9 @@ constexpr double AnswerHeight = 780;
 constexpr double LabelWidth = 2100;
 constexpr double VerdictWidth = 4200;
 constexpr double TrayMargin = 180; // around the buttons
-constexpr double CommandWidth = 2440;
-constexpr double CommandPitch = CommandWidth + 120;
+constexpr double CommandGap = 120;
+constexpr double CommandWidth = (FullWidth - 2 * TrayMargin - 3 * CommandGap) / 4;
+constexpr double CommandPitch = CommandWidth + CommandGap;
 constexpr double CommandTop = 5760;
 constexpr double CommandHeight = 600;
 constexpr double Height = CommandTop + CommandHeight + 2 * TrayMargin;
@@ -36,8 +38,8 @@ ui::TwipRect centred(double top, double width, double height)
 
 ui::TwipRect commandPlace(int position)
 {
-    constexpr double Left = (Width - 3 * CommandPitch - CommandWidth) / 2;
-    return {Left + position * CommandPitch, CommandTop, CommandWidth, CommandHeight};
+    return {
+        Margin + TrayMargin + position * CommandPitch, CommandTop, CommandWidth, CommandHeight};
 }
 
 constexpr ui::look::Font ExpressionFont{Family::CourierNew, 32, true};
@@ -89,6 +91,7 @@ void FRMCombi::makeAnswer()
     TBResultado = entryBox(u"TBResultado"_s, centred(AnswerTop, AnswerWidth, AnswerHeight),
         AnswerFont, u"Resultado"_s);
     TBResultado->setAlignment(Qt::AlignCenter);
+    m_past = new ui::QuietText(TBResultado, false);
     enterChecks(TBResultado);
     on(TBResultado, &QLineEdit::textChanged, [this] { showAnswerAsPast(false); });
     const double answerLeft = (Width - AnswerWidth) / 2;
@@ -123,14 +126,12 @@ void FRMCombi::newExercise()
 /// The answer to an expression that has gone stays, faded, until it is changed or judged anew.
 void FRMCombi::showAnswerAsPast(bool past)
 {
-    QPalette palette = ui::look::palette();
-    if (past) {
-        const QColor quiet(ui::look::Quiet);
-        palette.setColor(QPalette::Text, quiet);
-        palette.setColor(QPalette::Highlight, ui::look::displayed().color(QPalette::Highlight));
-        palette.setColor(QPalette::HighlightedText, quiet);
-    }
-    TBResultado->setPalette(palette);
+    m_past->setQuiet(false);
+    QPalette colours = ui::look::palette();
+    if (past)
+        colours.setColor(QPalette::Highlight, QColor(ui::look::Marker));
+    TBResultado->setPalette(colours);
+    m_past->setQuiet(past);
 }
 
 void FRMCombi::check()

@@ -3,6 +3,10 @@
 #include "shell/exercise_screen.h"
 #include "written/combined_operations.h"
 
+namespace ui {
+class QuietText;
+}
+
 namespace written {
 
 class ScratchArea;
@@ -32,6 +36,7 @@ private:
     ui::TextBox* TBOperacion = nullptr; ///< the expression
     ScratchArea* TBCalculos = nullptr; ///< the pupil's own sums, judged by nobody
     ui::TextBox* TBResultado = nullptr; ///< the answer
+    ui::QuietText* m_past = nullptr; ///< while the answer is that to an expression that has gone
     ui::VerdictBox* Text1 = nullptr; ///< the verdict
 };
 

@@ -2,6 +2,7 @@
 
 #include "core/defect.h"
 #include "ui/control_factory.h"
+#include "ui/quiet_text.h"
 #include "ui/rule.h"
 #include "ui/squared_box.h"
 #include "ui/squared_paper.h"
@@ -133,9 +134,7 @@ void MultiplicationBoard::makeSigns()
     LabX = m_controls.label(u"LabX"_s, u"&X"_s,
         {SignLeft, RowsTop - RowHeight, SignWidth, RowHeight}, QuietSignFont, row(0));
     LabX->setAccessibleName(row(0)->accessibleName()); // readers call the box by its label
-    QPalette quiet = LabX->palette();
-    quiet.setColor(QPalette::WindowText, QColor(ui::look::Quiet));
-    LabX->setPalette(quiet);
+    new ui::QuietText(LabX);
     for (QLabel* sign : {labIgual, LabX})
         sign->setAlignment(Qt::AlignCenter);
 }

@@ -130,7 +130,7 @@ private slots:
         bench->click(u"CbEmpezar"_s);
         QElapsedTimer clock;
         clock.start();
-        QTRY_VERIFY(drop(0).isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(drop(0).isVisible(), 60000);
         QVERIFY(clock.elapsed() >= 6 * 290);
         timer(1).stop();
     }

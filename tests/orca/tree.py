@@ -19,16 +19,21 @@ LIMIT = 60  # seconds for a window to come up and for the focus to move
 ENGLISH = {"ok", "cancel", "close", "help", "open", "save", "yes", "options", "menu"}
 
 MENU = "PIZARRIN"
-# The caption of the button that opens a screen, and the keys that lead on to dialogs of it.
+# The caption of the button that opens a screen, and the keys that lead on to dialogs of it, each
+# with the item of a menu that has the focus then.
 SCREENS = [
     ("Suma repetida", []),
     ("Tablas de multiplicar", []),
     ("Tablas rápidas", []),
     ("Completa el hueco", []),
     ("Múltiplos y divisores", []),
-    ("Multiplicaciones", [["alt+o", "s", "s"]]),
+    ("Multiplicaciones", [[("alt+o", "Cifras factor 1"), ("s", "Cualquiera"), ("s", None)]]),
     ("Divisiones", []),
-    ("Problemas", [["alt+o", "g"], ["alt+o", "s", "Return"]]),  # two items have the S
+    ("Problemas", [
+        [("alt+o", "Gestión de problemas..."), ("g", None)],
+        [("alt+o", "Gestión de problemas..."), ("s", "Seleccionar problemas..."),
+         ("Return", None)],  # two items have the S
+    ]),
     ("Operaciones combinadas", []),
     ("Lluvia de números", []),
 ]
@@ -135,6 +140,20 @@ def press_tab(before):
                 f"Tab does not lead on from {described(before)}")
 
 
+def press_in_menus(window, keys):
+    """A menu that is about to come up does not take its keys yet."""
+    for key, item in keys:
+        press(key)
+        if item is not None:
+            wait(lambda: item in chosen_items(window), f"{key} does not lead to {item!r}")
+
+
+def chosen_items(window):
+    return [control.get_name() for control in shown(window)
+            if control.get_role() == Role.MENU_ITEM
+            and control.get_state_set().contains(State.FOCUSED)]
+
+
 def tab_order(window):
     order = [wait(lambda: focused(window), f"nothing has the focus in {window.get_name()!r}")]
     stops = sum(control.get_role() in FOCUSED_KINDS
@@ -186,7 +205,7 @@ class Walk:
         title = window.get_name()
         self.read(window)
         for keys in dialogs:
-            press(*keys)
+            press_in_menus(window, keys)
             dialog = goes_to(title)
             self.read(dialog)
             self.close(dialog.get_name())

@@ -237,6 +237,7 @@ private:
             click(*screen, u"Command2(2)"_s);
             return;
         }
+        screen->setUpdatesEnabled(false); // hundreds of them would be painted
         const auto& statement = ScreenBench::find<QTextEdit>(*screen, u"TBEnunciado"_s);
         const auto length = [&] { return statement.toPlainText().size(); };
         qsizetype longest = length();
@@ -244,6 +245,7 @@ private:
             click(*screen, u"Command2(0)"_s);
         for (int i = 0; i < 2000 && length() < longest; ++i)
             click(*screen, u"Command2(0)"_s);
+        screen->setUpdatesEnabled(true);
         QVERIFY(length() >= longest);
     }
 

@@ -83,6 +83,20 @@ private slots:
         QVERIFY(std::abs(menu->width() - 11000 * pixels) < 1);
     }
 
+    void buttonsStandInTwoColumns()
+    {
+        constexpr double Row = 4140; // half of what the menu bar leaves of the height
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(button(i).geometry(),
+                ui::toPixels({500.0 + 5000 * (i % 2), Row * (i / 2) + Row / 10, 5000, Row * 0.8},
+                    menu->factor()));
+    }
+
+    void comingUpSeedsAndDrawsNothing()
+    {
+        QVERIFY(bench->random.seeds.empty()); // a draw would have ended the test: there is none
+    }
+
     void activitiesOpenModallyAndProblemsBeside()
     {
         QTest::mouseClick(&button(0), Qt::LeftButton);
@@ -119,6 +133,12 @@ private slots:
     void aboutBoxHasTwoLinesAndNoVersion()
     {
         BoxAnswerer boxes(u"Aceptar"_s);
+        boxes.whileOpen = [](QDialog& box) { // both lines are seen whole
+            const auto& label = ScreenBench::find<QLabel>(box, u"qt_msgbox_label"_s);
+            for (const QString& line : label.text().split(u"\r\n"_s))
+                QVERIFY2(label.fontMetrics().horizontalAdvance(line) <= label.width(),
+                    qPrintable(line));
+        };
         menu->findChild<QAction*>(u"MnuAce"_s)->trigger();
         QCOMPARE(boxes.titles, {u"Pizarrin"_s});
         QCOMPARE(boxes.texts.first().count(u"\r\n"_s), 1);

@@ -53,6 +53,7 @@ public:
     ui::MenuList list;
 
     using Screen::canvas;
+    using Screen::countersBox;
     using Screen::moveTo;
     using Screen::onEnter;
     using Screen::onGotFocus;

@@ -21,7 +21,11 @@ private slots:
         bench = std::make_unique<ScreenBench>();
         screen = &bench->open<Form2>();
     }
-    void cleanup() { bench.reset(); }
+    void cleanup()
+    {
+        ui::look::setContrast(ui::look::Contrast::Usual);
+        bench.reset();
+    }
 
     void comesUpWithTheTableOf1ToStudy()
     {
@@ -86,6 +90,24 @@ private slots:
         QCOMPARE(formats.first().format.foreground().color(), QColor(ui::look::Quiet));
         QVERIFY(ui::look::contrast(QColor(ui::look::Quiet), QColor(ui::look::Grid))
             >= ui::look::ReadableContrast);
+    }
+
+    void highContrastMakesFactorsAsDark()
+    {
+        zoom(2); // some pixels of every letter are wholly of its colour
+        const auto hasQuiet = [&] {
+            const QImage half = bench->control<QWidget>(u"TbTabla1"_s).grab().toImage();
+            for (int i = 0; i < half.width() * half.height(); ++i) {
+                if (half.pixel(i % half.width(), i / half.width()) == ui::look::Quiet)
+                    return true;
+            }
+            return false;
+        };
+        QVERIFY(hasQuiet());
+        ui::look::setContrast(ui::look::Contrast::High);
+        QVERIFY(!hasQuiet());
+        ui::look::setContrast(ui::look::Contrast::Usual);
+        QVERIFY(hasQuiet());
     }
 
     void everyOtherRowIsTintedAcrossBothHalves()

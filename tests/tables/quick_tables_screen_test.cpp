@@ -18,6 +18,17 @@ const QString TooLarge =
     u"Ha especificado un valor demasiado grande. La actividad continuará hasta   que se "
     "pulse  el botón salir"_s;
 
+/// The screen with a beep that is counted instead of heard.
+class QuietForm8 final : public Form8 {
+public:
+    using Form8::Form8;
+
+    int beeps = 0;
+
+protected:
+    void beep() override { ++beeps; }
+};
+
 } // namespace
 
 class QuickTablesScreenTest : public QObject {
@@ -28,7 +39,7 @@ private slots:
     {
         QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
         bench = std::make_unique<ScreenBench>();
-        screen = &bench->open<Form8>();
+        screen = &bench->open<QuietForm8>();
     }
     void cleanup() { bench.reset(); }
 
@@ -130,6 +141,7 @@ private slots:
         append(6, 9);
         answer(u"56"_s);
         verifyPatch(u"BIEN"_s, QColor(0, 255, 0), ui::VerdictBox::Mark::Right);
+        QCOMPARE(screen->beeps, 0);
         QCOMPARE(row(), u"6 x 9 = "_s);
         QCOMPARE(labelText(u"LBOperación"_s), u"6 x 9 = "_s);
         QCOMPARE(bench->focusName(), u"TbDatos(4)"_s);
@@ -142,6 +154,7 @@ private slots:
         append(6, 9);
         answer(u"55"_s);
         verifyPatch(u"MAL"_s, QColor(255, 0, 0), ui::VerdictBox::Mark::Wrong);
+        QCOMPARE(screen->beeps, 1);
         QCOMPARE(row(), u"6 x 9 = "_s);
     }
 
@@ -273,8 +286,10 @@ private slots:
         append(6, 9);
         append(5, 4);
         bench->type(u"TbDatos(4)"_s, u"5"_s);
+        QCOMPARE(screen->beeps, 0);
         tick(1);
         verifyPatch(u"MAL"_s, QColor(255, 0, 0), ui::VerdictBox::Mark::Wrong);
+        QCOMPARE(screen->beeps, 1);
         QCOMPARE(row(), u"5 x 4 = "_s);
         QCOMPARE(labelText(u"LBTiempo"_s), u"10/"_s);
         QCOMPARE(timeColour(), QColor(230, 26, 0));
@@ -644,7 +659,7 @@ private slots:
         BoxAnswerer boxes(u"Aceptar"_s);
         bench->click(u"Command1"_s);
         verifyUnloaded();
-        screen = &bench->open<Form8>();
+        screen = &bench->open<QuietForm8>();
         comesUpIdleAgain();
     }
 
@@ -761,7 +776,7 @@ private:
         QVERIFY(!screen);
     }
     std::unique_ptr<ScreenBench> bench;
-    QPointer<Form8> screen;
+    QPointer<QuietForm8> screen;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(QuickTablesScreenTest)

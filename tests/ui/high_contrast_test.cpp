@@ -1,6 +1,7 @@
 #include "support/sample_screen.h"
 #include "support/screen_bench.h"
 #include "ui/marks.h"
+#include "ui/quiet_text.h"
 
 using namespace Qt::StringLiterals;
 namespace look = ui::look;
@@ -132,6 +133,40 @@ private slots:
         ask(look::Contrast::High);
         QCOMPARE(underline(), 8);
         QVERIFY(tick() > 1.5 * usualTick);
+    }
+
+    void quietTextsAreOfInk()
+    {
+        QWidget* counters = screen->countersBox(
+            u"Counters"_s, {300, 2250, 3600, 600}, u"Ejercicios: 0"_s, {.pixels = 24});
+        new ui::QuietText(screen->title);
+        for (QWidget* text : {counters, static_cast<QWidget*>(screen->title)}) {
+            ask(look::Contrast::Usual);
+            text->raise();
+            const QImage usual = text->grab().toImage();
+            QVERIFY(count(usual, look::Quiet) > 0);
+            QCOMPARE(count(usual, look::Ink), 0);
+            ask(look::Contrast::High);
+            const QImage high = text->grab().toImage();
+            QVERIFY(count(high, look::Ink) > 0);
+            QCOMPARE(count(high, look::Quiet), 0);
+        }
+    }
+
+    void aRetiredVerdictIsOfInk()
+    {
+        ui::VerdictBox verdict(screen->canvas());
+        verdict.setFont(look::scaled(look::Verdict, 2));
+        verdict.setGeometry(0, 0, 400, 80);
+        verdict.show();
+        verdict.setVerdict(u"Resultado"_s, ui::VerdictBox::Mark::Right);
+        verdict.retire();
+        QCOMPARE(count(verdict.grab().toImage(), look::Ink), 0);
+        ask(look::Contrast::High);
+        QVERIFY(count(verdict.grab().toImage(), look::Ink) > 0);
+        verdict.setVerdict(u"Resultado"_s, ui::VerdictBox::Mark::None);
+        ask(look::Contrast::Usual);
+        QVERIFY(count(verdict.grab().toImage(), look::Ink) > 0);
     }
 
     void allIsAsBeforeWithoutIt()

@@ -6,6 +6,7 @@
 
 #include <QDialogButtonBox>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QStyleOptionButton>
 
 using namespace Qt::StringLiterals;
@@ -137,6 +138,38 @@ private slots:
                 QVERIFY(marked != empty);
             }
         }
+    }
+
+    void aScrollBarIsAHandleOnTheGroundOfItsBox()
+    {
+        zoomTo(2);
+        screen->lines->setPlainText(QString(60, u'\n'));
+        QScrollBar& bar = *screen->lines->verticalScrollBar();
+        const int shortest = QApplication::style()->pixelMetric(
+            QStyle::PM_ScrollBarSliderMin, nullptr, screen->lines);
+        const auto colour = [&](int y) {
+            const QPoint place = bar.mapTo(screen, QPoint(bar.width() / 2, y));
+            return screen->grab().toImage().pixel(place);
+        };
+        const int last = bar.height() - shortest / 2;
+        QCOMPARE(colour(shortest / 2), ui::look::Edge);
+        QCOMPARE(colour(last), ui::look::Card);
+        bar.setValue(bar.maximum());
+        QCOMPARE(colour(shortest / 2), ui::look::Card);
+        QCOMPARE(colour(last), ui::look::Edge);
+        QVERIFY(ui::look::contrast(QColor(ui::look::Edge), QColor(ui::look::Card))
+            >= ui::look::FindableContrast);
+    }
+
+    void aPressBesideTheHandleScrollsByAPage()
+    {
+        screen->lines->setPlainText(QString(60, u'\n'));
+        QScrollBar& bar = *screen->lines->verticalScrollBar();
+        runPendingEvents();
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, bar.height() - 1});
+        QCOMPARE(bar.value(), bar.pageStep());
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, 0});
+        QCOMPARE(bar.value(), 0);
     }
 };
 

@@ -20,6 +20,7 @@ private slots:
     void init();
     void cleanup() { m_bench.reset(); }
 
+    void comesWithASampleUntilItIsLoaded();
     void comesUpWithADivision();
     void captionsAreExact();
     void listsHaveTheirNumbers();
@@ -140,6 +141,13 @@ void LongDivisionScreenTest::init()
 }
 
 // --- the screen as it comes up
+
+void LongDivisionScreenTest::comesWithASampleUntilItIsLoaded()
+{
+    const Form6 unloaded(m_bench->screens);
+    QCOMPARE(ScreenBench::find<WorkArea>(unloaded, u"Text1"_s).toPlainText(),
+        u" 12053041   "_s + QString(2000, u' '));
+}
 
 void LongDivisionScreenTest::comesUpWithADivision()
 {

@@ -471,6 +471,8 @@ private slots:
             const ui::TwipRect result{1250, 2600.0 + 500 * digits, 3000, 500};
             const QRect place = ui::toPixels(result, factor);
             QCOMPARE(bench->control<QWidget>(u"TBResultado"_s).geometry(), place);
+            QCOMPARE(bench->control<QWidget>(u"Line1"_s).y(), // under the factors, always
+                ui::toPixels({1250, 2600, 3000, 500}, factor).y());
             QCOMPARE(bench->control<QWidget>(u"Line2"_s).y(), place.y());
             QCOMPARE(bench->control<QWidget>(u"labIgual"_s).y(), place.y());
             QVERIFY(
