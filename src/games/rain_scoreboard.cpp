@@ -19,8 +19,8 @@ constexpr double PointsWidth = 2400;
 constexpr double LivesWidth = 2100;
 constexpr double StarPitch = 390;
 constexpr double HeartPitch = 390;
-constexpr double InstructionTop = 420;
-constexpr double InstructionHeight = 345;
+constexpr double InstructionTop = 405;
+constexpr double InstructionHeight = 375;
 
 constexpr QRgb Moonlight = 0xFFF3F5FF; // texts on the sky
 constexpr QRgb Panel = 0xFF10172C;
