@@ -59,8 +59,7 @@ QStringList foundOrLoaded(const QStringList& names, const QString& prefix)
 std::jthread readFontSettings()
 {
     // The library that the toolkit asks on most systems; elsewhere there is nothing to hurry. It
-    // is looked for here, since the thread that first uses the toolkit is the main one to it for
-    // good.
+    // is looked for here: the thread that first uses the toolkit is the main one to it.
     const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit");
     if (init == nullptr)
         return {};

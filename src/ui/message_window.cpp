@@ -95,6 +95,17 @@ void MessageWindow::widen(const QWidget& window)
     label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), qRound(room)}));
 }
 
+/// The toolkit gives a box its own width again when its layout has changed. A box that has come
+/// up must not change its size there and back: its place may not be known yet, and would be lost.
+bool MessageWindow::event(QEvent* event)
+{
+    if (event->type() != QEvent::LayoutRequest || !m_isWide)
+        return QMessageBox::event(event);
+    const bool isDone = QDialog::event(event);
+    holdText();
+    return isDone;
+}
+
 void MessageWindow::resizeEvent(QResizeEvent* event)
 {
     QMessageBox::resizeEvent(event);
@@ -128,8 +139,10 @@ void MessageWindow::closeEvent(QCloseEvent* event)
 void MessageWindow::holdText()
 {
     const int needed = layout()->totalMinimumSize().width();
-    if (isVisible() && layout()->hasHeightForWidth() && needed > width())
-        setFixedSize(needed, layout()->totalHeightForWidth(needed));
+    if (!isVisible() || !layout()->hasHeightForWidth() || needed <= width())
+        return;
+    m_isWide = true;
+    setFixedSize(needed, layout()->totalHeightForWidth(needed));
 }
 
 /// Of the strip under the buttons; the toolkit has set margins of its own meanwhile, for

@@ -21,6 +21,7 @@ public:
     void setTexts(const QString& text, const QString& notes, const QWidget& window);
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -34,6 +35,7 @@ private:
     void dropIconGap();
 
     Kind m_kind;
+    bool m_isWide = false; ///< wider than the toolkit makes a box
 };
 
 } // namespace ui

@@ -10,6 +10,22 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace {
+
+/// Counts how often a widget is given another size.
+class Resizes : public QObject {
+public:
+    int count = 0;
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        count += event->type() == QEvent::Resize ? 1 : 0;
+        return QObject::eventFilter(object, event);
+    }
+};
+
+} // namespace
+
 class BoxesTest : public QObject {
     Q_OBJECT
 
@@ -68,6 +84,12 @@ private slots:
             QCoreApplication::sendPostedEvents(&box, QEvent::LayoutRequest);
             QVERIFY(label.width() >= WiderThanTheToolkitAllows);
             QVERIFY(box.rect().contains(label.geometry()));
+
+            Resizes resizes; // not even there and back
+            box.installEventFilter(&resizes);
+            QCoreApplication::postEvent(&box, new QEvent(QEvent::LayoutRequest));
+            QCoreApplication::sendPostedEvents(&box, QEvent::LayoutRequest);
+            QCOMPARE(resizes.count, 0);
         };
         ui::MessageBox::show(*screen, u"a"_s);
     }
