@@ -98,6 +98,20 @@ SmallestByClass smallestTexts(ui::Screen& screen)
     return found;
 }
 
+/// The height of what can be clicked or written in, where it is least.
+Smallest lowestTarget(const ui::Screen& screen)
+{
+    Smallest lowest;
+    for (const QWidget* part : screen.findChildren<QWidget*>()) {
+        const auto* box = qobject_cast<const QLineEdit*>(part);
+        const bool isTarget = qobject_cast<const QPushButton*>(part) != nullptr
+            || (box != nullptr && !box->isReadOnly());
+        if (isTarget && part->isVisible() && part->window() == &screen)
+            lowest.take(part->height(), nameOf(*part));
+    }
+    return lowest;
+}
+
 /// Paints a text at twice the size of its font.
 class Enlarged : public QWidget {
 protected:
@@ -113,9 +127,9 @@ enum class State { Opening, Wrong, Right, Filled, Largest };
 
 } // namespace
 
-/// The size of every text of every screen on a display of a given size, in pixels of the
-/// display: as it opens, after a wrong and after a right answer, and with the largest exercise
-/// that its options draw.
+/// The size of every text of every screen on a display of a given size, and the height of what
+/// is to be hit, in pixels of the display: as it opens, after a wrong and after a right answer,
+/// and with the largest exercise that its options draw.
 class TextSizesTest : public QObject {
     Q_OBJECT
 
@@ -167,6 +181,9 @@ private slots:
             answer(state);
         if (QTest::currentTestFailed())
             return;
+        const Smallest lowest = lowestTarget(*screen);
+        QVERIFY2(!isLaptop() || lowest.pixels >= EasyToHit,
+            qPrintable(u"%1: %2 px"_s.arg(lowest.where).arg(lowest.pixels)));
         const SmallestByClass found = smallestTexts(*screen);
         print(found);
         for (std::size_t i = 0; i < found.size(); ++i)
@@ -176,15 +193,21 @@ private slots:
 
 private:
     using Limits = std::array<double, ClassNames.size()>;
+    static constexpr int EasyToHit = 40; // pixels, for a child
 
-    /// A laptop at school, and what is larger: a child reads its work at a glance. A netbook:
-    /// nothing is too small to read.
+    /// A laptop at school, or what is larger.
+    static bool isLaptop()
+    {
+        const QSize display = QGuiApplication::primaryScreen()->size();
+        return display.width() >= 1366 && display.height() >= 768;
+    }
+
+    /// On a laptop a child reads its work at a glance. On a netbook nothing is too small to read.
     static Limits limits(State state)
     {
         QFETCH(QString, name);
-        const QSize display = QGuiApplication::primaryScreen()->size();
-        const bool laptop = display.width() >= 1366 && display.height() >= 768;
-        const bool netbook = display.height() >= 600;
+        const bool laptop = isLaptop();
+        const bool netbook = QGuiApplication::primaryScreen()->size().height() >= 600;
         Limits least = laptop ? Limits{18, 15, 24}
             : netbook         ? Limits{15, 15, 15}
                               : Limits{13, 13, 13};
