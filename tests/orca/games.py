@@ -2,7 +2,9 @@
 past already when it is answered."""
 
 import re
+import time
 
+NOTICE = 0.3  # seconds: a key sooner than 0.25 after a number has taken the focus was for another
 ACCEPT = "Aceptar (?:push )?button.*"
 START = "EMPEZAR (?:push )?button.*"
 
@@ -50,6 +52,7 @@ class Rain:
             if box is not None:
                 boxes[box]()
             elif self.is_target(int(number)) == targets:
+                time.sleep(NOTICE)
                 self.pupil.press("space")
 
     def is_target(self, number):
