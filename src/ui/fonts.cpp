@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QLibrary>
+#include <QThread>
 
 #include <algorithm>
 #include <iterator>
@@ -58,20 +59,19 @@ QStringList foundOrLoaded(const QStringList& names, const QString& prefix)
 
 std::jthread readFontSettings()
 {
-    // The library that the toolkit asks on most systems; elsewhere there is nothing to hurry. It
-    // is looked for here: the thread that first uses the toolkit is the main one to it.
-    const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit");
-    if (init == nullptr)
-        return {};
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): found by its name
-    return std::jthread(reinterpret_cast<int (*)()>(init));
+    QThread::currentThread(); // the thread that first uses the toolkit is the main one to it
+    return std::jthread([] {
+        // The library that the toolkit asks on most systems; elsewhere there is nothing to hurry.
+        if (const auto init = QLibrary::resolve(u"fontconfig"_s, 1, "FcInit"))
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): found by its name
+            reinterpret_cast<int (*)()>(init)();
+    });
 }
 
 std::jthread readFontList(std::jthread settings)
 {
     return std::jthread([settings = std::move(settings)]() mutable {
-        if (settings.joinable())
-            settings.join();
+        settings.join();
         // The toolkit keeps for all threads what stands in for a font.
         QFontMetrics(scaled({}, 1)).height();
     });

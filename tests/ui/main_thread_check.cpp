@@ -23,8 +23,7 @@ void takeAsFailure(QtMsgType, const QMessageLogContext&, const QString& remark)
 
 int main(int argc, char* argv[])
 {
-    if (auto settings = ui::look::readFontSettings(); settings.joinable())
-        settings.join();
+    ui::look::readFontSettings().join();
 
     std::latch used(1);
     std::latch made(1);
