@@ -101,6 +101,7 @@ bool MessageWindow::event(QEvent* event)
 {
     if (event->type() != QEvent::LayoutRequest || !m_isWide)
         return QMessageBox::event(event);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the toolkit's box, which is meant
     const bool isDone = QDialog::event(event);
     holdText();
     return isDone;
