@@ -2,6 +2,7 @@
 // costs the computer. Usage: games_bench [seconds for each drawing]
 
 #include "core/clock.h"
+#include "core/errors.h"
 #include "core/random.h"
 #include "games/night_sky.h"
 #include "games/number_rain_screen.h"
@@ -50,25 +51,36 @@ public:
         m_rain.chooseDifficulty(static_cast<Difficulty>(seed % 3));
     }
 
-    /// Plays until the game is over; false when an invariant broke.
+    /// Plays until the game is over or its points leave 16 bits; false when an invariant broke.
     bool play()
     {
-        while (!m_rain.over() && m_holds) {
+        while (!m_rain.over() && !full && m_holds) {
             if (m_rain.waiting())
                 m_rain.start();
             take(m_rain.tick(), u"Has dejado escapar");
             ++ticks;
             if (m_engine() % m_idleness == 0)
-                take(m_rain.click(static_cast<int>(m_engine() % RainFall::Slots)),
-                    u"Has cometido");
+                click(static_cast<int>(m_engine() % RainFall::Slots));
         }
         return m_holds;
     }
 
     long ticks = 0;
     long boxes = 0;
+    bool full = false; ///< the next hit would bring more points than are counted
 
 private:
+    void click(int slot)
+    {
+        const core::Int16 before = m_rain.state().Puntos;
+        try {
+            take(m_rain.click(slot), u"Has cometido");
+        } catch (const core::OverflowError&) {
+            full = true;
+            check(m_rain.state().Puntos == before);
+        }
+    }
+
     void take(RainStep step, QStringView cause)
     {
         while (step.box) {
@@ -109,16 +121,19 @@ void measureGames()
     long ticks = 0;
     long boxes = 0;
     int broken = 0;
+    int full = 0;
     const std::clock_t start = std::clock();
     for (unsigned game = 0; game < Games; ++game) {
         RandomPlayer player(game + 1);
         broken += player.play() ? 0 : 1;
+        full += player.full ? 1 : 0;
         ticks += player.ticks;
         boxes += player.boxes;
     }
     const double cpu = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     std::printf(
-        "%d games, %ld ticks, %ld boxes: %.3f s, %d broken\n", Games, ticks, boxes, cpu, broken);
+        "%d games, %ld ticks, %ld boxes: %.3f s, %d broken, %d until the points left 16 bits\n",
+        Games, ticks, boxes, cpu, broken, full);
 }
 
 /// Twenty numbers under the night sky, all of the fastest class on Hard: each falls a row in
