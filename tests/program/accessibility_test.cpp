@@ -60,6 +60,16 @@ private slots:
         }
     }
 
+    void captionsOfGroupsAreNoLabelsOfTheirOptions_data() { addScreenRows(); }
+    void captionsOfGroupsAreNoLabelsOfTheirOptions()
+    {
+        for (QRadioButton* option : open().findChildren<QRadioButton*>()) {
+            QAccessibleInterface* face = QAccessible::queryAccessibleInterface(option);
+            QVERIFY2(face->relations(QAccessible::Label).isEmpty(), qPrintable(option->text()));
+            QVERIFY2(captionAround(*face).contains(u' '), qPrintable(option->text()));
+        }
+    }
+
     void accessKeysAreUnique_data() { addScreenRows(); }
     void accessKeysAreUnique()
     {
@@ -220,6 +230,15 @@ private:
         if (control->objectName() == u"PbFoco"_s || control->objectName() == u"Picture1"_s)
             return QAccessible::Client;
         return QAccessible::NoRole; // a kind of control that this test does not know
+    }
+
+    /// Of the group that a control is in.
+    static QString captionAround(const QAccessibleInterface& control)
+    {
+        QAccessibleInterface* around = control.parent();
+        while (around != nullptr && around->role() != QAccessible::Grouping)
+            around = around->parent();
+        return around != nullptr ? around->text(QAccessible::Name) : QString();
     }
 
     /// What is no control and says nothing: a sheet of paper, a line, a picture.
