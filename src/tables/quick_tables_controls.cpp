@@ -60,7 +60,7 @@ void Form8::makeRow()
         displayBox(u"TbDatos(1)"_s, {1320, Top, 630, BoxHeight}, RowFont, u"Por"_s, u"x"_s),
         displayBox(u"TbDatos(2)"_s, {1950, Top, 1080, BoxHeight}, RowFont, u"Segundo factor"_s),
         displayBox(u"TbDatos(3)"_s, {3030, Top, 630, BoxHeight}, RowFont, u"Igual a"_s, u"="_s),
-        entryBox(u"TbDatos(4)"_s, {3720, Top, 1920, BoxHeight}, RowFont, u"Respuesta"_s)};
+        entryBox(u"TbDatos(4)"_s, {3780, Top, 1860, BoxHeight}, RowFont, u"Respuesta"_s)};
     for (ui::TextBox* box : TbDatos) {
         box->setAlignment(Qt::AlignCenter);
         onEnter(box, [this] { TbDatos_KeyPress(); });

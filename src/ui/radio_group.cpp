@@ -6,19 +6,34 @@ namespace ui {
 
 namespace {
 
-// A button is labelled by the box that is its parent: readers say that label before the button,
-// after they have said the caption of the box that the focus has come into. Those that come with
-// the newer toolkit look for the label farther up too, but not beyond a list.
+// Those that come with the newer toolkit look for the caption farther up too, not beyond a list.
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0) && defined(Q_OS_UNIX)
 constexpr auto GroupRole = QAccessible::List;
 #else
 constexpr auto GroupRole = QAccessible::Client;
 #endif
 
+/// Without what the toolkit gives all that stands in a group box: its caption as a name and as
+/// a label. Readers say the label of a button, after the caption of the box around it.
+class RadioGroupAccessible final : public QAccessibleWidget {
+public:
+    explicit RadioGroupAccessible(RadioGroup* group)
+        : QAccessibleWidget(group, GroupRole)
+    {
+    }
+
+    QString text(QAccessible::Text) const override { return {}; }
+    QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation) const override
+    {
+        return {};
+    }
+};
+
 QAccessibleInterface* makeAccessible(const QString&, QObject* object)
 {
     auto* group = dynamic_cast<RadioGroup*>(object);
-    return group != nullptr ? new QAccessibleWidget(group, GroupRole) : nullptr;
+    return group != nullptr ? new RadioGroupAccessible(group) : nullptr;
 }
 
 } // namespace
