@@ -102,6 +102,8 @@ void LongDivisionTest::startsWithItsSettings()
     ScriptedRandom random{drawFor(84, 2), drawFor(7, 1)};
     LongDivision division(random);
     QCOMPARE(random.left(), 2u);
+    QCOMPARE(division.Divisor(), 1); // nothing is ever divided by 0
+    QCOMPARE(division.AnchoLinea().value(), 6);
     division.newExercise();
     QCOMPARE(random.left(), 0u);
     QCOMPARE(division.Dividendo(), 84);
