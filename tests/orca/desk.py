@@ -33,6 +33,9 @@ SETTINGS = {
 NEWER_SETTINGS = """[org/gnome/orca/default/typing-echo]
 key-echo=false
 word-echo=false
+[org/gnome/orca/default/speech]
+speak-widget-mnemonic=false
+speak-tutorial-messages=false
 """
 
 
