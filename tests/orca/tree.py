@@ -91,8 +91,8 @@ def faults(control):
     role, name, states = control.get_role(), control.get_name(), control.get_state_set()
     if role in NO_ROLE:
         yield f"{described(control)} has no role"
-    if role in CONTAINERS or is_group_of_options(control):  # where the focus only rests is one too, and better says nothing
-        return
+    if role in CONTAINERS or is_group_of_options(control):
+        return  # where the focus only rests is one too, and better says nothing
     if not name and role != Role.LABEL:  # one that has nothing to show yet
         yield f"{described(control)} has no name"
     if name.lower() in ENGLISH:
