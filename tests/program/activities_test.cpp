@@ -156,8 +156,8 @@ private slots:
     {
         QFETCH(QString, name);
         screens->show(name);
-        const QRegularExpression clock(u"^Timer[0-9]$"_s);
-        QTEST(!screens->loaded(name)->findChildren<QTimer*>(clock).isEmpty(), "hasClock");
+        const QRegularExpression timers(u"^Timer[0-9]$"_s);
+        QTEST(!screens->loaded(name)->findChildren<QTimer*>(timers).isEmpty(), "hasClock");
     }
 
     void everyScreenClosesAndReopens()
