@@ -9,8 +9,6 @@
 #include "ui/picture.h"
 #include "ui/screens.h"
 
-#include <QApplication>
-
 using namespace Qt::StringLiterals;
 
 namespace games {
@@ -258,11 +256,6 @@ ui::KeyResult FrmCarrera::Form_KeyDown(int KeyCode)
     const QString text = TBOperacion->text();
     TBOperacion->setText(text.startsWith(u' ') ? text.mid(1) : u' ' + text);
     return ui::KeyResult::Pass;
-}
-
-void FrmCarrera::beep()
-{
-    QApplication::beep();
 }
 
 } // namespace games

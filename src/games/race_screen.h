@@ -26,9 +26,6 @@ protected:
     void Form_Activate() override;
     void Form_QueryUnload() override;
 
-    /// The computer's beep.
-    virtual void beep();
-
 private:
     void makeBoxes();
     void makeRow();

@@ -7,8 +7,6 @@
 #include "ui/ground.h"
 #include "ui/screens.h"
 
-#include <QApplication>
-
 using namespace Qt::StringLiterals;
 using Mark = ui::VerdictBox::Mark;
 
@@ -124,11 +122,6 @@ void Form8::showVerdict(shell::Verdict verdict)
     }
     beep();
     TBResul->setPatch(text, Mark::Wrong, QColor(ui::look::Red));
-}
-
-void Form8::beep()
-{
-    QApplication::beep();
 }
 
 void Form8::showOperation()
