@@ -1,6 +1,7 @@
 #include "activities.h"
 
 #include "core/random.h"
+#include "shell/pictogram_drawings.h"
 #include "support/screen_bench.h"
 
 using namespace Qt::StringLiterals;
@@ -29,7 +30,8 @@ private slots:
             u"&Salir"_s};
         for (int i = 0; i < captions.size(); ++i)
             QCOMPARE(button(i).text(), captions.at(i));
-        QCOMPARE(menu->findChild<QPushButton*>(u"Command1(12)"_s), nullptr);
+        const QString oneMore = u"Command1(%1)"_s.arg(captions.size());
+        QCOMPARE(menu->findChild<QPushButton*>(oneMore), nullptr);
     }
 
     void everyRowIsWhole_data()
@@ -43,21 +45,28 @@ private slots:
     {
         QFETCH(int, index);
         const auto row = activities().at(static_cast<std::size_t>(index));
-        const auto has = [](const QString& file) {
-            return QFileInfo::exists(QStringLiteral(PIZARRIN_SOURCE) + u'/' + file);
+        const auto holds = [](const QString& file, const QString& text) {
+            return contentsOf(file).contains(text);
         };
-        for (const QString& file : {u"src/%1.h"_s, u"src/%1_screen.h"_s, u"tests/%1_test.cpp"_s,
-                 u"tests/%1_screen_test.cpp"_s})
+        for (const QString& file : {u"src/%1.h"_s, u"src/%1_screen.h"_s})
+            QVERIFY2(!contentsOf(file.arg(row.source)).isEmpty(),
+                qPrintable(u"missing: "_s + file.arg(row.source)));
+        const QString tests = u"tests/%1/CMakeLists.txt"_s.arg(row.source.section(u'/', 0, 0));
+        for (const QString& test : {u"%1_test.cpp"_s, u"%1_screen_test.cpp"_s}) {
+            const QString file = test.arg(row.source.section(u'/', 1));
             QVERIFY2(
-                has(file.arg(row.source)), qPrintable(u"missing: "_s + file.arg(row.source)));
-        QFile screen(QStringLiteral(PIZARRIN_SOURCE "/src/") + row.source + u"_screen.h"_s);
-        QVERIFY(screen.open(QIODevice::ReadOnly));
-        QVERIFY2(screen.readAll().contains("spokenExercise() const"),
+                holds(tests, u'(' + file + u')'), qPrintable(u"no test is declared: "_s + file));
+        }
+        QVERIFY2(holds(u"src/%1_screen.h"_s.arg(row.source), u"spokenExercise() const"_s),
             "a screen reader says nothing: there is no spokenExercise()");
-        QVERIFY2(row.pictogram != shell::Pictogram::Exit, "the pictogram is the exit's");
+        QVERIFY2(pictogramDrawing(row.pictogram) != pictogramDrawing(shell::Pictogram::Exit),
+            "the pictogram is the exit's");
         const QString chapter = u"### "_s + QString(row.caption).remove(u'&');
-        QVERIFY2(manual().contains(u'\n' + chapter + u'\n'),
+        QVERIFY2(holds(u"docs/manual.md"_s, u'\n' + chapter + u'\n'),
             qPrintable(u"no chapter in docs/manual.md: "_s + chapter));
+        const QString line = u"| `%1` | `%2` |"_s.arg(row.source, row.screen);
+        QVERIFY2(holds(u"docs/architecture.md"_s, line),
+            qPrintable(u"no row in docs/architecture.md: "_s + line));
     }
 
     void noTwoRowsShareAScreenOrAPictogram()
@@ -68,8 +77,9 @@ private slots:
             screenNames << row.screen;
             pictograms << static_cast<int>(row.pictogram);
         }
-        QCOMPARE(screenNames.size(), 11);
-        QCOMPARE(pictograms.size(), 11);
+        const auto rows = static_cast<qsizetype>(activities().size());
+        QCOMPARE(screenNames.size(), rows);
+        QCOMPARE(pictograms.size(), rows);
     }
 
     void everyButtonOpensItsScreen_data()
@@ -145,10 +155,11 @@ private slots:
 
     void everyScreenClosesAndReopens()
     {
-        for (int i = 0; i < 11; ++i) {
-            const QString name = activities().at(static_cast<std::size_t>(i)).screen;
+        const auto rows = activities();
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const QString name = rows[i].screen;
             for (int time = 0; time < 2; ++time) {
-                QTest::mouseClick(&button(i), Qt::LeftButton);
+                QTest::mouseClick(&button(static_cast<int>(i)), Qt::LeftButton);
                 QVERIFY(screens->loaded(name));
                 screens->loaded(name)->close();
                 QVERIFY2(!screens->loaded(name), qPrintable(name));
@@ -157,9 +168,10 @@ private slots:
     }
 
 private:
-    static QString manual()
+    /// Of a file of the source tree; nothing where there is none.
+    static QString contentsOf(const QString& name)
     {
-        QFile file(QStringLiteral(PIZARRIN_SOURCE "/docs/manual.md"));
+        QFile file(QStringLiteral(PIZARRIN_SOURCE) + u'/' + name);
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 
