@@ -36,7 +36,7 @@ private:
     void makeTime(ui::ControlFactory& controls, QPointF corner);
     void makeRow(ui::ControlFactory& controls, QPointF corner);
 
-    ui::TextBox* m_time = nullptr;
+    ui::TextBox* m_time = nullptr; ///< the seconds since the first right answer
 };
 
 } // namespace games

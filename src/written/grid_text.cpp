@@ -56,7 +56,7 @@ std::optional<GridText::Word> GridText::wordAt(int position) const
         return std::nullopt;
     const auto start = static_cast<int>(m_text.lastIndexOf(u' ', position)) + 1;
     const auto end = static_cast<int>(m_text.indexOf(u' ', position));
-    return Word{start, end < 0 ? size() : end};
+    return Word{start, end == -1 ? size() : end};
 }
 
 bool GridText::isWritable(int position) const
