@@ -24,12 +24,12 @@ constexpr double ListWidth = 4980;
 constexpr double FormLeft = Margin + ListWidth + 360;
 constexpr double FormWidth = Width - Margin - FormLeft;
 constexpr double CommandHeight = 510;
+constexpr double CommandWidth = (FormWidth - 3 * Gap) / 4;
 constexpr double ActionsTop = Top + TemplateForm::Height + 2 * Gap;
 constexpr double ListTop = Top + TemplateForm::LabelStep;
 constexpr double ListBottom = ActionsTop + CommandHeight;
 constexpr double StripMargin = 180; // around the ways out
 constexpr double WayOutTop = ListBottom + 180 + StripMargin;
-constexpr double WayOutWidth = 1920;
 constexpr double WayOutHeight = 600;
 constexpr double Height = WayOutTop + WayOutHeight + StripMargin;
 
@@ -81,10 +81,9 @@ void DLGProblemas::connectForm()
 
 void DLGProblemas::makeActions()
 {
-    constexpr double ActionWidth = (FormWidth - 3 * Gap) / 4;
     const auto place = [](int column) {
         return ui::TwipRect{
-            FormLeft + column * (ActionWidth + Gap), ActionsTop, ActionWidth, CommandHeight};
+            FormLeft + column * (CommandWidth + Gap), ActionsTop, CommandWidth, CommandHeight};
     };
     // The blank at the end of "Probar" is meant.
     on(button(u"CBProbar"_s, u"&Probar "_s, place(0), commandColour()), &QPushButton::clicked,
@@ -99,8 +98,10 @@ void DLGProblemas::makeActions()
 
 void DLGProblemas::makeWaysOut()
 {
-    const ui::TwipRect right{Width - Margin - WayOutWidth, WayOutTop, WayOutWidth, WayOutHeight};
-    const ui::TwipRect left{right.left - Gap - WayOutWidth, WayOutTop, WayOutWidth, WayOutHeight};
+    const ui::TwipRect right{
+        Width - Margin - CommandWidth, WayOutTop, CommandWidth, WayOutHeight};
+    const ui::TwipRect left{
+        right.left - Gap - CommandWidth, WayOutTop, CommandWidth, WayOutHeight};
     auto* OKButton = button(u"OKButton"_s, u"Aceptar"_s, left, commandColour());
     on(OKButton, &QPushButton::clicked, &DLGProblemas::OKButton_Click);
     CancelButton = button(u"CancelButton"_s, u"&Cancelar"_s, right, commandColour());
