@@ -104,6 +104,8 @@ void MessageWindow::widen(const QWidget& window)
     auto* label = findChild<QLabel*>(TextLabel);
     if (label == nullptr)
         return;
+    // Newer toolkits let Tab stop at the text, and then no reader says it with the title.
+    label->setFocusPolicy(Qt::NoFocus);
     label->setFont(fontFor(text(), window));
     label->setIndent(0);
     int longest = qRound(ShortestLine * overlayFactorOf(window));

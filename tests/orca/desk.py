@@ -30,15 +30,28 @@ SETTINGS = {
     "pronunciations": {},
     "keybindings": {},
 }
+NEWER_SETTINGS = """[org/gnome/orca/default/typing-echo]
+key-echo=false
+word-echo=false
+[org/gnome/orca/default/speech]
+speak-widget-mnemonic=false
+speak-tutorial-messages=false
+"""
 
 
 # What a reader says of a text that the program has highlighted or replaced, and of where the
 # focus rests while there is nothing to be done: none of it is of use to a pupil.
 CHATTER = re.compile(r"(.* )?(un)?selected|Selection .*|Cielo.*|panel|unknown")
 
+FIRST_FUNCTION_KEY = 67  # the code of F1
 
 # The last that the reader writes before it does nothing but listen, in old words and in new ones.
 LISTENING = re.compile(r"ORCA: Starting (registry|Atspi main event loop)")
+
+
+def by_code(key):
+    """F2 as the code of its key: by its name, newer maps of the keyboard have it pressed with Alt."""
+    return re.sub(r"F([1-9])$", lambda found: str(FIRST_FUNCTION_KEY - 1 + int(found.group(1))), key)
 
 
 class Silence(AssertionError):
@@ -130,9 +143,9 @@ class Desk:
         speech = self.folder / "speech"
         shutil.copytree("/etc/speech-dispatcher", speech)
         (speech / "speechd.conf").write_text(SPEECH.format(folder=self.folder))
-        settings = self.folder / ".local/share/orca/user-settings.conf"
-        settings.parent.mkdir(parents=True)
-        settings.write_text(json.dumps(SETTINGS))
+        self._write(".local/share/orca/user-settings.conf", json.dumps(SETTINGS))
+        self._write(".config/glib-2.0/settings/keyfile", NEWER_SETTINGS)
+        self.environment["GSETTINGS_BACKEND"] = "keyfile"
         self.start("speech-dispatcher", "-s", "-t", "0", "-C", str(speech), "-L",
                    str(self.folder))
         socket = self.folder / "run/speech-dispatcher/speechd.sock"
@@ -155,6 +168,11 @@ class Desk:
         finder.write_text("#!/bin/sh\n")
         finder.chmod(0o755)
         self.environment["PATH"] = f"{finder.parent}:{self.environment['PATH']}"
+
+    def _write(self, name, text):
+        file = self.folder / name
+        file.parent.mkdir(parents=True)
+        file.write_text(text)
 
     @staticmethod
     def _wait(condition, complaint):
@@ -183,8 +201,8 @@ class Desk:
 
     def press(self, *keys):
         """Presses keys one after the other, by their X names: "Tab", "alt+v", "5"."""
-        subprocess.run(["xdotool", "key", "--delay", "30", *keys], env=self.environment,
-                       check=True)
+        subprocess.run(["xdotool", "key", "--delay", "30", *map(by_code, keys)],
+                       env=self.environment, check=True)
 
     def type(self, text):
         self.press(*str(text))
