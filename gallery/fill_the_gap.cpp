@@ -24,6 +24,10 @@ void gallery::addFillTheGap(Gallery& gallery)
         answer(stage, u"1"_s);
         answer(stage, u"1"_s);
     });
+    gallery.add(u"hueco-mal-ventana-ancha"_s, Form, [](Stage& stage) {
+        stage.widen();
+        answer(stage, u"1"_s);
+    });
     gallery.add(u"hueco-bien"_s, Form,
         [](Stage& stage) { answer(stage, stage.solution([](Stage&) {}, {Gap}).first()); });
     gallery.add(u"hueco-el-mayor"_s, Form, [](Stage& stage) {

@@ -103,22 +103,43 @@ QStringList Stage::solution(const std::function<void(Stage&)>& steps, const QStr
 void Stage::photographBox(
     const std::function<void()>& opens, const QString& answer, const QString& typed)
 {
-    QTimer camera;
-    QObject::connect(&camera, &QTimer::timeout, &camera, [&] {
+    withBox(opens, answer, [&](QDialog& box) {
+        if (auto* edit = box.findChild<QLineEdit*>())
+            QTest::keyClicks(edit, typed);
+        keep(&box); // the answer may close the screen
+    });
+}
+
+void Stage::photographBehindBox(const std::function<void()>& opens, const QString& answer)
+{
+    withBox(opens, answer, [this](const QDialog&) { keep(); });
+}
+
+void Stage::withBox(const std::function<void()>& opens, const QString& answer,
+    const std::function<void(QDialog&)>& whenUp)
+{
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
         auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (box == nullptr || !box->isVisible() || !box->isActiveWindow())
             return;
-        camera.stop();
-        if (auto* edit = box->findChild<QLineEdit*>())
-            QTest::keyClicks(edit, typed);
-        keep(box); // the answer may close the screen
+        watch.stop();
+        whenUp(*box);
         for (QPushButton* button : box->findChildren<QPushButton*>()) {
             if (button->text() == answer)
                 button->click();
         }
     });
-    camera.start(20);
+    watch.start(20);
     opens();
+}
+
+void Stage::widen()
+{
+    const QSize display = m_screen->screen()->size();
+    const QSize wide(m_screen->height() * display.width() / display.height(), m_screen->height());
+    m_screen->move(m_screen->x() - (wide.width() - m_screen->width()) / 2, m_screen->y());
+    m_screen->resize(wide);
 }
 
 Gallery::Gallery(QString folder, const QString& resources, QStringList names)

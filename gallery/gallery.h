@@ -10,6 +10,8 @@
 #include <functional>
 #include <optional>
 
+class QDialog;
+
 namespace gallery {
 
 /// A screen that is got ready for its picture, through clicks and keys as a person's. The
@@ -46,6 +48,12 @@ public:
     void photographBox(
         const std::function<void()>& opens, const QString& answer, const QString& typed = {});
 
+    /// The same, with a picture of the screen behind the box.
+    void photographBehindBox(const std::function<void()>& opens, const QString& answer);
+
+    /// Makes the window as wide as displays are, so that its ground is seen beside the canvas.
+    void widen();
+
     /// Keeps a picture of another screen, at the factor of this one.
     void photographScreen(ui::Screen& other);
 
@@ -71,6 +79,11 @@ private:
     };
 
     void zoom(ui::Screen& screen) const;
+
+    /// Does something that opens a box, does something with the box once it is up, and answers
+    /// it.
+    static void withBox(const std::function<void()>& opens, const QString& answer,
+        const std::function<void(QDialog&)>& whenUp);
 
     std::optional<double> m_factor;
     core::SeededRandom m_random;

@@ -26,6 +26,13 @@ void addReviews(gallery::Gallery& gallery)
         stage.press(Answer, Qt::Key_Return);
         stage.type(Answer, u"2"_s);
     });
+    gallery.add(u"tablas-repaso-bien-ventana-ancha"_s, Form, [](gallery::Stage& stage) {
+        stage.widen();
+        stage.pick(u"MnuOpcTabLis(3)"_s);
+        stage.pick(u"MnuOpcActLis(1)"_s);
+        stage.type(Answer, u"10"_s);
+        stage.press(Answer, Qt::Key_Return);
+    });
     gallery.add(u"tablas-fin"_s, Form, [](gallery::Stage& stage) {
         stage.pick(u"MnuOpcActLis(1)"_s);
         for (int k = 1; k < 10; ++k) {

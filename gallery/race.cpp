@@ -119,11 +119,7 @@ void addEnds(gallery::Gallery& gallery)
     gallery.add(u"carrera-podio"_s, Form, [](gallery::Stage& stage) {
         start(stage, 7, 3, 1);
         solve(stage, 14);
-        QTimer::singleShot(50, &stage.screen(), [&stage] {
-            stage.keep(); // behind its box
-            QApplication::activeModalWidget()->findChild<QPushButton*>()->click();
-        });
-        solve(stage, 1);
+        stage.photographBehindBox([&] { solve(stage, 1); }, u"Aceptar"_s);
     });
     gallery.add(u"carrera-perdida"_s, Form, [](gallery::Stage& stage) {
         start(stage, 1, 0, 0);

@@ -26,6 +26,7 @@ void findSum(gallery::Stage& stage, qsizetype lines, qsizetype digits)
 void gallery::addRepeatedSum(Gallery& gallery)
 {
     gallery.add(u"suma-corta"_s, Form, [](Stage& stage) { findSum(stage, 1, 1); });
+    gallery.add(u"suma-ventana-ancha"_s, Form, [](Stage& stage) { stage.widen(); });
     gallery.add(u"suma-larga"_s, Form, [](Stage& stage) {
         findSum(stage, 2, 2);
         stage.type(u"Text3(0)"_s, u"10"_s);

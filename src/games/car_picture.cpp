@@ -1,8 +1,5 @@
 #include "games/car_picture.h"
 
-#include <QDir>
-#include <QImageReader>
-#include <QPixmap>
 #include <QPoint>
 
 #include <cstdlib>
@@ -54,21 +51,6 @@ QImage withoutRoad(const QImage& picture)
             open.push_back(point + step);
     }
     return car;
-}
-
-QIcon listedCar(const QString& folder, const QString& fileName)
-{
-    constexpr int LargestFactor = 4;
-    QImageReader reader(QDir(folder).filePath(fileName));
-    // Smaller while it is read: a tenth of the time, and ten of them come up together.
-    reader.setScaledSize(reader.size().scaled(ListedCar * LargestFactor, Qt::KeepAspectRatio));
-    const QPixmap picture = QPixmap::fromImage(reader.read());
-    QIcon icon;
-    if (!picture.isNull()) {
-        icon.addPixmap(picture, QIcon::Normal);
-        icon.addPixmap(picture, QIcon::Selected); // else it would be tinted
-    }
-    return icon;
 }
 
 } // namespace games

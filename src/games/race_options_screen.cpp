@@ -2,6 +2,7 @@
 
 #include "core/defect.h"
 #include "games/car_picture.h"
+#include "games/listed_cars.h"
 #include "ui/list_box.h"
 #include "ui/picture.h"
 #include "ui/screens.h"
@@ -104,16 +105,25 @@ QLabel* DlgCarrera::image(const QString& name, const ui::TwipRect& road, const Q
 void DlgCarrera::Form_Load()
 {
     NombresImagen = pictureNames();
-    for (const Car& car : carCatalogue()) {
-        const QIcon picture = listedCar(screens().resources(), car.picture);
-        for (ui::ListBox* list : {List1, List2})
-            list->addItem(new QListWidgetItem(picture, car.caption));
-    }
+    listCars();
     for (const QString& type : raceTypes())
         List3->addItem(type);
     for (ui::ListBox* list : {List1, List2, List3})
         list->setCurrentRow(0);
     List1->setFocus();
+}
+
+void DlgCarrera::listCars()
+{
+    QStringList files;
+    for (const Car& car : carCatalogue())
+        files << car.picture;
+    const QList<QIcon> pictures = listedCars(screens().resources(), files);
+    for (int row = 0; row < Cars; ++row) {
+        for (ui::ListBox* list : {List1, List2})
+            list->addItem(
+                new QListWidgetItem(pictures.at(row), core::at(carCatalogue(), row).caption));
+    }
 }
 
 void DlgCarrera::List1_Click()

@@ -31,6 +31,7 @@ private:
     QLabel* image(const QString& name, const ui::TwipRect& road, const QString& lane,
         const QString& accessibleName);
 
+    void listCars();
     void List1_Click();
     void List2_Click();
     void OKButton_Click();

@@ -14,7 +14,6 @@ namespace {
 constexpr double Gap = 120;
 constexpr double StripGap = 180; // above the strip
 constexpr double StripMargin = 180; // around the ways out
-constexpr double WayOutWidth = 1920;
 constexpr double WayOutHeight = 600;
 static_assert(EditorButtons::BelowActions == StripGap + 2 * StripMargin + WayOutHeight);
 
@@ -23,17 +22,24 @@ QColor colour()
     return ui::look::palette().color(QPalette::Button);
 }
 
+/// Of four buttons side by side in so wide a row; the ways out stand below the last two.
+double columnWidth(double width)
+{
+    return (width - 3 * Gap) / 4;
+}
+
 } // namespace
 
 EditorButtons::EditorButtons(ui::ControlFactory& controls, QPointF corner, double width)
 {
     makeActions(controls, corner, width);
-    makeWaysOut(controls, corner + QPointF(width, ActionHeight + StripGap + StripMargin));
+    makeWaysOut(controls, corner + QPointF(width, ActionHeight + StripGap + StripMargin),
+        columnWidth(width));
 }
 
 void EditorButtons::makeActions(ui::ControlFactory& controls, QPointF corner, double width)
 {
-    const double actionWidth = (width - 3 * Gap) / 4;
+    const double actionWidth = columnWidth(width);
     const auto place = [corner, actionWidth](int column) {
         return ui::TwipRect{
             corner.x() + column * (actionWidth + Gap), corner.y(), actionWidth, ActionHeight};
@@ -46,13 +52,13 @@ void EditorButtons::makeActions(ui::ControlFactory& controls, QPointF corner, do
             controls.button(u"CBAccion(%1)"_s.arg(i), captions.at(i), place(i + 1), colour());
 }
 
-void EditorButtons::makeWaysOut(ui::ControlFactory& controls, QPointF upperRight)
+void EditorButtons::makeWaysOut(ui::ControlFactory& controls, QPointF upperRight, double width)
 {
-    const double left = upperRight.x() - WayOutWidth;
+    const double left = upperRight.x() - width;
     OKButton = controls.button(u"OKButton"_s, u"Aceptar"_s,
-        {left - Gap - WayOutWidth, upperRight.y(), WayOutWidth, WayOutHeight}, colour());
-    CancelButton = controls.button(u"CancelButton"_s, u"&Cancelar"_s,
-        {left, upperRight.y(), WayOutWidth, WayOutHeight}, colour());
+        {left - Gap - width, upperRight.y(), width, WayOutHeight}, colour());
+    CancelButton = controls.button(
+        u"CancelButton"_s, u"&Cancelar"_s, {left, upperRight.y(), width, WayOutHeight}, colour());
     // A click on it leaves no box, so that a box with a mistake cannot stand in its way.
     CancelButton->setFocusPolicy(Qt::TabFocus);
     new ui::Tray({OKButton, CancelButton}, ui::Tray::Shape::Strip);

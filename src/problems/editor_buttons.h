@@ -31,7 +31,7 @@ public:
 
 private:
     void makeActions(ui::ControlFactory& controls, QPointF corner, double width);
-    void makeWaysOut(ui::ControlFactory& controls, QPointF upperRight);
+    void makeWaysOut(ui::ControlFactory& controls, QPointF upperRight, double width);
 };
 
 } // namespace problems

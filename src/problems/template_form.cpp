@@ -17,7 +17,6 @@ constexpr double Gap = 120;
 constexpr double GroupGap = 195; // before the caption of the next field
 constexpr double BoxHeight = 510;
 constexpr double CommandHeight = 510;
-constexpr double InsertWidth = 3240;
 constexpr double StatementTop = TemplateForm::LabelStep;
 constexpr double StatementHeight = 1740; // four lines
 constexpr double StatementInserts = StatementTop + StatementHeight + Gap;
@@ -65,7 +64,7 @@ void TemplateForm::makeStatement()
     const QString target = u"en el enunciado"_s;
     const double top = m_top + StatementInserts;
     Command1 = insertCommand(1, InsertDatum, target, {m_left, top});
-    Command2 = insertCommand(2, InsertComputed, target, {m_left + InsertWidth + Gap, top});
+    Command2 = insertCommand(2, InsertComputed, target, {rightHalf(), top});
 }
 
 void TemplateForm::makeAnswer()
@@ -79,32 +78,42 @@ void TemplateForm::makeAnswer()
     const QString target = u"en el resultado"_s;
     const double top = m_top + AnswerInserts;
     Command3 = insertCommand(3, InsertDatum, target, {m_left, top});
-    Command4 = insertCommand(4, InsertComputed, target, {m_left + InsertWidth + Gap, top});
+    Command4 = insertCommand(4, InsertComputed, target, {rightHalf(), top});
 }
 
 void TemplateForm::makeUnit()
 {
-    constexpr double UnitWidth = InsertWidth;
     Text3 = m_controls.entryBox(
-        u"Text3"_s, {m_left, m_top + UnitTop, UnitWidth, BoxHeight}, FieldFont, u"Unidad"_s);
+        u"Text3"_s, {m_left, m_top + UnitTop, half(), BoxHeight}, FieldFont, u"Unidad"_s);
     Text3->setMaxLength(std::numeric_limits<int>::max());
     Text3->setToolTip(u"La palabra que sigue a la respuesta, como euros. Puede faltar."_s);
-    addLabel(3, u"&Unidad"_s, UnitTop, UnitWidth, Text3);
+    addLabel(3, u"&Unidad"_s, UnitTop, half(), Text3);
 }
 
 void TemplateForm::makeOperations()
 {
     const std::array captions{u"Mult"_s, u"Div"_s, u"Sum"_s, u"Rest"_s};
     const std::array names{u"Multiplicación"_s, u"División"_s, u"Suma"_s, u"Resta"_s};
-    constexpr double Step = 1080;
-    double left = m_left + InsertWidth + 2 * Gap;
-    for (std::size_t k = 0; k < CHOpera.size(); ++k, left += Step) {
+    const double step = half() / static_cast<double>(CHOpera.size());
+    double left = rightHalf();
+    for (std::size_t k = 0; k < CHOpera.size(); ++k, left += step) {
         auto* box = m_controls.add(new QCheckBox(captions[k], m_controls.canvas()),
-            u"CHOpera(%1)"_s.arg(k), {left, m_top + UnitTop, Step, BoxHeight});
+            u"CHOpera(%1)"_s.arg(k), {left, m_top + UnitTop, step, BoxHeight});
         box->setAccessibleName(names[k]);
         box->setToolTip(u"Marque en último lugar las operaciones que hace el alumno."_s);
         CHOpera[k] = box;
     }
+}
+
+// Two columns: what stands side by side ends where the boxes end.
+double TemplateForm::half() const
+{
+    return (m_width - Gap) / 2;
+}
+
+double TemplateForm::rightHalf() const
+{
+    return m_left + half() + Gap;
 }
 
 void TemplateForm::addLabel(
@@ -118,7 +127,7 @@ ui::Button* TemplateForm::insertCommand(
     int number, const QString& caption, const QString& target, QPointF corner)
 {
     auto* command = m_controls.button(u"Command%1"_s.arg(number), caption,
-        {corner.x(), corner.y(), InsertWidth, CommandHeight},
+        {corner.x(), corner.y(), half(), CommandHeight},
         ui::look::palette().color(QPalette::Button));
     command->setAccessibleName(QString(caption).remove(u'&') + u' ' + target);
     return command;

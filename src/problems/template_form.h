@@ -55,6 +55,8 @@ private:
     void makeAnswer();
     void makeUnit();
     void makeOperations();
+    double half() const;
+    double rightHalf() const;
     void addLabel(int number, const QString& caption, double top, double width, QWidget* box);
     ui::Button* insertCommand(
         int number, const QString& caption, const QString& target, QPointF corner);

@@ -37,6 +37,14 @@ QString numberLine(int number, int right, int wrong, const QLocale& locale)
     return line + u"\r\n"_s;
 }
 
+/// What was typed, as it is quoted: a finger left on a key writes without end.
+QString quoted(const QString& typed)
+{
+    constexpr int Longest = 20;
+    const QString text = typed.trimmed();
+    return u'«' + (text.size() > Longest ? text.left(Longest) + u'…' : text) + u'»';
+}
+
 } // namespace
 
 QuickTables::QuickTables(core::RandomSource& random)
@@ -102,8 +110,8 @@ std::optional<QString> QuickTables::limitFault(const QString& typed) const
     const double limit = core::roundHalfEven(core::readNumber(typed));
     if (limit >= core::Int16::Min && limit <= core::Int16::Max)
         return {};
-    return u"«%1» es demasiado %2. Escribe un número del 1 al %3 y vuelve a empezar."_s.arg(
-        typed.trimmed(), limit < 0 ? u"pequeño"_s : u"grande"_s,
+    return u"%1 es demasiado %2. Escribe un número del 1 al %3 y vuelve a empezar."_s.arg(
+        quoted(typed), limit < 0 ? u"pequeño"_s : u"grande"_s,
         QString::number(largestLimit(m_state.FinActividad)));
 }
 

@@ -114,8 +114,9 @@ QString InputBox::ask(HandlerGuard& owner, const QString& prompt, const QString&
     box->setOkButtonText(u"Aceptar"_s);
     box->setCancelButtonText(u"Cancelar"_s);
     box->setLabelText(prompt);
-    const double width = std::min(InputWidth * factor, largestBoxWidth(owner.guardedWindow()));
-    box->resize(qRound(width), box->height());
+    const int width =
+        std::min(qRound(InputWidth * factor), largestBoxWidth(owner.guardedWindow()));
+    box->resize(width, box->height());
     if (auto* label = box->findChild<QLabel*>()) {
         label->setBuddy(nullptr); // else an "&1" in the prompt would be an access key
         label->setTextFormat(Qt::PlainText);

@@ -29,27 +29,46 @@ const QString TextLabel = u"qt_msgbox_label"_s; // the toolkit's names
 const QString NotesLabel = u"qt_msgbox_informativelabel"_s;
 const QString IconLabel = u"qt_msgboxex_icon_label"_s;
 
-/// The usual font, or the largest in which all lines of a long text are seen at once.
+/// The width of the longest line that a text may have, in pixels.
+int textRoom(const QWidget& window)
+{
+    const double factor = overlayFactorOf(window);
+    return static_cast<int>(
+        std::min(LongestLine * factor, largestBoxWidth(window) - BoxFrame * factor));
+}
+
+/// The usual font, or the largest in which all lines of a long text are seen at once, and a word
+/// that cannot be broken, as the name of a folder, to its end.
 QFont fontFor(const QString& text, const QWidget& window)
 {
     const double factor = overlayFactorOf(window);
-    const double room =
-        window.screen()->availableGeometry().height() - FrameHeight - BoxEnds * factor;
-    const auto lines = static_cast<int>(text.count(u'\n')) + 1;
+    const QRect room(0, 0, textRoom(window),
+        static_cast<int>(
+            window.screen()->availableGeometry().height() - FrameHeight - BoxEnds * factor));
     look::Font font = look::BoxText;
-    const auto isTooHigh = [&] {
-        return lines * QFontMetrics(look::scaled(font, factor)).lineSpacing() > room;
+    const auto isTooLarge = [&] {
+        const QFontMetrics metrics(look::scaled(font, factor));
+        return !room.contains(metrics.boundingRect(room, Qt::TextWordWrap, text));
     };
-    while (font.pixels > SmallestText && isTooHigh())
+    while (font.pixels > SmallestText && isTooLarge())
         --font.pixels;
     return look::scaled(font, factor);
 }
 
+/// The width of the longest line of a text that is not wrapped, in pixels.
+int longestLine(const QString& text, const QFontMetrics& metrics)
+{
+    int longest = 0;
+    for (const QString& line : text.split(u'\n'))
+        longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
+    return longest;
+}
+
 } // namespace
 
-double largestBoxWidth(const QWidget& window)
+int largestBoxWidth(const QWidget& window)
 {
-    return LargestShare * window.screen()->availableGeometry().width();
+    return static_cast<int>(LargestShare * window.screen()->availableGeometry().width());
 }
 
 MessageWindow::MessageWindow(Kind kind, QWidget* parent)
@@ -61,7 +80,7 @@ MessageWindow::MessageWindow(Kind kind, QWidget* parent)
 void MessageWindow::setTexts(const QString& text, const QString& notes, const QWidget& window)
 {
     setWindowFactor(*this, overlayFactorOf(window));
-    setFont(fontFor(text, window));
+    setFont(look::scaled(look::BoxText, overlayFactorOf(window)));
     setTextFormat(Qt::PlainText);
     setText(text);
     addNotes(notes);
@@ -82,19 +101,17 @@ void MessageWindow::addNotes(const QString& notes)
 /// Left alone, the box would wrap at the same number of pixels at every factor.
 void MessageWindow::widen(const QWidget& window)
 {
-    const double factor = overlayFactorOf(window);
     auto* label = findChild<QLabel*>(TextLabel);
     if (label == nullptr)
         return;
     // Newer toolkits let Tab stop at the text, and then no reader says it with the title.
     label->setFocusPolicy(Qt::NoFocus);
-    const QFontMetrics metrics(font());
+    label->setFont(fontFor(text(), window));
     label->setIndent(0);
-    int longest = qRound(ShortestLine * factor);
-    for (const QString& line : (text() + u'\n' + informativeText()).split(u'\n'))
-        longest = std::max(longest, metrics.horizontalAdvance(line) + 1);
-    const double room = largestBoxWidth(window) - BoxFrame * factor;
-    label->setMinimumWidth(std::min({longest, qRound(LongestLine * factor), qRound(room)}));
+    int longest = qRound(ShortestLine * overlayFactorOf(window));
+    longest = std::max(longest, longestLine(text(), label->fontMetrics()));
+    longest = std::max(longest, longestLine(informativeText(), fontMetrics()));
+    label->setMinimumWidth(std::min(longest, textRoom(window)));
 }
 
 /// The toolkit gives a box its own width again when its layout has changed. A box that has come

@@ -5,7 +5,7 @@
 namespace ui {
 
 /// The largest width of a box over a window, in pixels: a share of the display's.
-double largestBoxWidth(const QWidget& window);
+int largestBoxWidth(const QWidget& window);
 
 /// The window of a message box: as wide as its text asks for, up to a measure that grows with the
 /// factor, and in letters in which all of it is seen at once. One that asks a question is left

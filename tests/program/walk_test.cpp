@@ -47,6 +47,8 @@ private:
         // A window manager tells where it has put the frame after the window is active.
         if (!QTest::qWaitFor([&] { return display.contains(box.frameGeometry()); }))
             faults << u"a box leaves the display: %1"_s.arg(textOf(box.frameGeometry()));
+        if (box.width() > 0.7 * display.width())
+            faults << u"a box is too wide: %1"_s.arg(textOf(box.geometry()));
         mostButtons = std::max(mostButtons, static_cast<int>(buttons.size()));
         QTest::mouseClick(
             buttons.at(std::min<qsizetype>(m_choice, buttons.size() - 1)), Qt::LeftButton);

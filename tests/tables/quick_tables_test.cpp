@@ -620,6 +620,10 @@ private slots:
         QTest::newRow("too large, ended by the button")
             << End::Button << u"32768"_s
             << u"«32768» es demasiado grande. Escribe un número del 1 al 32767 y vuelve a empezar."_s;
+        QTest::newRow("a key held down")
+            << End::Minutes << QString(60, u'9')
+            << u"«99999999999999999999…» es demasiado grande. Escribe un número del 1 al 60 y "
+               "vuelve a empezar."_s;
         QTest::newRow("smallest") << End::Minutes << u"-32768"_s << QString();
         QTest::newRow("too small")
             << End::Minutes << u"-32769"_s
