@@ -2,6 +2,7 @@
 
 #include "core/defect.h"
 #include "problems/bank.h"
+#include "ui/radio_group.h"
 #include "ui/screens.h"
 #include "ui/tray.h"
 
@@ -25,6 +26,7 @@ constexpr double OptionsWidth = 4680;
 constexpr double ChecksLeft = Margin + OptionsWidth + Gap;
 constexpr double ChecksWidth = Width - Margin - ChecksLeft;
 constexpr double FirstRow = 540; // in a frame
+constexpr double Indent = 180; // likewise
 constexpr double RowHeight = 510;
 constexpr double CountTop = FrameTop + FrameHeight + 90;
 constexpr double CountHeight = 480;
@@ -70,12 +72,15 @@ void DLGSelProb::makeOptions()
 {
     QGroupBox* parent = frame(
         u"Frame1"_s, u"&Tipo de problemas"_s, {Margin, FrameTop, OptionsWidth, FrameHeight});
+    constexpr double RowWidth = OptionsWidth - 2 * Indent;
+    auto* group =
+        add(new ui::RadioGroup(parent), {}, {Indent, FirstRow, RowWidth, 3 * RowHeight});
     const std::array captions{u"Todos los tipos"_s, u"Con alguna de las seleccionadas"_s,
         u"Con todas las seleccionadas"_s};
     for (int i = 0; i < 3; ++i) {
         auto*& option = core::at(Option1, i);
-        option = new QRadioButton(core::at(captions, i), parent);
-        addChoice(option, u"Option1(%1)"_s.arg(i), i, OptionsWidth);
+        option = new QRadioButton(core::at(captions, i), group);
+        add(option, u"Option1(%1)"_s.arg(i), {0, i * RowHeight, RowWidth, RowHeight});
         on(option, &QRadioButton::toggled, [this] { Option1_Click(); });
     }
 }
@@ -88,7 +93,8 @@ void DLGSelProb::makeChecks()
     for (int i = 0; i < 4; ++i) {
         auto*& check = core::at(Check1, i);
         check = new QCheckBox(core::at(captions, i), parent);
-        addChoice(check, u"Check1(%1)"_s.arg(i), i, ChecksWidth);
+        add(check, u"Check1(%1)"_s.arg(i),
+            {Indent, FirstRow + i * RowHeight, ChecksWidth - 2 * Indent, RowHeight});
         on(check, &QCheckBox::toggled, [this] { Check1_Click(); });
     }
     Check1[0]->setAccessibleName(u"Multiplicaciones"_s);
@@ -98,11 +104,6 @@ QGroupBox* DLGSelProb::frame(
     const QString& name, const QString& caption, const ui::TwipRect& place)
 {
     return add(new QGroupBox(caption, canvas()), name, place);
-}
-
-void DLGSelProb::addChoice(QAbstractButton* choice, const QString& name, int row, double width)
-{
-    add(choice, name, {180, FirstRow + row * RowHeight, width - 360, RowHeight});
 }
 
 void DLGSelProb::Form_Load()

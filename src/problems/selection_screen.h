@@ -7,7 +7,6 @@
 #include <array>
 #include <optional>
 
-class QAbstractButton;
 class QCheckBox;
 class QGroupBox;
 class QRadioButton;
@@ -37,7 +36,6 @@ private:
     void makeChecks();
     void makeWaysOut();
     QGroupBox* frame(const QString& name, const QString& caption, const ui::TwipRect& place);
-    void addChoice(QAbstractButton* choice, const QString& name, int row, double width);
 
     void Option1_Click() { ContarDisponibles(); }
     void Check1_Click() { ContarDisponibles(); }

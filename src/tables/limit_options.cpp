@@ -2,6 +2,7 @@
 
 #include "core/defect.h"
 #include "ui/control_factory.h"
+#include "ui/radio_group.h"
 
 #include <QGroupBox>
 #include <QRadioButton>
@@ -31,10 +32,14 @@ LimitOptions::LimitOptions(
 
 void LimitOptions::makeWays(ui::ControlFactory& controls)
 {
+    constexpr double RowWidth = 2160;
+    constexpr double RowHeight = 630;
     const QStringList captions{u"Al pulsar Salir"_s, u"Tiempo"_s, u"Operaciones"_s, u"Errores"_s};
+    auto* group =
+        controls.add(new ui::RadioGroup(Frame1), {}, {240, 540, RowWidth, 4 * RowHeight});
     for (int i = 0; i < 4; ++i) {
-        auto* option = controls.add(new QRadioButton(captions.at(i), Frame1),
-            u"Option1(%1)"_s.arg(i), {240, 540 + 630.0 * i, 2160, 600});
+        auto* option = controls.add(new QRadioButton(captions.at(i), group),
+            u"Option1(%1)"_s.arg(i), {0, RowHeight * i, RowWidth, 600});
         connect(option, &QRadioButton::toggled, this, [this, i](bool checked) {
             if (checked)
                 emit chosen(i);

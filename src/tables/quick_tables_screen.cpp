@@ -70,10 +70,10 @@ void Form8::makeRow()
     constexpr double BoxHeight = 1080;
     TbDatos = {
         displayBox(u"TbDatos(0)"_s, {240, Top, 1020, BoxHeight}, RowFont, u"Primer factor"_s),
-        displayBox(u"TbDatos(1)"_s, {1260, Top, 540, BoxHeight}, RowFont, u"Por"_s, u"x"_s),
-        displayBox(u"TbDatos(2)"_s, {1800, Top, 1020, BoxHeight}, RowFont, u"Segundo factor"_s),
-        displayBox(u"TbDatos(3)"_s, {2820, Top, 540, BoxHeight}, RowFont, u"Igual a"_s, u"="_s),
-        entryBox(u"TbDatos(4)"_s, {3480, Top, 2160, BoxHeight}, RowFont, u"Respuesta"_s)};
+        displayBox(u"TbDatos(1)"_s, {1260, Top, 570, BoxHeight}, RowFont, u"Por"_s, u"x"_s),
+        displayBox(u"TbDatos(2)"_s, {1830, Top, 1020, BoxHeight}, RowFont, u"Segundo factor"_s),
+        displayBox(u"TbDatos(3)"_s, {2850, Top, 570, BoxHeight}, RowFont, u"Igual a"_s, u"="_s),
+        entryBox(u"TbDatos(4)"_s, {3510, Top, 2130, BoxHeight}, RowFont, u"Respuesta"_s)};
     for (ui::TextBox* box : TbDatos) {
         box->setAlignment(Qt::AlignCenter);
         onEnter(box, [this] { TbDatos_KeyPress(); });

@@ -2,6 +2,7 @@
 
 #include "ui/blocked_windows.h"
 #include "ui/held_keys.h"
+#include "ui/key_order.h"
 #include "ui/look.h"
 #include "ui/style.h"
 
@@ -37,6 +38,7 @@ void ignoreDesktopSettings()
 
 void setUpApplication()
 {
+    new KeyOrder(qApp); // before the toolkit begins to show keys to a reader
     QAccessible::isActive(); // waits for the desktop's bus, while the fonts are read beside it
     QApplication::setStyle(new Style);
     look::setContrast(look::Contrast::Usual);

@@ -1,5 +1,7 @@
 #include "ui/held_keys.h"
 
+#include "ui/keys.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -13,14 +15,6 @@ namespace {
 
 /// In milliseconds; no keyboard is set to repeat a key sooner.
 constexpr quint64 ShortestRepeatDelay = 100;
-
-/// The physical key, where the platform tells it: Shift changes what a key means while it is
-/// down.
-quint32 keyOf(const QKeyEvent& event)
-{
-    const quint32 physical = event.nativeScanCode();
-    return physical != 0 ? physical : static_cast<quint32>(event.key());
-}
 
 QObject* controlWithKeyboard()
 {
@@ -83,7 +77,7 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
 
 bool HeldKeys::pressCounts(const QKeyEvent& event)
 {
-    const quint32 key = keyOf(event);
+    const quint32 key = physicalKey(event);
     QObject* control = controlWithKeyboard();
     if (!isRepeat(event)) {
         m_presses[key] = {.control = control, .pressedAt = event.timestamp(), .releasedAt = {}};
@@ -99,7 +93,7 @@ bool HeldKeys::pressCounts(const QKeyEvent& event)
 
 bool HeldKeys::releaseCounts(const QKeyEvent& event)
 {
-    const auto found = m_presses.find(keyOf(event));
+    const auto found = m_presses.find(physicalKey(event));
     if (event.isAutoRepeat() || found == m_presses.end() || !found->second.down)
         return false;
     Press& press = found->second;
@@ -113,7 +107,7 @@ bool HeldKeys::isRepeat(const QKeyEvent& event) const
 {
     if (event.isAutoRepeat())
         return true;
-    const auto found = m_presses.find(keyOf(event));
+    const auto found = m_presses.find(physicalKey(event));
     return found != m_presses.end() && found->second.releasedAt == event.timestamp()
         && event.timestamp() >= found->second.pressedAt + ShortestRepeatDelay;
 }

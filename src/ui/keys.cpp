@@ -115,6 +115,12 @@ int keyCode(const QKeyEvent& event)
     return event.text().isEmpty() && qtKey >= Qt::Key_Escape ? 0 : key::Other;
 }
 
+quint32 physicalKey(const QKeyEvent& event)
+{
+    const quint32 physical = event.nativeScanCode();
+    return physical != 0 ? physical : static_cast<quint32>(event.key());
+}
+
 QChar typedCharacter(const QKeyEvent& event)
 {
     switch (event.key()) {

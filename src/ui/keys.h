@@ -43,6 +43,10 @@ inline constexpr int Other = 231; ///< a printing key that has no number of its 
 /// The key code of a key event; 0 for a key without one.
 int keyCode(const QKeyEvent& event);
 
+/// The physical key, where the platform tells it: Shift changes what a key means while it is
+/// down.
+quint32 physicalKey(const QKeyEvent& event);
+
 /// The character that a key press types, with 13, 8 and 27 for Enter, Backspace and Escape;
 /// null when it types none.
 QChar typedCharacter(const QKeyEvent& event);

@@ -30,8 +30,9 @@ def gap(pupil):
     pupil.does("Return", says=["Respuesta incorrecta"])
     pupil.does("alt+v", says=[f"{factor} por {missing} igual a {product}"])
     factor, product = (int(number) for number in pupil.goes_on("alt+c", gap_in).groups())
-    pupil.does(*str(product // factor), "Return", says=["Respuesta correcta"])
-    pupil.goes_on("space", gap_in)
+    # The reader looks at the digits before they are typed: "Hecho" waits for them.
+    pupil.does(*str(product // factor), "alt+h", says=["Respuesta correcta"])
+    pupil.goes_on("alt+c", gap_in)
     pupil.close()
 
 
@@ -72,12 +73,13 @@ def quick_tables(pupil):
 def quick_tables_to_a_limit(pupil):
     """Two errors, then the report comes by itself."""
     pupil.open("Tablas rápidas", names=[])
-    pupil.hears("Empezar (?:push )?button.*")
+    pupil.hears("Empezar (?:push )?button.*", "Escribe el resultado correcto y pulsa enter")
     pupil.press("shift+Tab")
-    pupil.hears(".*Al pulsar Salir.*")
+    pupil.hears("Acabar la actividad panel")
+    pupil.hears_whole("Al pulsar Salir selected radio button")
     for option in ("Tiempo", "Operaciones", "Errores"):
         pupil.press("Down")
-        pupil.hears(f"{option}.*")
+        pupil.hears_whole(f"{option} selected radio button")
     pupil.press("Tab")
     pupil.hears("Límite.*")
     pupil.press("2", "Tab")
@@ -155,10 +157,8 @@ def division(pupil):
         pupil.does(digit, "Right", says=["línea 1.*"])
     pupil.does("Tab", says=["Divisor read only text", divisor])
     pupil.does("Tab", says=["Cociente.*"])
-    # An access key is faster than the digits before it, which the reader hands on.
-    pupil.does(*str(quotient), "Tab", says=["Hecho.*"])
-    pupil.does("space", says=["resultado correcto"])
-    pupil.goes_on("space", asked, also=[first_square])
+    pupil.does(*str(quotient), "alt+h", says=["resultado correcto"])
+    pupil.goes_on("alt+c", asked, also=[first_square])
     pupil.close()
 
 
@@ -173,7 +173,25 @@ def problems(pupil):
     answer = pupil.does("alt+v", says=[solution])[0].group(1)
     pupil.does("alt+b", *answer, "Return", says=["Respuesta correcta"])
     pupil.goes_on("alt+c", statement)
+    select_problems(pupil)
     pupil.close()
+
+
+def select_problems(pupil):
+    """The dialog for the teacher: each group is said once, on the way in."""
+    pupil.press("alt+o")
+    pupil.hears("Gestión de problemas.*")
+    pupil.press("s")
+    pupil.hears("Seleccionar problemas.*")
+    pupil.press("Return")
+    pupil.hears(".*Todos los tipos.*")
+    pupil.press("Tab")
+    pupil.hears("Operaciones panel", "Multiplicaciones check box.*")
+    pupil.press("shift+Tab")
+    pupil.hears("Tipo de problemas panel")
+    pupil.hears_whole("Todos los tipos not selected radio button")
+    pupil.press("alt+F4")
+    pupil.hears(r".+\?(?: Respuesta en .+)?")
 
 
 def combined(pupil):

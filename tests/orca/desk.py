@@ -43,6 +43,9 @@ speak-tutorial-messages=false
 # focus rests while there is nothing to be done: none of it is of use to a pupil.
 CHATTER = re.compile(r"(.* )?(un)?selected|Selection .*|Cielo.*|panel|unknown")
 
+# One word group twice in a row, in one breath. A bracket may well stand in another one.
+DOUBLED = re.compile(r"\b(?!(?:abre|cierra) paréntesis)([^\W\d_]+(?: [^\W\d_]+)*)[ .,:;]+\1\b")
+
 FIRST_FUNCTION_KEY = 67  # the code of F1
 
 # The last that the reader writes before it does nothing but listen, in old words and in new ones.
@@ -74,6 +77,7 @@ class Desk:
         self.said = queue.Queue()
         self.listening = threading.Event()
         self.heard = []  # since the last step, in order
+        self.before = ""  # the last since a key was pressed
         self.environment = dict(
             os.environ,
             HOME=str(self.folder),
@@ -201,6 +205,7 @@ class Desk:
 
     def press(self, *keys):
         """Presses keys one after the other, by their X names: "Tab", "alt+v", "5"."""
+        self.before = ""
         subprocess.run(["xdotool", "key", "--delay", "30", *map(by_code, keys)],
                        env=self.environment, check=True)
 
@@ -232,6 +237,12 @@ class Desk:
 
     def _take(self, seconds):
         said = self.said.get(timeout=seconds)
-        if CHATTER.fullmatch(said):
-            raise Chatter(f"heard {said!r} behind {self.heard}")
+        if CHATTER.fullmatch(said) or DOUBLED.search(said) or repeats(self.before, said):
+            raise Chatter(f"heard {said!r} behind {self.before!r} and {self.heard}")
+        self.before = said
         self.heard.append(said)
+
+
+def repeats(before, said):
+    """Whether a caption is said with what it belongs to, and then again by itself."""
+    return said[:1].isalpha() and before.startswith(f"{said} ")

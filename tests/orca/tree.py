@@ -68,6 +68,12 @@ def shown(control):
             yield from shown(child)
 
 
+def is_group_of_options(control):
+    """A list, to newer readers: it is the panel around it that is named."""
+    return control.get_role() == Role.LIST and any(
+        child.get_role() == Role.RADIO_BUTTON for child in children(control))
+
+
 def focused(window):
     """The current item of a list stays focused, whatever has the focus, says the toolkit."""
     return next((control for control in shown(window)
@@ -85,8 +91,8 @@ def faults(control):
     role, name, states = control.get_role(), control.get_name(), control.get_state_set()
     if role in NO_ROLE:
         yield f"{described(control)} has no role"
-    if role in CONTAINERS:  # where the focus only rests is one too, and better says nothing
-        return
+    if role in CONTAINERS or is_group_of_options(control):
+        return  # where the focus only rests is one too, and better says nothing
     if not name and role != Role.LABEL:  # one that has nothing to show yet
         yield f"{described(control)} has no name"
     if name.lower() in ENGLISH:

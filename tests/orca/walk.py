@@ -67,6 +67,12 @@ class Pupil:
         self._note("", self.desk.passed)
         return match
 
+    def hears_whole(self, words):
+        """Hears this, in however many breaths the reader says it, and nothing else."""
+        self.hears(f".*{words.split()[-1]}")
+        if " ".join(self.desk.passed) != words:
+            raise Silence(f"heard {self.desk.passed} instead of {words!r}")
+
     def does(self, *keys, says, also=()):
         """Presses keys and hears what they bring about, and nothing else."""
         self.desk.press(*keys)

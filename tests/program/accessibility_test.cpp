@@ -60,6 +60,21 @@ private slots:
         }
     }
 
+    void captionsOfGroupsAreMetOnceAroundTheirOptions_data() { addScreenRows(); }
+    void captionsOfGroupsAreMetOnceAroundTheirOptions()
+    {
+        for (QRadioButton* option : open().findChildren<QRadioButton*>()) {
+            QAccessibleInterface* around = QAccessible::queryAccessibleInterface(option);
+            for (; around->role() != QAccessible::Grouping; around = around->parent()) {
+                const bool isOption = around->role() == QAccessible::RadioButton;
+                QCOMPARE(around->text(QAccessible::Name).isEmpty(), !isOption);
+                QVERIFY2(
+                    around->relations(QAccessible::Label).isEmpty(), qPrintable(option->text()));
+            }
+            QVERIFY(!around->text(QAccessible::Name).isEmpty());
+        }
+    }
+
     void accessKeysAreUnique_data() { addScreenRows(); }
     void accessKeysAreUnique()
     {

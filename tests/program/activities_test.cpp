@@ -148,6 +148,23 @@ private slots:
         QVERIFY(menu->isVisible());
     }
 
+    void againstTheClockAreThreeAndNotTheirUnhurriedOnes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("hasClock");
+        for (const QString& name : {u"Form8"_s, u"Form5"_s, u"FrmCarrera"_s})
+            QTest::newRow(qPrintable(name)) << name << true;
+        for (const QString& name : {u"Form2"_s, u"FrmMultHuecos"_s, u"FrmMultidivi"_s})
+            QTest::newRow(qPrintable(name)) << name << false;
+    }
+    void againstTheClockAreThreeAndNotTheirUnhurriedOnes()
+    {
+        QFETCH(QString, name);
+        screens->show(name);
+        const QRegularExpression timers(u"^Timer[0-9]$"_s);
+        QTEST(!screens->loaded(name)->findChildren<QTimer*>(timers).isEmpty(), "hasClock");
+    }
+
     void everyScreenClosesAndReopens()
     {
         const auto rows = activities();

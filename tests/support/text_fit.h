@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 
 /// The names of the controls on a screen whose text does not fit into them.
 inline QStringList textsCutOff(const QWidget& screen)
@@ -31,6 +34,13 @@ inline QStringList textsCutOff(const QWidget& screen)
             label->size());
     for (const QRadioButton* option : screen.findChildren<QRadioButton*>())
         check(option, option->sizeHint(), option->size());
+    for (const QCheckBox* option : screen.findChildren<QCheckBox*>()) {
+        const int box = option->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, option);
+        check(option, textSize(option, option->text().remove(u'&')) + QSize(box, 0),
+            option->size());
+    }
+    for (const QGroupBox* group : screen.findChildren<QGroupBox*>())
+        check(group, textSize(group, group->title().remove(u'&')), group->size());
     for (const QPushButton* button : screen.findChildren<QPushButton*>()) {
         constexpr int Edges = 4;
         check(button, textSize(button, button->text().remove(u'&')),

@@ -181,6 +181,7 @@ private:
     }
     static void down(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers = {})
     {
+        QTest::qSleep(1); // in the millisecond of the release before, it would be a repeat
         send(true, key, text, false, modifiers);
     }
     static void repeat(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers = {})

@@ -1,0 +1,47 @@
+#include "ui/radio_group.h"
+
+#include <QAccessibleWidget>
+
+namespace ui {
+
+namespace {
+
+// Those that come with the newer toolkit look for the caption farther up too, not beyond a list.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0) && defined(Q_OS_UNIX)
+constexpr auto GroupRole = QAccessible::List;
+#else
+constexpr auto GroupRole = QAccessible::Client;
+#endif
+
+/// Without what the toolkit gives all that stands in a group box: its caption as a name and as
+/// a label. Readers say the label of a button, after the caption of the box around it.
+class RadioGroupAccessible final : public QAccessibleWidget {
+public:
+    explicit RadioGroupAccessible(RadioGroup* group)
+        : QAccessibleWidget(group, GroupRole)
+    {
+    }
+
+    QString text(QAccessible::Text) const override { return {}; }
+    QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation) const override
+    {
+        return {};
+    }
+};
+
+QAccessibleInterface* makeAccessible(const QString&, QObject* object)
+{
+    auto* group = dynamic_cast<RadioGroup*>(object);
+    return group != nullptr ? new RadioGroupAccessible(group) : nullptr;
+}
+
+} // namespace
+
+RadioGroup::RadioGroup(QWidget* box)
+    : QWidget(box)
+{
+    QAccessible::installFactory(makeAccessible); // a second time does nothing
+}
+
+} // namespace ui
