@@ -2,13 +2,28 @@
 
 #include "ui/keys.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QWidget>
 
 #include <algorithm>
 #include <utility>
 
 namespace ui {
+
+namespace {
+
+/// Whether a box has come up meanwhile, over the window that an access key was meant for.
+bool isBlocked(const QObject* owner)
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    while (owner != nullptr && !owner->isWidgetType())
+        owner = owner->parent();
+    return modal != nullptr && owner != nullptr
+        && static_cast<const QWidget*>(owner)->window() != modal;
+}
+
+} // namespace
 
 KeyOrder::KeyOrder(QObject* application)
     : QObject(application)
@@ -72,7 +87,7 @@ void KeyOrder::takeFirst()
 {
     const Press press = std::move(m_presses.front());
     m_presses.pop_front(); // first: a box that it opens has keys of its own
-    if (press.owner == nullptr)
+    if (press.owner == nullptr || isBlocked(press.owner))
         return;
     m_carriedOut = press.shortcut.get();
     QCoreApplication::sendEvent(press.owner, press.shortcut.get());

@@ -124,6 +124,18 @@ private slots:
         QCOMPARE(checked, QStringList{QString()});
     }
 
+    void aButtonBehindABoxThatHasComeUpIsNotPressed()
+    {
+        SlowReader reader;
+        type(Qt::Key_4);
+        pressAccessKey();
+        releaseAccessKey();
+        QDialog box(screen);
+        box.open();
+        reader.handBackAll();
+        QCOMPARE(checked, QStringList());
+    }
+
     void aButtonThatIsGoneIsNotPressed()
     {
         SlowReader reader;
