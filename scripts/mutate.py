@@ -242,7 +242,7 @@ def equivalents():
     if not EQUIVALENT.exists():
         return set()
     rows = re.findall(r"^\| `(.+?)` \| `(.+?)` \| `(.+?)` \|", EQUIVALENT.read_text(), re.M)
-    return set(rows)
+    return {tuple(cell.replace(r"\|", "|") for cell in row) for row in rows}  # as tables need it
 
 
 def try_all(path, compiled):

@@ -27,10 +27,9 @@ public:
     /// Draws the six numbers, then the three operators of the groups, and joins the groups.
     void newExercise();
 
-    /// "(5 + 3) + 4 x 2 - 18 ÷ 3": at most LongestText characters. There is an expression
-    /// from the first newExercise() on.
+    /// "(5 + 3) + 4 x 2 - 18 ÷ 3": at most 27 characters. There is an expression from the first
+    /// newExercise() on.
     QString text() const;
-    static constexpr int LongestText = 27;
     /// The expression, and the solution, as they are read aloud.
     QString spokenExercise() const;
     QString spokenSolution() const;

@@ -19,9 +19,9 @@ public:
         : m_work(work)
         , m_divisor(divisor)
         , m_withProducts(withProducts)
+        , m_negative(work.line(0).contains(u'-'))
     {
         const QString operation = work.line(0);
-        m_negative = operation.contains(u'-');
         while (!operation[m_firstColumn].isDigit())
             ++m_firstColumn;
         m_dividend = operation.mid(m_firstColumn).trimmed();
@@ -68,7 +68,7 @@ private:
     GridText m_work;
     qint64 m_divisor;
     bool m_withProducts;
-    bool m_negative = false;
+    bool m_negative;
     int m_firstColumn = 0;
     QString m_dividend;
     QString m_digits; // of the dividend and, after them, one zero for each decimal

@@ -18,7 +18,7 @@ namespace written {
 /// than it, or three different divisors other than 1 and itself, are asked for.
 class MultiplesDivisors {
 public:
-    enum class Mode { Multiples = 1, Divisors = 2 };
+    enum class Mode { Multiples, Divisors };
     static constexpr int Answers = 3;
     /// The three answers, read as numbers; an empty box reads 0.
     using Answer = std::array<double, Answers>;

@@ -173,6 +173,7 @@ private slots:
 
     void rightAnswerMovesTheCarAndStartsTheClocks()
     {
+        QVERIFY(!race->isOver());
         prepare(7, 5);
         QVERIFY(!race->clocksRun());
         scriptFactors(2, 8);
@@ -316,6 +317,13 @@ private slots:
         QCOMPARE(said, expected);
         race->reset();
         QCOMPARE(race->spokenStandings(), QString());
+        prepare(7, 5);
+        for (int answer = 1; answer < 5; ++answer) {
+            race->judge(0);
+            QCOMPARE(race->spokenStandings(), QString());
+        }
+        race->judge(0);
+        QCOMPARE(race->spokenStandings(), u"Tú: 0 de 15. Rival: 0 de 15."_s);
     }
 
     // --- the two ends
@@ -401,6 +409,7 @@ private slots:
         race->rivalStep();
         race->reset();
         QVERIFY(!race->clocksRun());
+        QVERIFY(!race->isOver());
         QCOMPARE(race->judge(race->result()), Verdict::NotJudged); // not set up yet
         scriptFactors(2, 2);
         race->PreparaCarrera({3, 4, 1});

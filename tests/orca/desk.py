@@ -36,9 +36,15 @@ SETTINGS = {
 # focus rests while there is nothing to be done: none of it is of use to a pupil.
 CHATTER = re.compile(r"(.* )?(un)?selected|Selection .*|Cielo.*|panel|unknown")
 
+FIRST_FUNCTION_KEY = 67  # the code of F1
 
 # The last that the reader writes before it does nothing but listen, in old words and in new ones.
 LISTENING = re.compile(r"ORCA: Starting (registry|Atspi main event loop)")
+
+
+def by_code(key):
+    """F2 as the code of its key: by its name, newer maps of the keyboard have it pressed with Alt."""
+    return re.sub(r"F([1-9])$", lambda found: str(FIRST_FUNCTION_KEY - 1 + int(found.group(1))), key)
 
 
 class Silence(AssertionError):
@@ -183,8 +189,8 @@ class Desk:
 
     def press(self, *keys):
         """Presses keys one after the other, by their X names: "Tab", "alt+v", "5"."""
-        subprocess.run(["xdotool", "key", "--delay", "30", *keys], env=self.environment,
-                       check=True)
+        subprocess.run(["xdotool", "key", "--delay", "30", *map(by_code, keys)],
+                       env=self.environment, check=True)
 
     def type(self, text):
         self.press(*str(text))

@@ -125,10 +125,12 @@ void GridTextTest::nothingIsTypedOnTheFirstLineOrBeyondTheEnd()
 void GridTextTest::typedTextRunsOnAndBreaksInItsColumn()
 {
     GridText grid(u" 84"_s, 6);
-    QVERIFY(grid.overtypeText(9, u"1234\r\n56\n7"_s));
+    QVERIFY(grid.overtypeText(9, u"1234\r\n56\n7\r8\u20299"_s));
     QCOMPARE(grid.line(1), u"   123"_s);
     QCOMPARE(grid.line(2), u"4  56 "_s);
     QCOMPARE(grid.line(3), u"   7  "_s);
+    QCOMPARE(grid.line(4), u"   8  "_s);
+    QCOMPARE(grid.line(5), u"   9  "_s);
     QCOMPARE(grid.size(), 2003);
 }
 

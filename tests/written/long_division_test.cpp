@@ -102,6 +102,8 @@ void LongDivisionTest::startsWithItsSettings()
     ScriptedRandom random{drawFor(84, 2), drawFor(7, 1)};
     LongDivision division(random);
     QCOMPARE(random.left(), 2u);
+    QCOMPARE(division.Divisor(), 1); // nothing is ever divided by 0
+    QCOMPARE(division.AnchoLinea().value(), 6);
     division.newExercise();
     QCOMPARE(random.left(), 0u);
     QCOMPARE(division.Dividendo(), 84);
@@ -463,6 +465,8 @@ void LongDivisionTest::typedDividend_data()
     QTest::newRow("largest") << u"2147483647"_s << 2147483647 << 10;
     QTest::newRow("largest and a fraction") << u"2147483647,9"_s << 2147483647 << 12;
     QTest::newRow("smallest") << u"-2147483648"_s << std::numeric_limits<qint32>::min() << 11;
+    QTest::newRow("smallest and a fraction")
+        << u"-2147483648,9"_s << std::numeric_limits<qint32>::min() << 13;
 }
 
 void LongDivisionTest::typedDividend()
@@ -586,13 +590,15 @@ void LongDivisionTest::speaksOfDivisionAndSquares()
         u"Solución: cociente 23,66, resto 2"_s);
 
     GridText work(u" 71"_s, 6);
-    work.EscribeLinea(u"11"_s, 1, 1);
+    work.EscribeLinea(u"11 3"_s, 1, 1);
     work.EscribeLinea(u"2"_s, 2, 2);
     QCOMPARE(LongDivision::spokenSquare(work, 1), u"dividendo"_s);
     QCOMPARE(LongDivision::spokenSquare(work, 6 + 1), u"línea 1; del dividendo, 7"_s);
     QCOMPARE(LongDivision::spokenSquare(work, 6 + 4), u"línea 1"_s);
     QCOMPARE(LongDivision::spokenSquare(work, 12 + 1), u"línea 2; encima, 1; del dividendo, 7"_s);
     QCOMPARE(LongDivision::spokenSquare(work, 18 + 2), u"línea 3; encima, 2; del dividendo, 1"_s);
+    QCOMPARE(LongDivision::spokenSquare(work, 12 + 4), u"línea 2; encima, 3"_s);
+    QCOMPARE(LongDivision::spokenSquare(work, 12 + 5), u"línea 2"_s);
     QCOMPARE( // over a blank
         LongDivision::spokenSquare(work, 18 + 1), u"línea 3; encima, 1; del dividendo, 7"_s);
 }
@@ -620,6 +626,7 @@ void LongDivisionTest::leavesRoomForEverySolution()
 void LongDivisionTest::leavesRoomForDivisorAndQuotient()
 {
     QCOMPARE(Drill(71, 3).division.rightFigures(), 2);
+    QCOMPARE(Drill(71, 3, 1).division.rightFigures(), 4); // 23,6
     QCOMPARE(Drill(71, 3, 2).division.rightFigures(), 5); // 23,66
     QCOMPARE(Drill(7, 12345).division.rightFigures(), 5);
 }
