@@ -38,7 +38,7 @@ check_imports
 gather_fonts
 export QT_QPA_FONTDIR=$PWD/$windows_build/fonts
 quietly "preparar wine" packaging/windows/wine.sh cmd /c ver
-rm -f "$windows_build/errors.txt"
+rm -rf "$windows_build/errors.txt" "$windows_build/pictures"
 # What a test says goes to a debugger else, where there is no console.
 WINE_ERRORS=$PWD/$windows_build/errors.txt QT_FORCE_STDERR_LOGGING=1 quietly "probar wine" \
   ctest --test-dir "$windows_build" --verbose -j "$(nproc)"
