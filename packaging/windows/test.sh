@@ -39,8 +39,10 @@ gather_fonts
 export QT_QPA_FONTDIR=$PWD/$windows_build/fonts
 quietly "preparar wine" packaging/windows/wine.sh cmd /c ver
 rm -rf "$windows_build/errors.txt" "$windows_build/pictures"
-# What a test says goes to a debugger else, where there is no console.
-WINE_ERRORS=$PWD/$windows_build/errors.txt QT_FORCE_STDERR_LOGGING=1 quietly "probar wine" \
+# What a test says goes to a debugger else, where there is no console. With the toolkit's own
+# patience a function with many rows would end on a slow machine.
+WINE_ERRORS=$PWD/$windows_build/errors.txt QT_FORCE_STDERR_LOGGING=1 \
+  QTEST_FUNCTION_TIMEOUT=900000 quietly "probar wine" \
   ctest --test-dir "$windows_build" --verbose -j "$(nproc)"
 grep -E 'tests passed|^[0-9]+: SKIP' build/probar-wine.log
 WINDOW_PLATFORM=windows quietly "recorrer wine" tests/support/on_display.sh \
