@@ -121,13 +121,16 @@ def compile_toolkit(entry, toolkit, modules):
     compile_to(entry, toolkit, f"{toolkit}.gch", "-x", "c++-header")
 
 
+def model_sources(folder, compiled):
+    return [Path(name) for name, (_, words) in compiled.items()
+            if Path(name).parent == folder and any("pizarrin_core.dir" in word for word in words)]
+
+
 def models(path):
     """The file, or of a folder every source of a model with its header."""
     if path.is_file():
         return [path]
-    sources = [Path(name) for name, (_, words) in commands().items()
-               if Path(name).parent == path and any("pizarrin_core.dir" in word for word in words)]
-    both = [file for source in sorted(sources) for file in (source, source.with_suffix(".h"))]
+    both = [file for source in sorted(model_sources(path, commands())) for file in (source, source.with_suffix(".h"))]
     return [file for file in both if file.exists()]
 
 
@@ -155,12 +158,12 @@ class Trial:
         place.parent.mkdir(parents=True, exist_ok=True)
         place.write_text(text)
         header = self.path.suffix == ".h"
-        source = self.path.with_suffix(".cpp")
         first = [*options, "-iquote", str(folder)]  # is looked into before the build's directories
         objects, faults = [], ""
-        if source.exists():
-            objects = [str(folder / "mutant.o")]
-            faults += compile_to(self.compiled[str(source)], source if header else place, objects[0],
+        # What a header defines inline, any model of its folder may have.
+        for source in model_sources(self.path.parent, self.compiled) if header else [self.path]:
+            objects.append(str(folder / f"{source.stem}.o"))
+            faults += compile_to(self.compiled[str(source)], source if header else place, objects[-1],
                                  "-include", str(TOOLKIT[".cpp"]), *first)
         if header:
             for test in self.tests:

@@ -55,7 +55,7 @@ QString joinLine(const TemplateFields& fields)
     for (const QString& text : {fields.statement, fields.answer, fields.unit})
         line.append(trimBlanks(text)).append(u'|');
     for (std::size_t k = 0; k < OperationSigns.size(); ++k) {
-        if (fields.operations[k])
+        if (fields.operations.at(k))
             line += OperationSigns[k];
     }
     return line;

@@ -91,8 +91,7 @@ void ExpressionText::failHere() const
 {
     if (m_text[m_at] == u',')
         fail(u"Los decimales se escriben con punto, no con coma"_s, m_at);
-    const bool isPair = m_text[m_at].isHighSurrogate() && m_at + 1 < m_text.size();
-    const QStringView character = m_text.mid(m_at, isPair ? 2 : 1);
+    const QStringView character = m_text.mid(m_at, m_text[m_at].isHighSurrogate() ? 2 : 1);
     fail(u"«%1» no se entiende ahí"_s.arg(character), m_at);
 }
 

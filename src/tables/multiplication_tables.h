@@ -82,7 +82,7 @@ private:
     core::RandomSource& m_random;
     std::array<core::Int16, Tables> Tablas{
         1, 2, 5, 10, 3, 4, 6, 7, 8, 9}; ///< as the menu has them
-    std::array<core::Int16, 10> Orden{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}; ///< of the questions
+    std::array<core::Int16, 10> Orden; ///< of the questions
     core::Int16 TablaActual; ///< its place in the menu, from 0
     core::Int16 ActividadActual; ///< an Activity
     core::Int16 Pregunta = 1; ///< to 10; Over behind the last one

@@ -86,6 +86,8 @@ void MessageWindow::widen(const QWidget& window)
     auto* label = findChild<QLabel*>(TextLabel);
     if (label == nullptr)
         return;
+    // Newer toolkits let Tab stop at the text, and then no reader says it with the title.
+    label->setFocusPolicy(Qt::NoFocus);
     const QFontMetrics metrics(font());
     label->setIndent(0);
     int longest = qRound(ShortestLine * factor);

@@ -30,6 +30,13 @@ SETTINGS = {
     "pronunciations": {},
     "keybindings": {},
 }
+NEWER_SETTINGS = """[org/gnome/orca/default/typing-echo]
+key-echo=false
+word-echo=false
+[org/gnome/orca/default/speech]
+speak-widget-mnemonic=false
+speak-tutorial-messages=false
+"""
 
 
 # What a reader says of a text that the program has highlighted or replaced, and of where the
@@ -136,9 +143,9 @@ class Desk:
         speech = self.folder / "speech"
         shutil.copytree("/etc/speech-dispatcher", speech)
         (speech / "speechd.conf").write_text(SPEECH.format(folder=self.folder))
-        settings = self.folder / ".local/share/orca/user-settings.conf"
-        settings.parent.mkdir(parents=True)
-        settings.write_text(json.dumps(SETTINGS))
+        self._write(".local/share/orca/user-settings.conf", json.dumps(SETTINGS))
+        self._write(".config/glib-2.0/settings/keyfile", NEWER_SETTINGS)
+        self.environment["GSETTINGS_BACKEND"] = "keyfile"
         self.start("speech-dispatcher", "-s", "-t", "0", "-C", str(speech), "-L",
                    str(self.folder))
         socket = self.folder / "run/speech-dispatcher/speechd.sock"
@@ -161,6 +168,11 @@ class Desk:
         finder.write_text("#!/bin/sh\n")
         finder.chmod(0o755)
         self.environment["PATH"] = f"{finder.parent}:{self.environment['PATH']}"
+
+    def _write(self, name, text):
+        file = self.folder / name
+        file.parent.mkdir(parents=True)
+        file.write_text(text)
 
     @staticmethod
     def _wait(condition, complaint):

@@ -149,11 +149,11 @@ private slots:
     {
         core::SeededRandom random;
         const auto report = problems::checkBank(
-            {u"Hay [3_9] cajas.|{&1+1}|cajas|+"_s, u"Dos.|2|u|+"_s, u"[2_9]|{&1+&2}||+"_s},
+            {u"Dos.|2|u|+"_s, u"Hay [3_9] cajas.|{&1+1}|cajas|+"_s, u"[2_9]|{&1+&2}||+"_s},
             random, evaluator);
         QCOMPARE(report.faultyLines, 2);
         QCOMPARE(report.text,
-            u"Línea 2: Dos.|2|u|+\n"
+            u"Línea 1: Dos.|2|u|+\n"
             "  - Sale siempre igual: no tiene datos variables.\n"
             "  - Está marcado con «Sum» y el resultado no lo usa.\n"
             "Línea 3: [2_9]|{&1+&2}||+\n"

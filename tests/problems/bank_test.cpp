@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <cstdio>
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 using problems::Bank;
@@ -326,6 +327,9 @@ private slots:
         const QString character = u"El archivo no admite el carácter «%1». Cámbielo o bórrelo."_s;
         QTest::newRow("arrow") << u"a → b|1||+"_s << character.arg(u"→"_s);
         QTest::newRow("pair") << u"¡Bien! 💥|1||+"_s << character.arg(u"💥"_s);
+        QTest::newRow("pair at the end") << u"a|1|💥"_s << character.arg(u"💥"_s);
+        const QString half(QChar(QChar::highSurrogate(0x1F4A5)));
+        QTest::newRow("half a pair at the end") << u"a|1|"_s + half << character.arg(half);
         const QString lineBreak =
             u"Un problema ocupa una sola línea y este tiene un salto de línea."_s;
         QTest::newRow("LF") << u"a\nb|1||+"_s << lineBreak;
@@ -414,6 +418,21 @@ private slots:
         }
         QVERIFY2(failure.contains(u"No hay permiso para escribir en esa carpeta."),
             qPrintable(failure));
+        QCOMPARE(contents(u"Problemas3.dat"_s), QByteArray("antes\r\n"));
+    }
+
+    void aBackupThatCannotBeMadeKeepsTheBank()
+    {
+        write(u"Problemas3.dat"_s, "antes\r\n");
+        std::error_code failed;
+        std::filesystem::create_symlink("no/tal/archivo",
+            std::filesystem::path(m_folder->filePath(u"Problemas3.bak"_s).toStdU16String()),
+            failed);
+        if (failed)
+            QSKIP("nobody may make links here");
+        QVERIFY(
+            savingFails({u"a"_s}).contains(u"\nEl sistema no ha dejado escribir en esa carpeta. "
+                                           "Pruebe a guardar otra vez.\n"_s));
         QCOMPARE(contents(u"Problemas3.dat"_s), QByteArray("antes\r\n"));
     }
 

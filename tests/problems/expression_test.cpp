@@ -270,6 +270,7 @@ private slots:
         row(u"2,5"_s, u"Los decimales se escriben con punto, no con coma"_s, 2);
         row(u"3×4"_s, u"«×» no se entiende ahí"_s, 2);
         row(u"3+💥"_s, u"«💥» no se entiende ahí"_s, 3);
+        row(u"3+💥4"_s, u"«💥» no se entiende ahí"_s, 3);
         row(u"&1*2"_s, u"«&» no se entiende ahí"_s, 1);
         row(u"1e5"_s, u"«e» no se entiende ahí"_s, 2);
         row(u"inf"_s, u"«i» no se entiende ahí"_s, 1);
@@ -300,6 +301,21 @@ private slots:
             QTEST(error.text(), "message");
             QTEST(error.position(), "position");
         }
+    }
+
+    void showsTheFirst60Characters()
+    {
+        const QString sum = u"1+"_s.repeated(30);
+        const auto shown = [](const QString& text) {
+            try {
+                ExpressionEvaluator(u"VBScript"_s).evaluate(text);
+                return QString();
+            } catch (const ExpressionError& error) {
+                return error.text().section(u"de "_s, -1);
+            }
+        };
+        QCOMPARE(shown(sum), u"«%1»)."_s.arg(sum));
+        QCOMPARE(shown(sum + u"+"_s), u"«%1…»)."_s.arg(sum));
     }
 
     void readsNumbersOfAnyLength()

@@ -77,6 +77,7 @@ private slots:
             QCOMPARE(field.value(), 0);
         QCOMPARE(state.Segundos, 0);
         QCOMPARE(state.FinActividad, End::Button);
+        QVERIFY(!drill->isRunning());
         QVERIFY(!drill->ended());
     }
 
@@ -96,6 +97,7 @@ private slots:
     {
         appendOperation(7, 8);
         const Events events = drill->start(0);
+        QVERIFY(drill->isRunning());
         QCOMPARE(factors(), Factors(7, 8));
         QCOMPARE(drill->state().Producto.value(), 56);
         QCOMPARE(drill->state().Restantes.value(), 10);
