@@ -137,9 +137,9 @@ def models(path):
 def tests_of(path):
     folder = ROOT / "tests" / path.parent.name
     listed = re.findall(r"model_test\((\w+\.cpp)\)", (folder / "CMakeLists.txt").read_text())
-    found = [folder / name for name in listed if name.startswith(path.stem)]
-    # Part of a model that is tested under another name: every model test of the folder.
-    return found or [folder / name for name in listed]
+    # A header, or part of a model that is tested under another name: every model test of the folder.
+    found = [name for name in listed if path.suffix == ".cpp" and name.startswith(path.stem)]
+    return [folder / name for name in found or listed]
 
 
 class Trial:

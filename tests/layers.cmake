@@ -57,7 +57,7 @@ function(check_screens file included)
     endif()
   endforeach()
   string(REGEX REPLACE "\\.(h|cpp)$" "" own ${file})
-  string(REGEX REPLACE "_(screen|controls|board|options)$" "" own ${own})
+  string(REGEX REPLACE "_screen$" "" own ${own})
   if(included MATCHES "_screen\\.h$|digit_dialog\\.h$" AND NOT included MATCHES "^${own}"
      AND NOT included MATCHES "^shell/exercise_screen")
     message(SEND_ERROR "${file} includes another screen: ${included}")

@@ -7,7 +7,6 @@
 #include "games/rain_grid.h"
 #include "ui/screens.h"
 
-#include <QApplication>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
@@ -239,11 +238,6 @@ ui::KeyResult Form5::CbNave_KeyDown(int KeyCode) const
 {
     const bool hits = KeyCode == ui::key::Space || KeyCode == ui::key::Enter;
     return hits && m_focus.isUnnoticed() ? ui::KeyResult::Swallow : ui::KeyResult::Pass;
-}
-
-void Form5::beep()
-{
-    QApplication::beep();
 }
 
 } // namespace games

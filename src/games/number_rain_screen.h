@@ -23,9 +23,6 @@ protected:
     void Form_Load() override;
     void resizeEvent(QResizeEvent* event) override;
 
-    /// The computer's beep.
-    virtual void beep();
-
 private:
     void makeMenu();
     void makeStart();

@@ -12,6 +12,12 @@ namespace games {
 
 namespace {
 
+// Keys by their index; 1 to 9 are digits.
+constexpr int HideKey = 0;
+constexpr int ClearKey = 10;
+constexpr int ZeroKey = 11;
+constexpr int EnterKey = 12;
+
 constexpr int Columns = 3;
 constexpr int Rows = 5; // the first holds the key that hides the keypad
 constexpr double KeySize = 400; // twips, as all measures here; keys touch, as large as may be
@@ -24,24 +30,30 @@ constexpr QRgb LightSteelBlue = 0xFFB0C4DE;
 
 constexpr ui::look::Font KeyFont{ui::look::Family::CourierNew, 17, true};
 
+/// The digit on a key, as typed.
+QString digit(int key)
+{
+    return QString::number(key == ZeroKey ? 0 : key);
+}
+
 QString keyCaption(int key)
 {
     switch (key) {
-    case RaceKeypad::ClearKey:
+    case ClearKey:
         return u"B"_s;
-    case RaceKeypad::EnterKey:
+    case EnterKey:
         return u"E"_s;
     default:
-        return RaceKeypad::digit(key);
+        return digit(key);
     }
 }
 
 QRgb keyColour(int key)
 {
     switch (key) {
-    case RaceKeypad::ClearKey:
+    case ClearKey:
         return ui::look::Red;
-    case RaceKeypad::EnterKey:
+    case EnterKey:
         return ui::look::Green;
     default:
         return LightSteelBlue;
@@ -50,9 +62,12 @@ QRgb keyColour(int key)
 
 } // namespace
 
-RaceKeypad::RaceKeypad(ui::ControlFactory& factory, QPointF upperRight, QObject* parent)
-    : QObject(parent)
+RaceKeypad::RaceKeypad(ui::HandlerGuard& guard, ui::ControlFactory& factory, QPointF upperRight,
+    ui::TextBox& answer, Callbacks callbacks)
+    : SignalHandlers(guard, static_cast<QObject&>(*this))
     , m_factory(factory)
+    , m_answer(answer)
+    , m_callbacks(std::move(callbacks))
     , PBTeclado(factory.add(new QFrame(factory.canvas()), u"PBTeclado"_s,
           {upperRight.x() - KeypadWidth, upperRight.y(), KeypadWidth, Rows * KeySize}))
     , CBConmutar(factory.add(new RaceKeypadButton(RaceKeypadButton::Drawing::Keys,
@@ -64,8 +79,8 @@ RaceKeypad::RaceKeypad(ui::ControlFactory& factory, QPointF upperRight, QObject*
     CBCalcu[HideKey] = factory.add(new RaceKeypadButton(RaceKeypadButton::Drawing::Cross,
                                        u"Ocultar el teclado"_s, PBTeclado),
         u"CBCalcu(0)"_s, {(Columns - 1) * KeySize, 0, KeySize, KeySize});
-    connect(CBCalcu[HideKey], &QPushButton::clicked, this, [this] { emit pressed(HideKey); });
-    connect(CBConmutar, &QPushButton::clicked, this, &RaceKeypad::showPressed);
+    on(CBCalcu[HideKey], &QPushButton::clicked, &RaceKeypad::CBCalcu_Click, HideKey);
+    on(CBConmutar, &QPushButton::clicked, &RaceKeypad::CBConmutar_Click);
 }
 
 void RaceKeypad::CreaTeclado()
@@ -77,28 +92,37 @@ void RaceKeypad::CreaTeclado()
         auto* key = m_factory.add(new ui::Button(keyCaption(i), QColor(keyColour(i)), PBTeclado),
             u"CBCalcu(%1)"_s.arg(i), place, KeyFont);
         key->setFocusPolicy(Qt::TabFocus); // a click leaves the caret in the answer
-        connect(key, &QPushButton::clicked, this, [this, i] { emit pressed(i); });
+        on(key, &QPushButton::clicked, &RaceKeypad::CBCalcu_Click, i);
         core::at(CBCalcu, i) = key;
     }
     CBCalcu[ClearKey]->setAccessibleName(u"Borrar"_s);
     CBCalcu[EnterKey]->setAccessibleName(u"Comprobar"_s);
 }
 
-void RaceKeypad::show()
+void RaceKeypad::CBConmutar_Click()
 {
+    m_callbacks.letGoOfFocus();
     CBConmutar->hide();
     PBTeclado->show();
 }
 
-void RaceKeypad::hide()
+void RaceKeypad::CBCalcu_Click(int Index)
 {
-    PBTeclado->hide();
-    CBConmutar->show();
-}
-
-QString RaceKeypad::digit(int key)
-{
-    return QString::number(key == ZeroKey ? 0 : key);
+    if (Index == HideKey) {
+        m_callbacks.letGoOfFocus();
+        PBTeclado->hide();
+        CBConmutar->show();
+        return;
+    }
+    if (Index == EnterKey) {
+        m_callbacks.enter();
+        return;
+    }
+    m_answer.setEdge({}); // as when it is typed into
+    if (Index == ClearKey)
+        m_answer.clear();
+    else
+        m_answer.setText(m_answer.text() + digit(Index));
 }
 
 } // namespace games

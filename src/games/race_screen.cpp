@@ -1,15 +1,14 @@
 #include "games/race_screen.h"
 
 #include "core/clock.h"
+#include "core/defect.h"
 #include "core/numbers.h"
 #include "games/car_picture.h"
-#include "games/race_keypad.h"
 #include "games/race_options_screen.h"
 #include "shell/exercise_screen.h"
 #include "ui/picture.h"
 #include "ui/screens.h"
-
-#include <QApplication>
+#include "ui/tray.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,10 +16,25 @@ namespace games {
 
 namespace {
 
+// Twips.
+constexpr double Margin = 240;
+constexpr double Width = RaceScene::Width + 2 * Margin;
+constexpr double PanelTop = 120;
+constexpr double KeypadTop = 45; // it ends above the sky
+constexpr double SceneTop = 2055;
+constexpr double TrayMargin = 180; // around the buttons
+constexpr double TrayGap = 100; // above and below the tray
+constexpr double CommandTop = SceneTop + RaceScene::Height + TrayGap + TrayMargin;
+constexpr double CommandWidth = 2520;
+constexpr double CommandHeight = 560;
+constexpr double Height = CommandTop + CommandHeight + TrayMargin + TrayGap;
+
+constexpr int Second = 1000; // milliseconds
+
 /// What a step of the pupil's car takes: it has no clock, and the next answer comes later.
 constexpr std::chrono::milliseconds PupilStep{700};
 
-constexpr std::size_t LastOfRow = 4;
+constexpr int LastOfRow = RacePanel::RowBoxes - 1;
 
 } // namespace
 
@@ -29,14 +43,61 @@ QString FrmCarrera::screenName()
     return u"FrmCarrera"_s;
 }
 
+FrmCarrera::FrmCarrera(ui::Screens& screens)
+    : Screen(screens, screenName(), u"La gran carrera"_s, Width, Height)
+    , m_race(screens.random())
+    , m_scene(new RaceScene(*this, {Margin, SceneTop}, {Width, Height}, this))
+    , m_panel(*this, {Margin, PanelTop})
+    , m_keypad(*this, *this, {Width - Margin, KeypadTop}, *m_panel.TBResultado,
+          {.enter = [this] { TBResultado_KeyPress(QChar(ui::key::Enter)); },
+              .letGoOfFocus = [this] { focusNoButton(); }})
+{
+    connectPanel();
+    makeCommands();
+    makeTimers();
+    onKeyDown(this, [this](int keyCode, Qt::KeyboardModifiers) { return Form_KeyDown(keyCode); });
+}
+
+void FrmCarrera::connectPanel()
+{
+    onKeyPress(
+        m_panel.TBResultado, [this](QChar character) { return TBResultado_KeyPress(character); });
+    for (int i = 0; i < RacePanel::RowBoxes; ++i)
+        onKeyPress(core::at(m_panel.Text2, i),
+            [this, i](QChar character) { return Text2_KeyPress(i, character); });
+}
+
+void FrmCarrera::makeCommands()
+{
+    const QColor neutral = ui::look::palette().color(QPalette::Button);
+    Command1 = {
+        button(u"Command1(0)"_s, u"&Opciones"_s,
+            {Width / 2 - CommandWidth - 120, CommandTop, CommandWidth, CommandHeight}, neutral),
+        button(u"Command1(1)"_s, u"&Repetir carrera"_s,
+            {Width / 2 + 120, CommandTop, CommandWidth, CommandHeight}, neutral)};
+    for (int i = 0; i < 2; ++i)
+        on(core::at(Command1, i), &QPushButton::clicked, &FrmCarrera::Command1_Click, i);
+    new ui::Tray({Command1[0], Command1[1]});
+}
+
+void FrmCarrera::makeTimers()
+{
+    Timer1 = timer(u"Timer1"_s, Second);
+    Timer2 = timer(u"Timer2"_s, m_race.rivalInterval());
+    for (QTimer* timer : {Timer1, Timer2})
+        timer->setTimerType(Qt::PreciseTimer);
+    on(Timer1, &QTimer::timeout, &FrmCarrera::Timer1_Timer);
+    on(Timer2, &QTimer::timeout, &FrmCarrera::Timer2_Timer);
+}
+
 void FrmCarrera::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
     Command1[0]->setFill(ui::look::Yellow);
     Command1[1]->setFill(ui::look::Cyan);
     NombresImagen = pictureNames();
-    m_keypad->CreaTeclado();
-    TBResultado->setFocus();
+    m_keypad.CreaTeclado();
+    m_panel.TBResultado->setFocus();
 }
 
 void FrmCarrera::Form_Activate()
@@ -61,7 +122,7 @@ void FrmCarrera::chooseOptions()
 
 void FrmCarrera::PreparaCarrera()
 {
-    TBOperacion->clear(); // what stays when a picture cannot be read: no race
+    m_panel.TBOperacion->clear(); // what stays when a picture cannot be read: no race
     const QImage player = carPicture(m_options.Personaje);
     const QImage rival = carPicture(m_options.Rival);
     m_race.PreparaCarrera(m_options);
@@ -80,9 +141,9 @@ QImage FrmCarrera::carPicture(core::Int16 position) const
 
 void FrmCarrera::NuevaOperacion()
 {
-    TBOperacion->setText(m_race.operation());
-    TBResultado->clear();
-    TBResultado->setFocus();
+    m_panel.TBOperacion->setText(m_race.operation());
+    m_panel.TBResultado->clear();
+    m_panel.TBResultado->setFocus();
     if (!m_race.isOver())
         sayExercise();
 }
@@ -96,19 +157,15 @@ ui::KeyResult FrmCarrera::TBResultado_KeyPress(QChar character)
 {
     if (character != QChar(ui::key::Enter))
         return ui::KeyResult::Pass;
-    switch (m_race.judge(core::readNumber(TBResultado->text()))) {
-    case shell::Verdict::NotJudged:
-        break;
-    case shell::Verdict::Wrong:
-        TBResultado->clear();
+    const auto verdict = m_race.judge(core::readNumber(m_panel.TBResultado->text()));
+    if (verdict == shell::Verdict::Wrong) {
+        m_panel.TBResultado->clear();
         showWrongAnswer();
         beep();
-        break;
-    case shell::Verdict::Right:
+    } else if (verdict == shell::Verdict::Right) {
         showVerdict();
         NuevaOperacion();
         showRightAnswer();
-        break;
     }
     return ui::KeyResult::Swallow;
 }
@@ -121,24 +178,20 @@ ui::KeyResult FrmCarrera::Text2_KeyPress(int Index, QChar character)
     }
     if (Index != LastOfRow || character != QChar(ui::key::Enter))
         return ui::KeyResult::Pass;
-    switch (m_race.judgeRow(core::readNumber(Text2[LastOfRow]->text()))) {
-    case shell::Verdict::NotJudged:
-        break;
-    case shell::Verdict::Wrong:
+    const auto verdict = m_race.judgeRow(core::readNumber(m_panel.Text2[LastOfRow]->text()));
+    if (verdict == shell::Verdict::Wrong) {
         showWrongAnswer();
-        Text2[LastOfRow]->clear();
-        break;
-    case shell::Verdict::Right:
+        m_panel.Text2[LastOfRow]->clear();
+    } else if (verdict == shell::Verdict::Right) {
         showVerdict();
         showRightAnswer();
-        break;
     }
     return ui::KeyResult::Swallow;
 }
 
 void FrmCarrera::showVerdict()
 {
-    shell::showVerdict(*Text4, m_race.verdict());
+    shell::showVerdict(*m_panel.Text4, m_race.verdict());
     say(m_race.spokenStandings());
 }
 
@@ -187,16 +240,16 @@ void FrmCarrera::endRace(const QString& text)
     ui::MessageBox::show(*this, text, windowTitle());
     for (ui::Button* command : Command1)
         command->setEnabled(true);
-    Text4->setVerdict({}, ui::VerdictBox::Mark::None);
+    m_panel.Text4->setVerdict({}, ui::VerdictBox::Mark::None);
     m_scene->track()->setFocus(); // no button: the next Enter must not press it
-    TBResultado->setEnabled(false);
+    m_panel.TBResultado->setEnabled(false);
 }
 
 // To where Enter starts no race: a button that hides would hand the focus on to the next one.
 void FrmCarrera::focusNoButton()
 {
-    if (TBResultado->isEnabled())
-        TBResultado->setFocus();
+    if (m_panel.TBResultado->isEnabled())
+        m_panel.TBResultado->setFocus();
     else
         m_scene->track()->setFocus();
 }
@@ -210,7 +263,7 @@ void FrmCarrera::stopTimers()
 
 void FrmCarrera::showTime()
 {
-    m_time->setText(u"Tiempo: %1 s"_s.arg(m_race.seconds()));
+    m_panel.showTime(m_race.seconds());
 }
 
 void FrmCarrera::Command1_Click(int Index)
@@ -218,51 +271,20 @@ void FrmCarrera::Command1_Click(int Index)
     stopTimers();
     m_race.reset();
     showTime();
-    TBResultado->setEnabled(true);
-    TBResultado->setFocus();
+    m_panel.TBResultado->setEnabled(true);
+    m_panel.TBResultado->setFocus();
     if (Index == 0)
         chooseOptions();
     else
         PreparaCarrera();
 }
 
-void FrmCarrera::CBConmutar_Click()
-{
-    focusNoButton();
-    m_keypad->show();
-}
-
-void FrmCarrera::CBCalcu_Click(int Index)
-{
-    if (Index == RaceKeypad::HideKey) {
-        focusNoButton();
-        m_keypad->hide();
-        return;
-    }
-    if (Index == RaceKeypad::EnterKey) {
-        TBResultado_KeyPress(QChar(ui::key::Enter));
-        return;
-    }
-    TBResultado->setEdge({}); // as when it is typed into
-    if (Index == RaceKeypad::ClearKey)
-        TBResultado->clear();
-    else
-        TBResultado->setText(TBResultado->text() + RaceKeypad::digit(Index));
-}
-
 // Meant, odd as it is: the blank in front changes how the operation stands and nothing else.
 ui::KeyResult FrmCarrera::Form_KeyDown(int KeyCode)
 {
-    if (KeyCode != ui::key::Control)
-        return ui::KeyResult::Pass;
-    const QString text = TBOperacion->text();
-    TBOperacion->setText(text.startsWith(u' ') ? text.mid(1) : u' ' + text);
+    if (KeyCode == ui::key::Control)
+        m_panel.shiftOperation();
     return ui::KeyResult::Pass;
-}
-
-void FrmCarrera::beep()
-{
-    QApplication::beep();
 }
 
 } // namespace games

@@ -2,14 +2,14 @@
 
 #include "games/race.h"
 #include "games/race_course.h"
+#include "games/race_keypad.h"
+#include "games/race_panel.h"
 #include "games/race_scene.h"
 #include "ui/screen.h"
 
 #include <array>
 
 namespace games {
-
-class RaceKeypad;
 
 /// The big race: every operation solved drives the pupil's car a step further, against a
 /// timed rival.
@@ -26,19 +26,13 @@ protected:
     void Form_Activate() override;
     void Form_QueryUnload() override;
 
-    /// The computer's beep.
-    virtual void beep();
-
 private:
-    void makeBoxes();
-    void makeRow();
-    void makeKeypad();
+    void connectPanel();
     void makeCommands();
+    void makeTimers();
 
     ui::KeyResult Form_KeyDown(int KeyCode);
     void Command1_Click(int Index);
-    void CBCalcu_Click(int Index);
-    void CBConmutar_Click();
     ui::KeyResult TBResultado_KeyPress(QChar character);
     ui::KeyResult Text2_KeyPress(int Index, QChar character);
     void Timer1_Timer();
@@ -61,13 +55,9 @@ private:
     RaceOptions m_options; ///< as they were chosen last
     PictureNames NombresImagen; ///< the files of the cars, by position
     RaceScene* m_scene; ///< road, cars, landscape, podium
-    ui::TextBox* TBOperacion = nullptr; ///< the operation to solve
-    ui::TextBox* TBResultado = nullptr; ///< the pupil's answer
-    ui::VerdictBox* Text4 = nullptr; ///< the verdict
-    std::array<ui::TextBox*, 5> Text2{}; ///< a second row for answers, never shown
-    RaceKeypad* m_keypad = nullptr; ///< the keypad on the screen
+    RacePanel m_panel;
+    RaceKeypad m_keypad;
     std::array<ui::Button*, 2> Command1{}; ///< a new race: with new options, with the same
-    ui::TextBox* m_time = nullptr; ///< seconds since the first right answer
     QTimer* Timer1 = nullptr; ///< the race clock, a tick a second
     QTimer* Timer2 = nullptr; ///< the rival's clock, a tick a step
 };

@@ -1,9 +1,14 @@
 #include "problems/bank_editor_screen.h"
 
 #include "core/clock.h"
+#include "core/defect.h"
 #include "problems/bank.h"
+#include "problems/marker_prompts.h"
+#include "ui/leave_check.h"
 #include "ui/list_box.h"
 #include "ui/screens.h"
+
+#include <QCheckBox>
 
 using namespace Qt::StringLiterals;
 
@@ -11,7 +16,16 @@ namespace problems {
 
 namespace {
 
-const QString NewEntry = u"(Nuevo)"_s;
+// In twips: the list at the left, what is edited of its entry at the right.
+constexpr double Width = 13800;
+constexpr double Margin = 240;
+constexpr double Top = 120;
+constexpr double ListWidth = 4980;
+constexpr double FormLeft = Margin + ListWidth + 360;
+constexpr double FormWidth = Width - Margin - FormLeft;
+constexpr double ActionsTop = Top + TemplateForm::Height + 240;
+constexpr double ActionsBottom = ActionsTop + EditorButtons::ActionHeight;
+constexpr double Height = ActionsBottom + EditorButtons::BelowActions;
 
 } // namespace
 
@@ -20,22 +34,106 @@ QString DLGProblemas::screenName()
     return u"DLGProblemas"_s;
 }
 
+DLGProblemas::DLGProblemas(ui::Screens& screens)
+    : Screen(screens, screenName(), u"Gestión de problemas"_s, Width, Height)
+    , m_evaluator(u"VBScript"_s)
+    , m_list(*this, {Margin, Top, ListWidth, ActionsBottom - Top})
+    , m_form(*this, {FormLeft, Top}, FormWidth)
+    , m_buttons(*this, {FormLeft, ActionsTop}, FormWidth)
+{
+    connectList();
+    connectForm();
+    connectButtons();
+    markWhatIsUnsaved();
+}
+
+void DLGProblemas::connectList()
+{
+    on(m_list.List1, &QListWidget::itemSelectionChanged, &DLGProblemas::List1_Click);
+    // A click on the entry that is selected already changes no selection.
+    on(m_list.List1, &QListWidget::itemClicked, [this] { List1_Click(); });
+}
+
+void DLGProblemas::connectForm()
+{
+    on(m_form.Command1, &QPushButton::clicked, &DLGProblemas::Command1_Click);
+    on(m_form.Command2, &QPushButton::clicked, &DLGProblemas::Command2_Click);
+    on(m_form.Command3, &QPushButton::clicked, &DLGProblemas::Command3_Click);
+    on(m_form.Command4, &QPushButton::clicked, &DLGProblemas::Command4_Click);
+    for (QWidget* box : std::initializer_list<QWidget*>{m_form.Text1, m_form.Text2, m_form.Text3})
+        restrictKeys(box);
+    checkOnLeaving(m_form.Text1, statementFault, &DLGProblemas::Text1_Validate);
+    checkOnLeaving(m_form.Text2, answerFault, &DLGProblemas::Text2_Validate);
+}
+
+void DLGProblemas::connectButtons()
+{
+    on(m_buttons.CBProbar, &QPushButton::clicked, &DLGProblemas::CBProbar_Click);
+    for (int i = 0; i < 3; ++i)
+        on(core::at(m_buttons.CBAccion, i), &QPushButton::clicked, &DLGProblemas::CBAccion_Click,
+            i);
+    on(m_buttons.OKButton, &QPushButton::clicked, &DLGProblemas::OKButton_Click);
+    on(m_buttons.CancelButton, &QPushButton::clicked, &DLGProblemas::CancelButton_Click);
+}
+
+void DLGProblemas::checkOnLeaving(
+    QWidget* box, QString (*fault)(const TemplateFields&), void (DLGProblemas::*validate)())
+{
+    const auto check = [this, fault, validate] {
+        QString reason = fault(m_form.fields());
+        if (reason.isEmpty())
+            guarded([&] { (this->*validate)(); });
+        return reason;
+    };
+    const auto tell = [this, validate](const QString& reason) {
+        guarded([&] {
+            ui::MessageBox::show(*this, reason);
+            (this->*validate)();
+        });
+    };
+    (new ui::LeaveCheck(box, check, tell))->exempt(m_buttons.CancelButton);
+}
+
+void DLGProblemas::restrictKeys(QWidget* box)
+{
+    onKeyPress(box, [this](QChar character) {
+        if (character == u'|')
+            ui::MessageBox::show(*this, separatorRefusal());
+        const bool breaksLine = character == QChar(ui::key::Enter);
+        return character == u'|' || breaksLine ? ui::KeyResult::Swallow : ui::KeyResult::Pass;
+    });
+}
+
+void DLGProblemas::markWhatIsUnsaved()
+{
+    m_unsaved = label(u"unsaved"_s, u"● Sin guardar: falta pulsar Guardar"_s,
+        {Width - Margin - TemplateForm::FreeWidth, Top, TemplateForm::FreeWidth,
+            TemplateForm::LabelHeight});
+    m_unsaved->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QPalette colours = m_unsaved->palette();
+    colours.setColor(QPalette::WindowText, ui::look::Wrong);
+    m_unsaved->setPalette(colours);
+    on(m_form.Text1, &QPlainTextEdit::textChanged, &DLGProblemas::showWhetherSaved);
+    on(m_form.Text2, &QLineEdit::textChanged, [this] { showWhetherSaved(); });
+    on(m_form.Text3, &QLineEdit::textChanged, [this] { showWhetherSaved(); });
+    for (QCheckBox* operation : m_form.CHOpera)
+        on(operation, &QCheckBox::toggled, [this] { showWhetherSaved(); });
+    showWhetherSaved();
+}
+
 void DLGProblemas::Form_Load()
 {
     core::seedByClock(screens().random(), screens().clock());
-    if (const auto bank = LeerBanco(screens().bankFolder().toRead())) {
+    if (const auto bank = LeerBanco(screens().bankFolder().toRead()))
         m_model.load(bank->lines);
-        List1->clear();
-        List1->addItems(bank->lines);
-    }
-    List1->addItem(NewEntry);
+    m_list.fill(m_model.lines());
     selectEntry(m_model.newEntry());
-    List1->setFocus();
+    m_list.List1->setFocus();
 }
 
 void DLGProblemas::Form_Activate()
 {
-    List1->scrollToItem(List1->item(m_model.newEntry()));
+    m_list.scrollToNewEntry();
 }
 
 void DLGProblemas::closeRequested()
@@ -45,8 +143,9 @@ void DLGProblemas::closeRequested()
 
 void DLGProblemas::List1_Click()
 {
-    const int entry = selectedEntry();
-    CBAccion[static_cast<std::size_t>(Action::Delete)]->setEnabled(entry != m_model.newEntry());
+    const int entry = m_list.selected();
+    m_buttons.CBAccion[static_cast<std::size_t>(Action::Delete)]->setEnabled(
+        entry != m_model.newEntry());
     if (!m_model.isLine(entry))
         return;
     m_form.show(m_model.show(entry));
@@ -79,29 +178,18 @@ void DLGProblemas::Command4_Click()
 
 void DLGProblemas::insertDatum(Target target)
 {
-    const QString title = u"Insertar dato variable"_s;
-    const QString minimum = ui::InputBox::ask(*this, u"valor mínimo posible: "_s, title);
-    if (minimum.isEmpty())
-        return;
-    const QString maximum = ui::InputBox::ask(*this, u"valor máximo posible: "_s, title);
-    if (!maximum.isEmpty())
-        m_form.insertAtCaret(target, u'[' + minimum + u'_' + maximum + u']');
+    insertMarker(target, askDatum(*this));
 }
 
 void DLGProblemas::insertComputed(Target target, const QString& promptEnd)
 {
-    const QString prompt =
-        // The two blanks before "y" are meant.
-        u"Escriba la expresión a insertar. Utilice &1 para insertar el primer dato, "
-        "&2 para el segundo  y así sucesivamente hasta &9"_s;
-    const QString expression =
-        ui::InputBox::ask(*this, prompt + promptEnd, u"Reinsertar dato variable"_s);
-    if (hasLooseAmpersand(expression))
-        ui::MessageBox::show(*this,
-            u"Error en la expresión, no debe dejar espacios en blanco tras el signo &"_s,
-            u"Error"_s, ui::Icon::Critical);
-    else if (!expression.isEmpty())
-        m_form.insertAtCaret(target, u'{' + expression + u'}');
+    insertMarker(target, askComputed(*this, promptEnd));
+}
+
+void DLGProblemas::insertMarker(Target target, const QString& marker)
+{
+    if (!marker.isEmpty())
+        m_form.insertAtCaret(target, marker);
 }
 
 void DLGProblemas::CBProbar_Click()
@@ -134,12 +222,10 @@ void DLGProblemas::storeEntry()
         ui::MessageBox::show(*this, refusal);
         return;
     }
-    if (selectedEntry() == BankEditor::NoEntry)
+    if (m_list.selected() == BankEditor::NoEntry)
         selectEntry(0); // shows the problem that is about to be replaced
-    const int entry = m_model.store(selectedEntry(), stored);
-    List1->item(entry)->setText(m_model.line(entry));
-    if (List1->count() == m_model.newEntry())
-        List1->addItem(NewEntry);
+    const int entry = m_model.store(m_list.selected(), stored);
+    m_list.write(entry, m_model.line(entry));
     selectEntry(m_model.newEntry());
     showWhetherSaved();
     m_form.Text1->setFocus();
@@ -147,12 +233,10 @@ void DLGProblemas::storeEntry()
 
 void DLGProblemas::deleteEntry()
 {
-    const int entry = selectedEntry();
+    const int entry = m_list.selected();
     if (!m_model.isLine(entry))
         return;
-    // Before the entry goes: the list would select, and so show, its neighbour.
-    List1->setCurrentRow(BankEditor::NoEntry);
-    delete List1->takeItem(entry);
+    m_list.remove(entry);
     m_model.remove(entry);
     showWhetherSaved();
 }
@@ -178,14 +262,8 @@ void DLGProblemas::closeDialog()
 
 void DLGProblemas::selectEntry(int entry)
 {
-    List1->setCurrentRow(entry);
+    m_list.select(entry);
     List1_Click();
-}
-
-int DLGProblemas::selectedEntry() const
-{
-    const QModelIndexList selected = List1->selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? BankEditor::NoEntry : selected.front().row();
 }
 
 void DLGProblemas::showWhetherSaved()

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "problems/bank_editor.h"
+#include "problems/bank_list.h"
+#include "problems/editor_buttons.h"
 #include "problems/expression.h"
 #include "problems/template_form.h"
 #include "ui/screen.h"
-
-namespace ui {
-class ListBox;
-}
 
 namespace problems {
 
@@ -31,12 +29,11 @@ protected:
 
 private:
     using Target = TemplateForm::Target;
-    enum class Action { Store, Empty, Delete };
+    enum class Action { Store, Empty, Delete }; ///< in the order of the buttons
 
-    ui::ListBox* makeList();
+    void connectList();
     void connectForm();
-    void makeActions();
-    void makeWaysOut();
+    void connectButtons();
     /// When the box is left: the fault is told first, then the handler runs in any case.
     void checkOnLeaving(
         QWidget* box, QString (*fault)(const TemplateFields&), void (DLGProblemas::*validate)());
@@ -59,17 +56,16 @@ private:
     void deleteEntry();
     void insertDatum(Target target);
     void insertComputed(Target target, const QString& promptEnd);
+    void insertMarker(Target target, const QString& marker);
     void selectEntry(int entry);
-    int selectedEntry() const;
     void showWhetherSaved();
     void closeDialog();
 
     BankEditor m_model;
     ExpressionEvaluator m_evaluator;
-    ui::ListBox* List1; ///< the lines of the bank, then the entry for a new one
+    BankList m_list;
     TemplateForm m_form;
-    std::array<ui::Button*, 3> CBAccion{}; ///< in the order of Action
-    ui::Button* CancelButton = nullptr; ///< closes without saving
+    EditorButtons m_buttons;
     QLabel* m_unsaved = nullptr; ///< shown while the boxes hold what "&Guardar" has not stored
 };
 

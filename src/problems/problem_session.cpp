@@ -89,9 +89,8 @@ bool ProblemSession::canChoose() const
 
 bool ProblemSession::hasSelectedBehindFirst() const
 {
-    return lastIndex() > 0
-        && std::any_of(m_operations.begin() + 1, m_operations.end(),
-            [this](OperationMask operations) { return isSelected(operations); });
+    return std::any_of(m_operations.begin() + 1, m_operations.end(),
+        [this](OperationMask operations) { return isSelected(operations); });
 }
 
 void ProblemSession::ensureChoosable()

@@ -70,10 +70,7 @@ FormProblemas::FormProblemas(ui::Screens& screens)
 {
     makeMenu();
     makeBoxes();
-    makeCommands({.check = commandPlace(0),
-        .next = commandPlace(2),
-        .clear = commandPlace(1),
-        .solution = commandPlace(3)});
+    makeCommands(inOrder(commandPlace));
     // No numbers before the first check: meant.
     LBEstado = label(u"LBEstado"_s, u"Ejercicios:   Errores:   "_s,
         {Margin, CountersTop, FullWidth, CountersHeight}, ui::look::Counters);

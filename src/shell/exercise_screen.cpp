@@ -22,6 +22,11 @@ QString ExerciseScreen::defaultSolutionCaption()
     return u"&Ver solución"_s;
 }
 
+ExerciseScreen::CommandPlaces ExerciseScreen::inOrder(ui::TwipRect (*placeOf)(int position))
+{
+    return {.check = placeOf(0), .next = placeOf(2), .clear = placeOf(1), .solution = placeOf(3)};
+}
+
 void ExerciseScreen::makeCommands(const CommandPlaces& places, const QString& solutionCaption)
 {
     Command1 = button(u"Command1"_s, u"&Hecho"_s, places.check, ui::look::Yellow);

@@ -36,6 +36,9 @@ protected:
         ui::TwipRect clear;
         ui::TwipRect solution;
     };
+    /// The same of buttons that stand in the order "&Hecho", "&Borrar", "&Continuar", "&Ver
+    /// solución"; placeOf says where one of them does, by its position from 0.
+    static CommandPlaces inOrder(ui::TwipRect (*placeOf)(int position));
     /// solutionCaption: some screens spell it their own way.
     void makeCommands(
         const CommandPlaces& places, const QString& solutionCaption = defaultSolutionCaption());

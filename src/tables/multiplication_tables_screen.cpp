@@ -1,10 +1,13 @@
 #include "tables/multiplication_tables_screen.h"
 
 #include "core/clock.h"
+#include "core/defect.h"
 #include "core/numbers.h"
 #include "tables/poster.h"
 #include "ui/ground.h"
-#include "ui/screens.h"
+#include "ui/tray.h"
+
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -12,16 +15,66 @@ namespace tables {
 
 namespace {
 
-// Out of the canvas to the right: what hides a control.
-constexpr double BoxShift = 5500;
-constexpr double CommandShift = 6000;
-constexpr double HiddenFrom = 5900;
+constexpr int MenuType = 12;
 
 } // namespace
 
 QString Form2::screenName()
 {
     return u"Form2"_s;
+}
+
+Form2::Form2(ui::Screens& screens)
+    : DrillScreen(screens, screenName(), QString(), TablesBoard::Width, TablesBoard::Height)
+    , m_board(*this)
+{
+    makeMenu();
+    enterChecks(m_board.answer());
+    onKeyDown(m_board.answer(),
+        [this](int keyCode, Qt::KeyboardModifiers) { return TbOperacion_KeyDown(keyCode); });
+    constexpr double Top = 2760;
+    constexpr double ButtonHeight = 480;
+    makeCommands({.check = {597, Top, 990, ButtonHeight},
+        .next = {2907, Top, 1260, ButtonHeight},
+        .clear = {1752, Top, 990, ButtonHeight},
+        .solution = {4332, Top, 1470, ButtonHeight}});
+    makeWayOn();
+}
+
+void Form2::makeMenu()
+{
+    setMenuType(MenuType);
+    QMenu* options = menu(u"MnuOpc"_s, u"&Opciones"_s);
+    QStringList captions;
+    for (int i = 0; i < MultiplicationTables::Tables; ++i)
+        captions << u"&%1"_s.arg(m_model.tableAt(i));
+    MnuOpcTabLis =
+        menuList(submenu(options, u"MnuOpcTab"_s, u"&Tabla"_s), u"MnuOpcTabLis"_s, captions);
+    onList(MnuOpcTabLis, &Form2::MnuOpcTabLis_Click);
+
+    QMenu* activities = submenu(options, u"MnuOpcact"_s, u"&Actividad"_s);
+    const QStringList names{
+        u"&Ver tabla"_s, u"&Repasar tabla en orden"_s, u"&Repasar tabla salteada"_s};
+    for (int i = 0; i < MultiplicationTables::Activities; ++i)
+        on(item(activities, u"MnuOpcActLis(%1)"_s.arg(i), names.at(i)), &QAction::triggered,
+            &Form2::MnuOpcActLis_Click, i);
+
+    on(item(options, u"MnuOpcSal"_s, u"&Salir (Alt - F4)"_s), &QAction::triggered,
+        [this] { unload(); });
+}
+
+void Form2::makeWayOn()
+{
+    constexpr double Top = 4500;
+    constexpr double ButtonHeight = 480;
+    const QColor neutral = ui::look::palette().color(QPalette::Button);
+    Command3 = {button(u"Command3(0)"_s, u"Siguiente &actividad"_s,
+                    {597, Top, 2515, ButtonHeight}, neutral),
+        button(
+            u"Command3(1)"_s, u"Siguiente &tabla"_s, {3287, Top, 2515, ButtonHeight}, neutral)};
+    for (int i = 0; i < 2; ++i)
+        on(core::at(Command3, i), &QPushButton::clicked, &Form2::Command3_Click, i);
+    new ui::Tray({Command3[0], Command3[1]});
 }
 
 void Form2::Form_Load()
@@ -34,8 +87,7 @@ void Form2::Form_Load()
 
 void Form2::EscribeTabla()
 {
-    TbTabla1->setPlainText(m_model.tableText(0));
-    TbTabla2->setPlainText(m_model.tableText(1));
+    m_board.writeTable(m_model.tableText(0), m_model.tableText(1));
 }
 
 void Form2::MnuOpcTabLis_Click(int Index)
@@ -49,7 +101,7 @@ void Form2::MnuOpcTabLis_Click(int Index)
 void Form2::MnuOpcActLis_Click(int Index)
 {
     m_model.chooseActivity(Index);
-    placeForActivity();
+    m_board.showQuestions(m_model.isReview(), {Command2[0], Command2[1], Command2[2], Command1});
     takeUpActivity();
 }
 
@@ -59,30 +111,9 @@ void Form2::takeUpActivity()
     if (m_model.isReview()) {
         newExercise();
     } else {
-        TbTabla1->setFocus();
+        m_board.TbTabla1->setFocus();
         sayExercise();
     }
-}
-
-void Form2::placeForActivity()
-{
-    const auto show = [this](QWidget* control, bool shown, double shift) {
-        const ui::TwipRect place = placeOf(control);
-        const bool isShown = place.left < HiddenFrom;
-        if (shown != isShown)
-            moveTo(control, place.left + (shown ? -shift : shift), place.top);
-        control->setEnabled(shown);
-    };
-    const bool review = m_model.isReview();
-    m_poster->setVisible(!review);
-    for (QWidget* table : {TbTabla1, TbTabla2})
-        show(table, !review, BoxShift);
-    for (QWidget* box : TbOperacion)
-        show(box, review, BoxShift);
-    for (QWidget* command : Command2)
-        show(command, review, CommandShift);
-    show(Command1, review, CommandShift);
-    show(Text1, review, CommandShift);
 }
 
 void Form2::EmpiezaRepaso()
@@ -93,12 +124,7 @@ void Form2::EmpiezaRepaso()
 
 void Form2::showQuestion()
 {
-    TbOperacion[0]->setText(QString::number(m_model.table()));
-    TbOperacion[2]->setText(QString::number(m_model.multiplier()));
-    TbOperacion[4]->clear();
-    TbOperacion[4]->setEdge({}); // a verdict that still stands is about the last question
-    TbOperacion[4]->setFocus();
-    showSigns();
+    m_board.writeQuestion(m_model.table(), m_model.multiplier());
     Command2[2]->setEnabled(false);
     sayExercise();
 }
@@ -108,26 +134,20 @@ QString Form2::spokenExercise() const
     return m_model.isReview() ? m_model.spokenQuestion() : m_model.spokenTable();
 }
 
-void Form2::showSigns()
-{
-    for (std::size_t i = 0; i < 4; ++i)
-        TbOperacion.at(i)->showSelected();
-}
-
 void Form2::check()
 {
-    const auto verdict = m_model.judge(core::readNumber(TbOperacion[4]->text()));
+    const auto verdict = m_model.judge(core::readNumber(m_board.answer()->text()));
     if (verdict == shell::Verdict::NotJudged) {
         if (askToRepeat())
             newExercise();
         return;
     }
-    showVerdict(*Text1, m_model.verdict());
-    Text1->showSelected();
+    showVerdict(*m_board.Text1, m_model.verdict());
+    m_board.Text1->showSelected();
     if (verdict == shell::Verdict::Right) {
         SiguientePregunta();
     } else {
-        TbOperacion[4]->clear();
+        m_board.answer()->clear();
         Command2[2]->setEnabled(true);
     }
 }
@@ -146,27 +166,27 @@ void Form2::SiguientePregunta()
 void Form2::nextExercise()
 {
     check();
-    TbOperacion[4]->setFocus();
+    m_board.answer()->setFocus();
 }
 
 void Form2::clearAnswer()
 {
-    TbOperacion[4]->clear();
-    TbOperacion[4]->setFocus();
+    m_board.answer()->clear();
+    m_board.answer()->setFocus();
 }
 
 void Form2::showSolution()
 {
-    TbOperacion[4]->setText(QString::number(m_model.showSolution()));
-    TbOperacion[4]->selectAll();
-    TbOperacion[4]->setFocus();
+    m_board.answer()->setText(QString::number(m_model.showSolution()));
+    m_board.answer()->selectAll();
+    m_board.answer()->setFocus();
     say(m_model.spokenSolution());
 }
 
 void Form2::Command3_Click(int Index)
 {
     m_model.clearVerdict();
-    showVerdict(*Text1, m_model.verdict());
+    showVerdict(*m_board.Text1, m_model.verdict());
     if (Index == 0)
         MnuOpcActLis_Click(m_model.nextActivity());
     else
@@ -175,12 +195,10 @@ void Form2::Command3_Click(int Index)
 
 ui::KeyResult Form2::TbOperacion_KeyDown(int KeyCode)
 {
-    if (KeyCode == ui::key::F5) {
-        showSigns();
-    } else {
-        for (std::size_t i = 0; i < 4; ++i)
-            TbOperacion.at(i)->deselect();
-    }
+    if (KeyCode == ui::key::F5)
+        m_board.selectOperation();
+    else
+        m_board.deselectOperation();
     return ui::KeyResult::Pass;
 }
 

@@ -2,11 +2,9 @@
 
 #include "shell/exercise_screen.h"
 #include "tables/multiplication_tables.h"
+#include "tables/tables_board.h"
 
 namespace tables {
-
-class Poster;
-class PosterHalf;
 
 /// The multiplication tables: study a table, review it in order, review it shuffled.
 class Form2 : public shell::DrillScreen<MultiplicationTables> {
@@ -27,9 +25,6 @@ protected:
 
 private:
     void makeMenu();
-    void makeTables();
-    void makeQuestion();
-    void makeVerdict();
     void makeWayOn();
 
     void Command3_Click(int Index);
@@ -41,16 +36,10 @@ private:
     void EmpiezaRepaso();
     void SiguientePregunta();
     void showQuestion();
-    void showSigns();
     void takeUpActivity();
-    void placeForActivity();
 
     ui::MenuList MnuOpcTabLis; ///< the ten tables
-    Poster* m_poster = nullptr; ///< behind both
-    PosterHalf* TbTabla1 = nullptr; ///< rows 1 to 5
-    PosterHalf* TbTabla2 = nullptr; ///< rows 6 to 10
-    std::array<ui::TextBox*, 5> TbOperacion{}; ///< table, sign, multiplier, sign, answer
-    ui::VerdictBox* Text1 = nullptr; ///< the verdict
+    TablesBoard m_board;
     std::array<ui::Button*, 2> Command3{}; ///< next activity, next table
 };
 

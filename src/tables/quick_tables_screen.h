@@ -24,9 +24,6 @@ public:
 protected:
     void Form_Load() override;
 
-    /// The computer's beep.
-    virtual void beep();
-
 private:
     void makeRow();
     void makeTime();

@@ -3,6 +3,7 @@
 #include "ui/announcement.h"
 #include "ui/screens.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QShortcut>
@@ -19,6 +20,7 @@ Screen::Screen(
     : ScaledWindow(width, height)
     , HandlerGuard(static_cast<QWidget&>(*this), screens.clock())
     , KeyHandlers(static_cast<HandlerGuard&>(*this))
+    , SignalHandlers(static_cast<HandlerGuard&>(*this), static_cast<QObject&>(*this))
     , m_screens(screens)
 {
     setObjectName(name);
@@ -39,6 +41,11 @@ QTimer* Screen::timer(const QString& name, int milliseconds)
     timer->setObjectName(name);
     timer->setInterval(milliseconds);
     return timer;
+}
+
+void Screen::beep()
+{
+    QApplication::beep();
 }
 
 // --- life

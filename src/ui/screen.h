@@ -4,10 +4,8 @@
 #include "ui/handler_guard.h"
 #include "ui/key_handlers.h"
 #include "ui/scaled_window.h"
+#include "ui/signal_handlers.h"
 
-#include <QTimer>
-
-#include <concepts>
 #include <functional>
 
 namespace ui {
@@ -18,7 +16,10 @@ class Screens;
 ///
 /// Closing a screen unloads it: it is hidden at once, its timers stop, none of its handlers
 /// starts any more, and it is destroyed when the last handler that is running has ended.
-class Screen : public ScaledWindow, public HandlerGuard, protected KeyHandlers {
+class Screen : public ScaledWindow,
+               public HandlerGuard,
+               protected KeyHandlers,
+               protected SignalHandlers {
     Q_OBJECT
 
 public:
@@ -66,47 +67,12 @@ protected:
     /// has come up, and F2 says it again.
     void sayExercise();
 
+    /// The computer's beep.
+    virtual void beep();
+
     Screens& screens() const { return m_screens; }
 
     QTimer* timer(const QString& name, int milliseconds);
-
-    // Handlers, all guarded; where is the line that connects one.
-
-    template <typename Sender, typename Signal, typename Derived, typename... Args>
-    void on(Sender* sender, Signal signal, void (Derived::*handler)(Args...),
-        core::SourceLine where = core::SourceLine::here())
-    {
-        auto* self = static_cast<Derived*>(this);
-        connect(sender, signal, this, [self, handler, where](Args... args) {
-            self->template handle<Sender>([&] { (self->*handler)(args...); }, where);
-        });
-    }
-    template <typename Sender, typename Signal, std::invocable Handler>
-    void on(Sender* sender, Signal signal, Handler handler,
-        core::SourceLine where = core::SourceLine::here())
-    {
-        connect(sender, signal, this, [this, where, handler = std::move(handler)] {
-            handle<Sender>([&] { handler(); }, where);
-        });
-    }
-    /// For an element of a control array: the handler receives the index.
-    template <typename Sender, typename Signal, typename Derived>
-    void on(Sender* sender, Signal signal, void (Derived::*handler)(int), int index,
-        core::SourceLine where = core::SourceLine::here())
-    {
-        auto* self = static_cast<Derived*>(this);
-        connect(sender, signal, this, [self, handler, index, where] {
-            self->guarded([&] { (self->*handler)(index); }, where);
-        });
-    }
-    /// For every item of a menu list.
-    template <typename Derived>
-    void onList(const MenuList& list, void (Derived::*handler)(int),
-        core::SourceLine where = core::SourceLine::here())
-    {
-        for (int i = 0; i < list.size(); ++i)
-            on(list.at(i), &QAction::triggered, handler, i, where);
-    }
 
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -118,14 +84,6 @@ private:
     bool finishHandlers() override;
     void handlersEnded() override;
 
-    template <typename Sender>
-    void handle(const std::function<void()>& body, core::SourceLine where)
-    {
-        if constexpr (std::derived_from<Sender, QTimer>)
-            guardedTick(body, where);
-        else
-            guarded(body, where);
-    }
     void nameRepeatKey();
     void leave();
     void takeUp();

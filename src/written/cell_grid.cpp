@@ -62,6 +62,16 @@ void CellGrid::scrollTo(int row)
     m_firstRow = std::clamp(row, 0, std::max(0, rowCount() - visibleRows()));
 }
 
+void CellGrid::turnWheel(int eighths)
+{
+    constexpr int Notch = 120; // eighths of a degree
+    constexpr int RowsPerNotch = 3;
+    m_wheel += eighths * RowsPerNotch;
+    const int rows = m_wheel / Notch;
+    m_wheel -= rows * Notch;
+    scrollTo(m_firstRow - rows);
+}
+
 void CellGrid::show(int position)
 {
     const int row = position / m_columns;

@@ -38,6 +38,8 @@ public:
     int endOfSight() const;
     /// Makes this the topmost line, as far as there are lines below it.
     void scrollTo(int row);
+    /// Scrolls by whole lines as a mouse wheel has been turned, in eighths of a degree.
+    void turnWheel(int eighths);
     /// Scrolls no further than needed to have a character in sight.
     void show(int position);
 
@@ -53,6 +55,7 @@ private:
     int m_columns = 1;
     int m_size = 0;
     int m_firstRow = 0;
+    int m_wheel = 0; ///< turned, in eighths of a degree and lines, and not yet scrolled
 };
 
 } // namespace written

@@ -60,10 +60,7 @@ FRMCombi::FRMCombi(ui::Screens& screens)
 {
     makeExpression();
     makeAnswer();
-    makeCommands({.check = commandPlace(0),
-                     .next = commandPlace(2),
-                     .clear = commandPlace(1),
-                     .solution = commandPlace(3)},
+    makeCommands(inOrder(commandPlace),
         u"&Ver Solución"_s); // with a capital here alone: meant
 }
 

@@ -50,6 +50,15 @@ void GridText::EscribeLinea(const QString& texto, int fila, int columna)
     m_text = m_text.left(start).leftJustified(start, Blank) + texto + blanks(BlankRoom);
 }
 
+std::optional<GridText::Word> GridText::wordAt(int position) const
+{
+    if (position >= size() || m_text.at(position) == u' ')
+        return std::nullopt;
+    const auto start = static_cast<int>(m_text.lastIndexOf(u' ', position)) + 1;
+    const auto end = static_cast<int>(m_text.indexOf(u' ', position));
+    return Word{start, end == -1 ? size() : end};
+}
+
 bool GridText::isWritable(int position) const
 {
     return position >= m_columns && position < size();

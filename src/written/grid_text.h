@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace written {
 
 /// The text of a work area: one string read as consecutive lines of columns() characters,
@@ -29,6 +31,16 @@ public:
 
     /// Writes texto from line fila, column columna on. Everything after it becomes blank.
     void EscribeLinea(const QString& texto, int fila, int columna);
+
+    /// From its first character to behind its last one.
+    struct Word {
+        int start;
+        int end;
+
+        bool operator==(const Word& other) const = default;
+    };
+    /// What stands at position between two blanks; nothing at a blank and at the end.
+    std::optional<Word> wordAt(int position) const;
 
     /// Whether a character typed at position takes its place there.
     bool isWritable(int position) const;

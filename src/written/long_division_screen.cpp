@@ -7,60 +7,14 @@
 #include "written/work_area.h"
 
 using namespace Qt::StringLiterals;
-using ui::look::Family;
 
 namespace written {
 
 namespace {
 
-// In twips. At the right of the sheet stand the operation, at the height of the quotient, and
-// under it the buttons; they move with the sheet's edge. The squares are small by nature: all
-// else is small too, so that the screen opens at a large factor, and is large with it.
-constexpr double Margin = 180;
-constexpr double TrayMargin = 180; // around the buttons
-constexpr double ColumnGap = 180;
-constexpr double ColumnWidth = 2895;
-constexpr double OperationHeight = 480;
-constexpr double CommandHeight = 400;
-constexpr double CommandPitch = 485;
-constexpr double CountersGap = 90;
-constexpr double CountersHeight = 240;
-
-constexpr ui::look::Font OperationFont{Family::Andika, 14, true};
-constexpr qsizetype LongOperation = 18; // characters, with which it needs a smaller type
-constexpr ui::look::Font LongOperationFont{Family::Andika, 10, true};
-constexpr double VerdictMark = 25;
-constexpr ui::look::Font CommandFont{Family::Andika, 10, true};
-constexpr ui::look::Font CounterFont{Family::Andika, 9};
-constexpr int MenuType = 9;
-
-double columnLeft()
+QSizeF firstCanvas()
 {
-    return DivisionBoard::firstPlace().right() + ColumnGap;
-}
-
-double designHeightFor(const ui::TwipRect& sheet)
-{
-    return sheet.bottom() + CountersGap + CountersHeight + CountersGap;
-}
-
-double designWidthAtFirst()
-{
-    return columnLeft() + ColumnWidth + Margin;
-}
-
-ui::TwipRect operationPlace()
-{
-    return {columnLeft(), DivisionBoard::quotientMiddle() - OperationHeight / 2, ColumnWidth,
-        OperationHeight};
-}
-
-/// The tray of the four ends where the sheet does at first.
-ui::TwipRect commandPlace(int position)
-{
-    const double bottom = DivisionBoard::firstPlace().bottom() - TrayMargin;
-    return {columnLeft() + TrayMargin, bottom - CommandHeight - (3 - position) * CommandPitch,
-        ColumnWidth - 2 * TrayMargin, CommandHeight};
+    return DivisionColumn::canvasFor(DivisionBoard::firstPlace());
 }
 
 } // namespace
@@ -71,21 +25,33 @@ QString Form6::screenName()
 }
 
 Form6::Form6(ui::Screens& screens)
-    : DrillScreen(screens, screenName(), u"DIVISIONES"_s, designWidthAtFirst(),
-        designHeightFor(DivisionBoard::firstPlace()))
+    : DrillScreen(
+        screens, screenName(), u"DIVISIONES"_s, firstCanvas().width(), firstCanvas().height())
+    , m_menu(*this, *this, m_model, menuCallbacks())
     , m_board(*this)
+    , m_column(*this, m_board.Text3, m_model.counters().FormatoAlineado())
 {
-    setMenuType(MenuType);
-    makeMenu();
     connectBoard();
-    makeTexts();
-    makeCommands({.check = commandPlace(0),
-                     .next = commandPlace(2),
-                     .clear = commandPlace(1),
-                     .solution = commandPlace(3)},
+    makeCommands(inOrder(DivisionColumn::commandPlace),
         u"&Ver solucióm"_s); // misspelled: meant
-    for (QWidget* command : {Command1, Command2[0], Command2[1], Command2[2]})
-        setControlFont(command, CommandFont);
+    m_column.take({Command1, Command2[0], Command2[1], Command2[2]});
+}
+
+DivisionMenu::Callbacks Form6::menuCallbacks()
+{
+    return {.showExercise = [this] { showExercise(); },
+        .showTypedDividend =
+            [this] {
+                showWork();
+                showOperation();
+            },
+        .showTypedDivisor =
+            [this] {
+                fitSheet();
+                showDivisor();
+                showOperation();
+            },
+        .leave = [this] { unload(); }};
 }
 
 void Form6::connectBoard()
@@ -99,35 +65,6 @@ void Form6::connectBoard()
     onGotFocus(m_board.Text2, [this] { Text2_GotFocus(); });
     enterChecks(m_board.Text3);
     onGotFocus(m_board.Text3, [this] { Text3_GotFocus(); });
-}
-
-void Form6::makeTexts()
-{
-    Text4 = verdictBox(u"Text4"_s, operationPlace(), u"Operación y resultado"_s);
-    Text4->setMarkSize(VerdictMark);
-    Text4->setJudged({m_board.Text3});
-    setControlFont(Text4, OperationFont);
-    const ui::TwipRect sheet = DivisionBoard::firstPlace();
-    tbResultados = countersBox(u"tbResultados"_s,
-        {Margin, sheet.bottom() + CountersGap, sheet.width, CountersHeight},
-        m_model.counters().FormatoAlineado(), CounterFont);
-}
-
-/// What stands at the right of the sheet and below it moves with its edges.
-void Form6::fitSheet()
-{
-    m_board.fit({m_model.AnchoLinea().value(), m_model.workLines(), m_model.rightFigures()});
-    const ui::TwipRect& sheet = m_board.place();
-    const double width = designWidthAtFirst() + sheet.width - DivisionBoard::firstPlace().width;
-    const double height = designHeightFor(sheet);
-    const double moved = width - designWidth();
-    if (moved == 0 && height == designHeight())
-        return;
-    for (QWidget* control :
-        std::initializer_list<QWidget*>{Text4, Command1, Command2[0], Command2[1], Command2[2]})
-        moveTo(control, placeOf(control).left + moved, placeOf(control).top);
-    moveTo(tbResultados, Margin, sheet.bottom() + CountersGap);
-    setDesignSize(width, height);
 }
 
 void Form6::Form_Load()
@@ -148,7 +85,7 @@ void Form6::NuevaDivision()
 void Form6::showExercise()
 {
     showWork();
-    m_board.Text2->setText(QString::number(m_model.Divisor()));
+    showDivisor();
     m_board.Text3->clear();
     showOperation();
 }
@@ -159,6 +96,22 @@ void Form6::showWork()
     clearWork();
 }
 
+/// What stands beside the sheet and below it moves with its edges.
+void Form6::fitSheet()
+{
+    m_board.fit({m_model.AnchoLinea().value(), m_model.workLines(), m_model.rightFigures()});
+    const QSizeF canvas = DivisionColumn::canvasFor(m_board.place());
+    if (canvas.width() == designWidth() && canvas.height() == designHeight())
+        return;
+    m_column.follow(m_board.place());
+    setDesignSize(canvas.width(), canvas.height());
+}
+
+void Form6::showDivisor()
+{
+    m_board.Text2->setText(QString::number(m_model.Divisor()));
+}
+
 /// The caret waits under the dividend's first digit: on its line nothing can be written.
 void Form6::clearWork()
 {
@@ -167,9 +120,7 @@ void Form6::clearWork()
 
 void Form6::showOperation()
 {
-    const QString operation = m_model.operationText();
-    setControlFont(Text4, operation.size() > LongOperation ? LongOperationFont : OperationFont);
-    Text4->setPlainText(operation);
+    m_column.showOperation(m_model.operationText());
     sayExercise();
 }
 
@@ -183,8 +134,8 @@ void Form6::check()
             *this, m_model.tooFewDecimals(), u"Atención"_s, ui::Icon::Information);
         return;
     }
-    tbResultados->setText(m_model.counters().FormatoAlineado());
-    showVerdict(*Text4, m_model.verdict());
+    m_column.tbResultados->setText(m_model.counters().FormatoAlineado());
+    showVerdict(*m_column.Text4, m_model.verdict());
     if (verdict == shell::Verdict::Right)
         Command2[0]->setFocus();
 }
@@ -206,7 +157,7 @@ void Form6::clearAnswer()
 void Form6::showSolution()
 {
     const WorkedDivision worked = m_model.showSolution();
-    showVerdict(*Text4, m_model.verdict());
+    showVerdict(*m_column.Text4, m_model.verdict());
     m_board.Text3->setText(worked.quotient);
     m_board.Text1->setGrid(worked.work);
     say(LongDivision::spokenSolution(worked));
@@ -237,11 +188,11 @@ ui::KeyResult Form6::Text1_KeyPress(QChar KeyAscii)
 
 void Form6::Text1_GotFocus()
 {
-    if (!Text4->text().contains(u'÷')) {
-        const bool isNamed = Text4->text() == u"Dividendo"_s;
-        Text4->setPlainText(isNamed ? u" Dividendo"_s : u"Dividendo"_s);
+    if (!m_column.Text4->text().contains(u'÷')) {
+        const bool isNamed = m_column.Text4->text() == u"Dividendo"_s;
+        m_column.Text4->setPlainText(isNamed ? u" Dividendo"_s : u"Dividendo"_s);
     }
-    Text4->showSelected();
+    m_column.Text4->showSelected();
     saySquare();
 }
 
@@ -255,12 +206,12 @@ void Form6::saySquare()
 
 void Form6::Text2_GotFocus()
 {
-    Text4->setPlainText(u"Divisor"_s);
+    m_column.Text4->setPlainText(u"Divisor"_s);
 }
 
 void Form6::Text3_GotFocus()
 {
-    Text4->setPlainText(u"Cociente"_s);
+    m_column.Text4->setPlainText(u"Cociente"_s);
 }
 
 } // namespace written

@@ -2,6 +2,8 @@
 
 #include "shell/exercise_screen.h"
 #include "written/division_board.h"
+#include "written/division_column.h"
+#include "written/division_menu.h"
 #include "written/long_division.h"
 
 namespace written {
@@ -25,10 +27,8 @@ protected:
     void showSolution() override;
 
 private:
-    void makeMenu();
-    void makeSettings(QMenu* options);
+    DivisionMenu::Callbacks menuCallbacks();
     void connectBoard();
-    void makeTexts();
 
     void saySquare();
     void writeNear(const QPoint& point);
@@ -37,29 +37,18 @@ private:
     void Text1_GotFocus();
     void Text2_GotFocus();
     void Text3_GotFocus();
-    void MnuOpcDivLis_Click(int Index);
-    void MnuOpcDisLis_Click(int Index);
-    void MnuOpcDecLis_Click(int Index);
-    void MnuOpcRes_Click();
-    void MnuOpcFor_Click();
 
     void NuevaDivision();
-    void IntroduceDividendo();
-    void IntroduceDivisor();
     void showExercise();
+    void showDivisor();
     void showWork();
     void clearWork();
     void showOperation();
     void fitSheet();
 
-    ui::MenuList MnuOpcDivLis; ///< digits of the dividend
-    ui::MenuList MnuOpcDisLis; ///< digits of the divisor
-    ui::MenuList MnuOpcDecLis; ///< decimals of the quotient
-    QAction* MnuOpcRes = nullptr; ///< the solution writes the products too
-    QAction* MnuOpcFor = nullptr; ///< the quotient must contain a zero
+    DivisionMenu m_menu;
     DivisionBoard m_board;
-    ui::VerdictBox* Text4 = nullptr; ///< the operation, the verdict, or the box being typed into
-    ui::TextBox* tbResultados = nullptr; ///< the counters
+    DivisionColumn m_column;
 };
 
 } // namespace written

@@ -4,55 +4,12 @@
 #include "core/clock.h"
 #include "ui/screens.h"
 #include "ui/squared_box.h"
-
-#include <algorithm>
+#include "written/digit_dialog.h"
 
 using namespace Qt::StringLiterals;
 using ui::SquaredBox;
 
 namespace written {
-
-namespace {
-
-// In twips. Right of the sheet stand the buttons, two by two, and under them, beside the
-// result, the verdict.
-constexpr double Margin = 250;
-constexpr double TitleTop = 420;
-constexpr double TitleHeight = 480;
-constexpr double TrayMargin = 180; // around the buttons
-constexpr double ColumnLeft = 5000;
-constexpr double CommandWidth = 2440;
-constexpr double CommandHeight = 640;
-constexpr double CommandGap = 120;
-constexpr double ColumnWidth = 2 * TrayMargin + 2 * CommandWidth + CommandGap;
-constexpr double VerdictHeight = 640;
-constexpr double CountersGap = 100;
-constexpr double CountersHeight = 330;
-constexpr double Width = ColumnLeft + ColumnWidth + Margin;
-constexpr int MostRows = 40; // that the window grows for
-
-ui::TwipRect commandPlace(int position)
-{
-    const int column = position % 2;
-    const int row = position / 2;
-    return {ColumnLeft + TrayMargin + column * (CommandWidth + CommandGap),
-        MultiplicationBoard::top() + TrayMargin + row * (CommandHeight + CommandGap),
-        CommandWidth, CommandHeight};
-}
-
-/// Beside the result, and below the buttons where that stands high.
-double verdictTop(double resultTop)
-{
-    return std::max(resultTop, commandPlace(3).bottom() + 2 * TrayMargin);
-}
-
-double heightFor(int rows)
-{
-    return MultiplicationBoard::bottomFor(std::min(rows, MostRows)) + CountersGap + CountersHeight
-        + CountersGap;
-}
-
-} // namespace
 
 QString Form3::screenName()
 {
@@ -60,34 +17,30 @@ QString Form3::screenName()
 }
 
 Form3::Form3(ui::Screens& screens)
-    : DrillScreen(screens, screenName(), u"Multiplicaciones"_s, Width, heightFor(0))
+    : DrillScreen(screens, screenName(), u"Multiplicaciones"_s,
+        MultiplicationColumn::canvasFor(0).width(), MultiplicationColumn::canvasFor(0).height())
+    , m_menu(*this, *this, m_model, menuCallbacks())
     , m_unitsFirst(*this, [this](const QString& place) { say(place); })
     , m_board(*this, [this](SquaredBox* row, int fila) { connectRow(row, fila); })
 {
-    makeMenu();
     connectFactors();
     connectResult();
-    makeCommands({.check = commandPlace(0),
-        .next = commandPlace(2),
-        .clear = commandPlace(1),
-        .solution = commandPlace(3)});
-    makeTexts();
+    makeCommands(inOrder(MultiplicationColumn::commandPlace));
+    // Made behind the buttons: so readers meet it.
+    m_column.emplace(
+        static_cast<ui::ControlFactory&>(*this), m_board, m_model.counters().FormatoAlineado());
 }
 
-void Form3::makeTexts()
+MultiplicationMenu::Callbacks Form3::menuCallbacks()
 {
-    displayBox(u"TbTítulo"_s, {Margin, TitleTop, Width - 2 * Margin, TitleHeight},
-        ui::look::Instruction, u"Instrucción"_s, u"Realiza la siguiente operación"_s);
-    Text1 = verdictBox(u"Text1"_s,
-        {ColumnLeft, verdictTop(m_board.resultTop()), ColumnWidth, VerdictHeight},
-        u"Comprobación"_s);
-    Text1->setJudged({m_board.TBResultado});
-    Text2 = countersBox(u"Text2"_s,
-        {Margin, m_board.bottom() + CountersGap, MultiplicationBoard::right() - Margin,
-            CountersHeight},
-        m_model.counters().FormatoAlineado());
-    for (ui::TextBox* box : std::initializer_list<ui::TextBox*>{Text1, Text2})
-        box->allowFocus(Qt::TabFocus);
+    const auto chooseDigits = [this](const Dialog& dialog) {
+        m_menu.chooseDigits(dialog.TablasSeleccionadas());
+    };
+    return {.newExercise = [this] { NuevaMultiplicacion(); },
+        .showTypedFactors = [this] { showExercise(); },
+        .showVerdict = [this] { showVerdict(*m_column->Text1, m_model.verdict()); },
+        .openDigits = [this, chooseDigits] { screens().showModal<Dialog>(*this, chooseDigits); },
+        .leave = [this] { unload(); }};
 }
 
 void Form3::connectFactors()
@@ -116,8 +69,6 @@ void Form3::connectResult()
 
 void Form3::Form_Load()
 {
-    MnuOpcCi1Lis.check(m_model.CifrasFactor1().value() - 1);
-    MnuOpcCi2Lis.check(m_model.CifrasFactor2().value() - 1);
     core::seedByClock(screens().random(), screens().clock());
     NuevaMultiplicacion();
     m_board.row(0)->setFocus();
@@ -126,9 +77,16 @@ void Form3::Form_Load()
 void Form3::NuevaMultiplicacion()
 {
     m_model.newExercise();
+    showExercise();
+    showVerdict(*m_column->Text1, m_model.verdict());
+}
+
+void Form3::showExercise()
+{
     PreparaFilas();
-    showFactors();
-    showVerdict(*Text1, m_model.verdict());
+    m_board.showFactors(m_model.factor1Text(), m_model.factor2Text());
+    fitSquares();
+    sayExercise();
 }
 
 void Form3::PreparaFilas()
@@ -146,20 +104,17 @@ void Form3::PreparaFilas()
 /// The verdict and the counters go down with the rows, and the window grows for them.
 void Form3::placeWindow()
 {
-    moveTo(Text1, ColumnLeft, verdictTop(m_board.resultTop()));
-    moveTo(Text2, Margin, m_board.bottom() + CountersGap);
-    const double height = heightFor(m_board.rowCount());
-    if (height != designHeight()) // a window that a person has sized stays as it is
-        setDesignSize(Width, height);
+    m_column->follow(m_board);
+    const QSizeF canvas = MultiplicationColumn::canvasFor(m_board.rowCount());
+    if (canvas.height() != designHeight()) // a window that a person has sized stays as it is
+        setDesignSize(canvas.width(), canvas.height());
 }
 
 void Form3::fitSquares()
 {
     QStringList texts = m_model.expectedRows();
     texts << m_model.resultText();
-    const auto longest = std::max_element(texts.cbegin(), texts.cend(),
-        [](const QString& a, const QString& b) { return a.size() < b.size(); });
-    m_board.fitSquares(longest->size());
+    m_board.fitSquares(texts);
 }
 
 void Form3::chainTabs()
@@ -167,23 +122,16 @@ void Form3::chainTabs()
     std::vector<QWidget*> chain;
     for (SquaredBox* box : m_board.answerBoxes())
         chain.push_back(box);
-    chain.insert(chain.end(), {Command1, Text1});
-    chain.insert(chain.end(), {Command2[1], Command2[0], Command2[2], Text2});
+    chain.insert(chain.end(), {Command1, m_column->Text1});
+    chain.insert(chain.end(), {Command2[1], Command2[0], Command2[2], m_column->Text2});
     for (std::size_t i = 1; i < chain.size(); ++i)
         setTabOrder(chain[i - 1], chain[i]);
-}
-
-void Form3::showFactors()
-{
-    m_board.showFactors(m_model.factor1Text(), m_model.factor2Text());
-    fitSquares();
-    sayExercise();
 }
 
 void Form3::check()
 {
     const auto verdict = m_model.judge({m_board.TBResultado->text(), m_board.rowTexts()});
-    showVerdict(*Text1, m_model.verdict());
+    showVerdict(*m_column->Text1, m_model.verdict());
     if (verdict == shell::Verdict::Right) {
         Command2[0]->setEnabled(true);
         Command2[0]->setFocus();
@@ -194,7 +142,7 @@ void Form3::check()
             m_board.showWrongRow(row);
         say(m_model.spokenWrongRows());
     }
-    Text2->setText(m_model.counters().FormatoAlineado());
+    m_column->Text2->setText(m_model.counters().FormatoAlineado());
 }
 
 void Form3::nextExercise()
@@ -236,7 +184,7 @@ void Form3::IndicaProducto(int posicion, int fila)
     const qsizetype length = m_board.row(fila)->text().size();
     if (!m_model.IndicaProducto(posicion, fila, static_cast<int>(length)))
         return;
-    Text1->setPlainText(m_model.verdict().text());
+    m_column->Text1->setPlainText(m_model.verdict().text());
     say(core::aloud(m_model.verdict().text()));
 }
 

@@ -3,11 +3,11 @@
 #include "shell/exercise_screen.h"
 #include "written/long_multiplication.h"
 #include "written/multiplication_board.h"
+#include "written/multiplication_column.h"
+#include "written/multiplication_menu.h"
 #include "written/units_first.h"
 
 namespace written {
-
-class Dialog;
 
 /// Written multiplication on squared paper, typed from the units leftwards.
 class Form3 : public shell::DrillScreen<LongMultiplication> {
@@ -27,9 +27,7 @@ protected:
     void showSolution() override;
 
 private:
-    void makeMenu();
-    void makeSettings(QMenu* options);
-    void makeTexts();
+    MultiplicationMenu::Callbacks menuCallbacks();
     void connectFactors();
     void connectRow(ui::SquaredBox* row, int fila);
     void connectResult();
@@ -38,32 +36,19 @@ private:
     void TbParcial_KeyDown(int Index, int KeyCode);
     void TbParcial_Change(int Index);
     void TBResultado_Change();
-    void MnuOpcCi1Lis_Click(int Index);
-    void MnuOpcCi2Lis_Click(int Index);
-    void MnuOpcSelLis_Click(int Index);
-    void MnuOpcOcu_Click();
-    void MnuOpcIn1_Click();
-    void MnuOpcIn2_Click();
 
     void NuevaMultiplicacion();
+    void showExercise();
     void PreparaFilas();
     void IndicaProducto(int posicion, int fila);
     void placeWindow();
     void fitSquares();
     void chainTabs();
-    void showFactors();
-    void takeChosenDigits(const Dialog& dialog);
-    void showChoiceOfDigits();
-    bool acceptFactor(TypedFactor outcome);
 
-    ui::MenuList MnuOpcCi1Lis; ///< digits of factor 1
-    ui::MenuList MnuOpcCi2Lis; ///< digits of factor 2
-    ui::MenuList MnuOpcSelLis; ///< any digit, or chosen ones
-    QAction* MnuOpcOcu = nullptr; ///< leaves out the rows of zeros
+    MultiplicationMenu m_menu;
     UnitsFirst m_unitsFirst;
     MultiplicationBoard m_board;
-    ui::VerdictBox* Text1 = nullptr; ///< the verdict, or the hint of a product of digits
-    ui::TextBox* Text2 = nullptr; ///< the counters
+    std::optional<MultiplicationColumn> m_column;
 };
 
 } // namespace written

@@ -58,11 +58,9 @@ FrmMultidivi::FrmMultidivi(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Múltiplos y divisores"_s, Width, Height)
 {
     makeBoxes();
-    const auto command = [](int position) {
+    makeCommands(inOrder([](int position) {
         return inRow(position, 4, CommandTop, CommandWidth, CommandHeight);
-    };
-    makeCommands(
-        {.check = command(0), .next = command(2), .clear = command(1), .solution = command(3)});
+    }));
 }
 
 void FrmMultidivi::makeBoxes()

@@ -2,8 +2,6 @@
 
 #include "core/defect.h"
 #include "ui/control_factory.h"
-#include "ui/quiet_text.h"
-#include "ui/rule.h"
 #include "ui/squared_box.h"
 #include "ui/squared_paper.h"
 #include "written/squares.h"
@@ -14,7 +12,6 @@
 
 using namespace Qt::StringLiterals;
 using ui::SquaredBox;
-using ui::look::Family;
 
 namespace written {
 
@@ -25,16 +22,13 @@ constexpr double RowLeft = 1250;
 constexpr double RowWidth = Squares::RowWidth;
 constexpr double RowHeight = Squares::RowHeight;
 constexpr double RowsTop = 2600;
-constexpr double PaperMargin = 500; // beside the rows, and above the factors
+constexpr double PaperMargin = BoardSigns::Width; // beside the rows, and above the factors
 constexpr double PaperLeft = RowLeft - 2 * PaperMargin;
 constexpr double PaperTop = RowsTop - 2 * RowHeight - PaperMargin;
 constexpr double PaperRight = RowLeft + RowWidth + PaperMargin;
 constexpr int RowsWithRoom = 7; // below which the sheet has a free row at its end
-constexpr double SignLeft = RowLeft - PaperMargin;
-constexpr double SignWidth = RowLeft - SignLeft;
 
-constexpr ui::look::Font DigitFont{Family::CourierNew, 34, true};
-constexpr ui::look::Font QuietSignFont{Family::CourierNew, 16};
+constexpr ui::look::Font DigitFont{ui::look::Family::CourierNew, 34, true};
 
 /// As far as the margins go in whole squares.
 ui::TwipRect paperPlace(const Squares& squares, double bottom)
@@ -52,11 +46,6 @@ constexpr int BlanksBehindSign = 5; // drawn as one: the sign stays near factor 
 ui::TwipRect rowPlace(int fila)
 {
     return {RowLeft, RowsTop + RowHeight * fila, RowWidth, RowHeight};
-}
-
-ui::TwipRect rulePlace(double top)
-{
-    return {SignLeft, top, RowLeft + RowWidth - SignLeft, ui::Rule::Room};
 }
 
 } // namespace
@@ -97,8 +86,7 @@ MultiplicationBoard::MultiplicationBoard(ui::ControlFactory& controls, RowMade r
     makeFactors();
     addRow();
     makeResult(*resultCross);
-    makeSigns();
-    makeRules();
+    m_signs.emplace(m_controls, *row(0));
 }
 
 void MultiplicationBoard::makeFactors()
@@ -124,26 +112,6 @@ void MultiplicationBoard::makeResult(WrongMark& cross)
     // Said each time that a reader comes by, hence short.
     TBResultado->setAccessibleDescription(u"desde las unidades"_s);
     m_result.emplace(m_controls, *TBResultado, cross);
-}
-
-void MultiplicationBoard::makeSigns()
-{
-    labIgual = m_controls.label(
-        u"labIgual"_s, u"="_s, {SignLeft, RowsTop + RowHeight, SignWidth, RowHeight}, DigitFont);
-    // Quiet: the times sign that counts is the one in front of factor 2.
-    LabX = m_controls.label(u"LabX"_s, u"&X"_s,
-        {SignLeft, RowsTop - RowHeight, SignWidth, RowHeight}, QuietSignFont, row(0));
-    LabX->setAccessibleName(row(0)->accessibleName()); // readers call the box by its label
-    new ui::QuietText(LabX);
-    for (QLabel* sign : {labIgual, LabX})
-        sign->setAlignment(Qt::AlignCenter);
-}
-
-void MultiplicationBoard::makeRules()
-{
-    m_controls.add(new ui::Rule(m_controls.canvas()), u"Line1"_s, rulePlace(RowsTop));
-    Line2 = m_controls.add(
-        new ui::Rule(m_controls.canvas()), u"Line2"_s, rulePlace(RowsTop + RowHeight));
 }
 
 // --- rows
@@ -193,8 +161,7 @@ void MultiplicationBoard::setRowCount(int rows)
 void MultiplicationBoard::placeRows()
 {
     m_controls.place(TBResultado, rowPlace(rowCount()));
-    m_controls.moveTo(Line2, SignLeft, resultTop());
-    m_controls.moveTo(labIgual, SignLeft, resultTop());
+    m_signs->placeResult(resultTop());
     empty();
 }
 
@@ -254,10 +221,13 @@ void MultiplicationBoard::showWrongResult()
     m_result->showWrong();
 }
 
-void MultiplicationBoard::fitSquares(qsizetype characters)
+void MultiplicationBoard::fitSquares(const QStringList& texts)
 {
     std::vector<SquaredBox*> boxes = answerBoxes();
     boxes.insert(boxes.end(), TbFactor.begin(), TbFactor.end());
+    qsizetype characters = 0;
+    for (const QString& text : texts)
+        characters = std::max(characters, text.size());
     for (const SquaredBox* box : boxes)
         characters = std::max<qsizetype>(characters, box->columns());
     const Squares& squares = Squares::forCharacters(characters);
@@ -265,10 +235,7 @@ void MultiplicationBoard::fitSquares(qsizetype characters)
         box->setSquare(squares.width(), squares.height, squares.top);
     m_controls.place(m_paper, paperPlace(squares, bottom()));
     m_paper->setSquare({RowLeft, RowsTop, squares.width(), squares.height});
-    for (QLabel* sign : {LabX, labIgual}) // centred, hence level with the digits
-        m_controls.place(
-            sign, {SignLeft, m_controls.placeOf(sign).top, SignWidth, 2 * squares.middle()});
-    m_controls.setControlFont(labIgual, {Family::CourierNew, squares.signPixels, true});
+    m_signs->fit(squares);
 }
 
 } // namespace written

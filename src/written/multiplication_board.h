@@ -2,6 +2,7 @@
 
 #include "core/defect.h"
 #include "written/board_row.h"
+#include "written/board_signs.h"
 
 #include <QStringList>
 
@@ -10,11 +11,8 @@
 #include <optional>
 #include <vector>
 
-class QLabel;
-
 namespace ui {
 class ControlFactory;
-class Rule;
 class SquaredBox;
 class SquaredPaper;
 } // namespace ui
@@ -53,9 +51,9 @@ public:
     void showWrongRow(int fila);
     void showWrongResult();
 
-    /// Chooses the largest squares in which a text of so many characters has room, and
-    /// whatever stands on the sheet.
-    void fitSquares(qsizetype characters);
+    /// Chooses the largest squares in which these texts have room, and whatever stands on the
+    /// sheet.
+    void fitSquares(const QStringList& texts);
 
     // Where the result and the sheet stand on the canvas, in twips.
 
@@ -75,19 +73,15 @@ private:
     void makeFactors();
     WrongMark* makeCross(int number);
     void makeResult(WrongMark& cross);
-    void makeSigns();
-    void makeRules();
     void addRow();
     void removeRow();
 
     ui::ControlFactory& m_controls;
     RowMade m_rowMade;
     ui::SquaredPaper* m_paper = nullptr;
-    QLabel* LabX = nullptr; ///< the times sign beside factor 2, and the way to the first row
     std::vector<BoardRow> TbParcial; ///< the partial products, row 0 at the top
-    ui::Rule* Line2 = nullptr; ///< the rule under the last row
-    QLabel* labIgual = nullptr; ///< the equals sign beside the result
     std::optional<BoardRow> m_result; ///< with TBResultado
+    std::optional<BoardSigns> m_signs;
 };
 
 } // namespace written

@@ -187,18 +187,6 @@ QVariant WorkArea::inputMethodQuery(Qt::InputMethodQuery query) const
     }
 }
 
-void WorkArea::focusInEvent(QFocusEvent* event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void WorkArea::focusOutEvent(QFocusEvent* event)
-{
-    QWidget::focusOutEvent(event);
-    update();
-}
-
 // --- mouse
 
 void WorkArea::mousePressEvent(QMouseEvent* event)
@@ -219,22 +207,13 @@ void WorkArea::mouseMoveEvent(QMouseEvent* event)
 void WorkArea::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const int position = positionAt(event->position().toPoint());
-    const QString& text = m_grid.text();
-    if (position == text.size() || text.at(position) == u' ')
-        return;
-    const auto start = static_cast<int>(text.lastIndexOf(u' ', position)) + 1;
-    const auto end = static_cast<int>(text.indexOf(u' ', position));
-    setSelection(start, end < 0 ? m_grid.size() : end);
+    if (const auto word = m_grid.wordAt(position))
+        setSelection(word->start, word->end);
 }
 
 void WorkArea::wheelEvent(QWheelEvent* event)
 {
-    constexpr int NotchDegrees = 120;
-    constexpr int RowsPerNotch = 3;
-    m_wheel += event->angleDelta().y() * RowsPerNotch;
-    const int rows = m_wheel / NotchDegrees;
-    m_wheel -= rows * NotchDegrees;
-    m_cells.scrollTo(m_cells.firstRow() - rows);
+    m_cells.turnWheel(event->angleDelta().y());
     update();
     event->accept();
 }

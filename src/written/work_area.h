@@ -65,8 +65,6 @@ signals:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -87,7 +85,6 @@ private:
     CellGrid m_cells{*this};
     GridCaret m_caret;
     QString m_composed; ///< what an input method is composing at the caret
-    int m_wheel = 0; ///< turned, in eighths of a degree, and not yet scrolled
 };
 
 } // namespace written

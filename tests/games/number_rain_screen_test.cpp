@@ -8,6 +8,7 @@
 #include "games/rain_splash.h"
 #include "games/token_row.h"
 #include "support/animation_clock.h"
+#include "support/quiet.h"
 #include "support/screen_bench.h"
 #include "support/still_style.h"
 
@@ -27,17 +28,11 @@ constexpr int Rows = 13; // steps from launch to escape
 constexpr int Tick = 800; // milliseconds, on Easy
 constexpr int Trip = Tick * 95 / 100; // of a number of class 5 in a tick
 
-/// The screen with a beep that is counted instead of heard.
-class QuietForm5 final : public games::Form5 {
+class QuietForm5 final : public Quiet<games::Form5> {
 public:
-    using Form5::Form5;
+    using Quiet::Quiet;
     using Screen::designHeight;
     using Screen::designWidth;
-
-    int beeps = 0;
-
-protected:
-    void beep() override { ++beeps; }
 };
 
 } // namespace

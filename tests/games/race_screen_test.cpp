@@ -4,6 +4,7 @@
 #include "games/race_track.h"
 #include "support/animation_clock.h"
 #include "support/car_folder.h"
+#include "support/quiet.h"
 #include "support/screen_bench.h"
 #include "support/still_style.h"
 
@@ -14,17 +15,6 @@ using games::DlgCarrera;
 using games::FrmCarrera;
 
 namespace {
-
-/// The race, with its beeps counted.
-class QuietRace final : public FrmCarrera {
-public:
-    using FrmCarrera::FrmCarrera;
-
-    int beeps = 0;
-
-protected:
-    void beep() override { ++beeps; }
-};
 
 class PaintCounter final : public QObject {
 public:
@@ -51,7 +41,7 @@ private slots:
     {
         bench = std::make_unique<ScreenBench>();
         copyCarPictures(bench->folder.path());
-        bench->screens.add<QuietRace>();
+        bench->screens.add<Quiet<FrmCarrera>>();
         bench->screens.add<DlgCarrera>();
     }
     void cleanup() { bench.reset(); }
@@ -727,7 +717,7 @@ private slots:
 private:
     void openDialog()
     {
-        screen = static_cast<QuietRace*>(&bench->show(u"FrmCarrera"_s));
+        screen = static_cast<Quiet<FrmCarrera>*>(&bench->show(u"FrmCarrera"_s));
         bench->attach(*screen);
         QTRY_VERIFY(bench->screens.loaded(u"DlgCarrera"_s));
         dialog = static_cast<DlgCarrera*>(bench->screens.loaded(u"DlgCarrera"_s));
@@ -845,7 +835,7 @@ private:
     }
 
     std::unique_ptr<ScreenBench> bench;
-    QuietRace* screen = nullptr;
+    Quiet<FrmCarrera>* screen = nullptr;
     DlgCarrera* dialog = nullptr;
 };
 

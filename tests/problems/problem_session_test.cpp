@@ -190,6 +190,39 @@ private slots:
         QCOMPARE(next(), u"P19"_s);
     }
 
+    void lessThanATenthIsLessThanATenth_data()
+    {
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<int>("left");
+        QTest::addColumn<bool>("isNewCycle");
+        QTest::newRow("2 of 30") << 30 << 2 << true;
+        QTest::newRow("3 of 30") << 30 << 3 << false;
+        QTest::newRow("3 of 31") << 31 << 3 << true;
+        QTest::newRow("4 of 31") << 31 << 4 << false;
+    }
+    void lessThanATenthIsLessThanATenth()
+    {
+        QFETCH(int, lines);
+        QFETCH(int, left);
+        QFETCH(bool, isNewCycle);
+        session->setBank(bankOfSize(lines));
+        for (int i = 1; i <= lines - left; ++i) {
+            script({i}, lines);
+            QCOMPARE(next(), u"P%1"_s.arg(i));
+        }
+        script({1, lines - 1}, lines); // P1 has been shown in this cycle
+        QCOMPARE(next(), isNewCycle ? u"P1"_s : u"P%1"_s.arg(lines - 1));
+    }
+
+    void twoLinesDoNotRunDry()
+    {
+        session->setBank(bankOf({u"/"_s, u"*"_s}));
+        for (int times = 0; times < 3; ++times) {
+            script({1}, 2);
+            QCOMPARE(next(), u"P1"_s);
+        }
+    }
+
     void theTenthIsOfTheWholeBankNotOfTheSelection()
     {
         QStringList operations(20, u"/"_s);

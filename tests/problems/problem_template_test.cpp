@@ -206,16 +206,17 @@ private slots:
     void tellsHowItsMarkersWereWorkedOut()
     {
         ScriptedRandom random{0, 0};
-        const auto worked =
-            problems::replaceMarkers(u"[7_9] [2_4] {&1/&2} {3-&3} (1-2)"_s, random, Evaluator);
-        QCOMPARE(worked.text, u"7 2 4 3 -1"_s);
+        const auto worked = problems::replaceMarkers(
+            u"[7_9] [2_4] {&1/&2} {3-&3} {3+4} (1-2)"_s, random, Evaluator);
+        QCOMPARE(worked.text, u"7 2 4 3 7 -1"_s);
         QCOMPARE(worked.dataMarkers, (QStringList{u"[7_9]"_s, u"[2_4]"_s}));
         QCOMPARE(worked.data[0], 7);
         QCOMPARE(worked.data[1], 2);
         QStringList computed;
         for (const auto& value : worked.computed)
             computed << u"%1 %2 %3"_s.arg(value.marker).arg(value.value).arg(value.highestDatum);
-        QCOMPARE(computed, (QStringList{u"{&1/&2} 3.5 2"_s, u"{3-&3} 3 3"_s, u"(1-2) -1 0"_s}));
+        QCOMPARE(computed,
+            (QStringList{u"{&1/&2} 3.5 2"_s, u"{3-&3} 3 3"_s, u"{3+4} 7 0"_s, u"(1-2) -1 0"_s}));
     }
 
     void aTextWithoutAClosingBracketDrawsNothing()
@@ -287,6 +288,21 @@ private slots:
         }
     }
 
+    void aMarkerOf80CharactersIsQuotedWhole()
+    {
+        const auto quoted = [](const QString& marker) {
+            try {
+                instantiate(marker + u"|1||"_s);
+                return QString();
+            } catch (const TemplateError& error) {
+                return error.text().section(u' ', -1);
+            }
+        };
+        const QString marker = u"{"_s + QString(78, u'x') + u"}"_s;
+        QCOMPARE(quoted(marker), marker);
+        QCOMPARE(quoted(u"{x"_s + marker.mid(1)), u"{x"_s + QString(78, u'x') + u"…"_s);
+    }
+
     void splitsTheFields_data()
     {
         QTest::addColumn<QString>("line");
@@ -310,6 +326,7 @@ private slots:
         row("a", "", 0, "", "a");
         row("", "", 0, "", "");
         row("|||", "", 0, "", "");
+        row("|42|kg|*", "", 42, "kg", "*");
         row("a|42|kg|*|/", "a", 42, "kg", "/"); // what follows the last one
         row(" a | 42 kg | kg | * ", " a ", 42, " kg ", " * ");
         row("a|cuarenta|kg|*", "a", 0, "kg", "*");

@@ -64,6 +64,13 @@ private slots:
             "count");
     }
 
+    void optionsAreNumberedAsTheirButtons()
+    {
+        QCOMPARE(int(ProblemSelection::AllTypes), 0);
+        QCOMPARE(int(ProblemSelection::AnySelected), 1);
+        QCOMPARE(int(ProblemSelection::AllSelected), 2);
+    }
+
     void withoutABankNothingIsLeft()
     {
         QCOMPARE(ProblemSelection().ContarDisponibles(ProblemSelection::AllTypes, 15), 0);

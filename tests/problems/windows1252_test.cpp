@@ -57,6 +57,7 @@ private slots:
         QTest::newRow("minus sign") << u"3−2"_s << qsizetype(1);
         QTest::newRow("pair") << u"ab💥"_s << qsizetype(2);
         QTest::newRow("control that stands for another byte") << u"a\u0080"_s << qsizetype(1);
+        QTest::newRow("the last of these controls") << u"\u009F"_s << qsizetype(0);
         QTest::newRow("first beyond a byte") << u"\u0100"_s << qsizetype(0);
     }
     void stopsAtACharacterThatTheCodePageLacks()

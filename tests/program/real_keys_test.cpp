@@ -110,7 +110,7 @@ private slots:
 
     void enterHeldAnswersNoQuestion()
     {
-        button(*menu, u"Command1(11)"_s).setFocus();
+        button(*menu, wayOut()).setFocus();
         bool answer = false;
         BoxAnswerer boxes{u"No"_s};
         boxes.whileOpen = [&](QDialog& box) {
@@ -119,8 +119,8 @@ private slots:
             release();
             QVERIFY(box.isVisible());
         };
-        button(*menu, u"Command1(11)"_s).disconnect();
-        connect(&button(*menu, u"Command1(11)"_s), &QPushButton::clicked, menu,
+        button(*menu, wayOut()).disconnect();
+        connect(&button(*menu, wayOut()), &QPushButton::clicked, menu,
             [&] { answer = ui::MessageBox::ask(*menu, u"¿Otra vez?"_s); });
         display({u"keydown"_s, u"Return"_s});
         QTRY_COMPARE(boxes.texts.size(), 1);

@@ -1,5 +1,6 @@
 #include "robot.h"
 
+#include "support/program_bench.h"
 #include "support/typing.h"
 #include "ui/screen.h"
 
@@ -150,7 +151,7 @@ void Robot::click(QWidget& window)
         return;
     }
     // The menu's way out, less often than the ways in.
-    if (target->objectName() == u"Command1(11)"_s && draw(20) != 0)
+    if (target->objectName() == wayOut() && draw(20) != 0)
         return;
     QTest::mouseClick(target, Qt::LeftButton);
 }

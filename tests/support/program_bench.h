@@ -33,6 +33,12 @@ inline QStringList screenNames()
     return ProgramBench().screens.names();
 }
 
+/// The menu's way out, behind its activities.
+inline QString wayOut()
+{
+    return QStringLiteral("Command1(%1)").arg(activities().size());
+}
+
 /// The screens of the activities, by name.
 inline QStringList activityScreens()
 {

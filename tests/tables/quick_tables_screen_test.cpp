@@ -1,5 +1,6 @@
 #include "tables/quick_tables_screen.h"
 
+#include "support/quiet.h"
 #include "support/screen_bench.h"
 #include "support/text_fit.h"
 
@@ -18,17 +19,6 @@ const QString TooLarge =
     u"Ha especificado un valor demasiado grande. La actividad continuará hasta   que se "
     "pulse  el botón salir"_s;
 
-/// The screen with a beep that is counted instead of heard.
-class QuietForm8 final : public Form8 {
-public:
-    using Form8::Form8;
-
-    int beeps = 0;
-
-protected:
-    void beep() override { ++beeps; }
-};
-
 } // namespace
 
 class QuickTablesScreenTest : public QObject {
@@ -39,7 +29,7 @@ private slots:
     {
         QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
         bench = std::make_unique<ScreenBench>();
-        screen = &bench->open<QuietForm8>();
+        screen = &bench->open<Quiet<Form8>>();
     }
     void cleanup() { bench.reset(); }
 
@@ -659,7 +649,7 @@ private slots:
         BoxAnswerer boxes(u"Aceptar"_s);
         bench->click(u"Command1"_s);
         verifyUnloaded();
-        screen = &bench->open<QuietForm8>();
+        screen = &bench->open<Quiet<Form8>>();
         comesUpIdleAgain();
     }
 
@@ -776,7 +766,7 @@ private:
         QVERIFY(!screen);
     }
     std::unique_ptr<ScreenBench> bench;
-    QPointer<QuietForm8> screen;
+    QPointer<Quiet<Form8>> screen;
 };
 
 PIZARRIN_SCREEN_TEST_MAIN(QuickTablesScreenTest)

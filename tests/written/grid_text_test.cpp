@@ -17,6 +17,9 @@ private slots:
     void lastWrittenLine();
     void typingReplacesOneCharacter_data();
     void typingReplacesOneCharacter();
+    void wordStandsBetweenBlanks_data();
+    void wordStandsBetweenBlanks();
+    void aWordMayReachTheEnd();
     void nothingIsTypedOnTheFirstLineOrBeyondTheEnd();
     void typedTextRunsOnAndBreaksInItsColumn();
     void typedTextStopsAtTheEnd();
@@ -106,6 +109,39 @@ void GridTextTest::typingReplacesOneCharacter()
     grid.EscribeLinea(u"123456"_s, 1, 0);
     QVERIFY(grid.overtype(8, typed));
     QCOMPARE(grid.text(), u" 84   12"_s + written + u"456"_s + QString(2000, u' '));
+}
+
+void GridTextTest::wordStandsBetweenBlanks_data()
+{
+    using Word = std::optional<GridText::Word>;
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<Word>("word");
+
+    QTest::newRow("blank before it") << u" 84"_s << 0 << Word();
+    QTest::newRow("first character") << u" 84"_s << 1 << Word({1, 3});
+    QTest::newRow("last character") << u" 84"_s << 2 << Word({1, 3});
+    QTest::newRow("blank behind it") << u" 84"_s << 3 << Word();
+    QTest::newRow("at the very start") << u"84 7"_s << 1 << Word({0, 2});
+    QTest::newRow("after another one") << u"84 7"_s << 3 << Word({3, 4});
+    QTest::newRow("last blank") << u"84"_s << 2001 << Word();
+    QTest::newRow("end of the text") << u"84"_s << 2002 << Word();
+}
+
+void GridTextTest::wordStandsBetweenBlanks()
+{
+    QFETCH(QString, line);
+    QFETCH(int, position);
+    const GridText grid(line, 6);
+    QTEST(grid.wordAt(position), "word");
+}
+
+void GridTextTest::aWordMayReachTheEnd()
+{
+    GridText grid(u"84"_s, 6);
+    QVERIFY(grid.overtypeText(grid.size() - 3, u"123"_s));
+    const int end = grid.size();
+    QCOMPARE(grid.wordAt(end - 1), (GridText::Word{end - 3, end}));
 }
 
 void GridTextTest::nothingIsTypedOnTheFirstLineOrBeyondTheEnd()
