@@ -2,6 +2,7 @@
 
 #include "ui/look.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QScreen>
 #include <QWidget>
@@ -38,7 +39,8 @@ LaptopDisplay::LaptopDisplay()
         && m_description.flush();
     if (!written)
         qFatal("no description of the display");
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + m_description.fileName().toUtf8());
+    qputenv("QT_QPA_PLATFORM",
+        "offscreen:configfile=" + QFileInfo(m_description).fileName().toUtf8());
 }
 
 QPixmap onDisplay(QWidget& window, QWidget* box)

@@ -14,7 +14,8 @@ public:
     LaptopDisplay();
 
 private:
-    QTemporaryFile m_description;
+    // In the current folder: the platform takes the colon of a drive for the end of a name.
+    QTemporaryFile m_description{QStringLiteral("display")};
 };
 
 /// The whole display with a window where it has come up, in a plain frame with its title, and

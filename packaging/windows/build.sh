@@ -37,20 +37,20 @@ list_deletions() { # folder
 
 configure_windows nsis zip fonts-sil-andika
 build_windows pizarrin pizarrin-banco
-version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$windows_build/CMakeCache.txt")
-folder=$windows_build/package/Pizarrin-$version
-archive=$PWD/dist/Pizarrin-$version-windows.zip
-installer=$PWD/dist/Pizarrin-$version-setup.exe
+name=$(package_name)
+folder=$windows_build/package/$name
+archive=$PWD/dist/$name-windows.zip
+installer=$PWD/dist/$name-setup.exe
 
 rm -rf "$folder" "$archive" "$installer"
 mkdir -p dist
 quietly "reunir archivos de windows" cmake --install "$windows_build" --prefix "$folder" --strip
 add_texts "$folder"
 add_fonts "$folder"
-(cd "$windows_build/package" && zip -qrX9 "$archive" "Pizarrin-$version")
+(cd "$windows_build/package" && zip -qrX9 "$archive" "$name")
 list_deletions "$folder" >"$windows_build/package/files.nsh"
 quietly "hacer instalador de windows" makensis -V2 -NOCD -DFOLDER="$PWD/$folder" \
   -DFILES="$PWD/$windows_build/package/files.nsh" -DINSTALLER="$installer" \
-  -DVERSION="$version" -DICON="$PWD/art/pizarrin.ico" -DSIDE="$PWD/art/installer.bmp" \
+  -DVERSION="${name#Pizarrin-}" -DICON="$PWD/art/pizarrin.ico" -DSIDE="$PWD/art/installer.bmp" \
   packaging/windows/installer.nsi
-ls -1 dist/Pizarrin-"$version"-*
+ls -1 dist/"$name"-*

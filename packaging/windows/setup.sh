@@ -6,6 +6,10 @@ windows_packages=(g++ cmake ninja-build dpkg-dev g++-mingw-w64-x86-64-posix qt6-
   qt6-translations-l10n)
 windows_build=build/windows
 
+package_name() { # what the archive and the installer are called, but for their ends
+  sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=/Pizarrin-/p' "$windows_build/CMakeCache.txt"
+}
+
 configure_windows() { # packages that the caller needs too
   local toolkit
   need_packages "${windows_packages[@]}" "$@"

@@ -52,8 +52,10 @@ fetch_source() {
   mv extracted source # only a whole one has that name
 }
 
+# Goes on where an earlier one was cut short: what is there was made of the same source with the
+# same options.
 build() {
-  rm -rf "$folder" "$work/build" "$work/extracted"
+  rm -rf "$folder" "$work/extracted"
   mkdir -p "$work"
   cd "$work"
   [ -d source ] || fetch_source

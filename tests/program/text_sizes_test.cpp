@@ -57,6 +57,18 @@ struct Smallest {
     }
 };
 
+/// The type whose figures are so many pixels high, where they are written on the squares of a
+/// screen: the faces fill their size differently, and there the figures are fitted to the
+/// squares.
+double typeWithFigures(double height, const ui::Screen& screen)
+{
+    constexpr int Reference = 1000;
+    QFont face = ScreenBench::find<QLineEdit>(screen, u"TBResultado"_s).font();
+    face.setPixelSize(Reference);
+    face.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+    return height * Reference / QFontMetricsF(face).tightBoundingRect(u"0"_s).height();
+}
+
 using SmallestByClass = std::array<Smallest, ClassNames.size()>;
 
 /// The name of a control, or of what it is a part of.
@@ -206,7 +218,7 @@ private:
     }
 
     /// On a laptop a child reads its work at a glance. On a netbook nothing is too small to read.
-    static Limits limits(State state)
+    Limits limits(State state) const
     {
         QFETCH(QString, name);
         const bool laptop = isLaptop();
@@ -217,9 +229,9 @@ private:
         // Twenty figures side by side in rows of the given width and height, ten of which must
         // stand one above the other: the screen then fills the display from top to bottom.
         if (state == State::Largest && name == u"Form3"_s)
-            least = laptop ? Limits{17, 14, 17}
-                : netbook  ? Limits{13, 11, 13}
-                           : Limits{11, 10, 11};
+            least = laptop ? Limits{17, 14, typeWithFigures(10, *screen)}
+                : netbook  ? Limits{13, 11, typeWithFigures(8, *screen)}
+                           : Limits{11, 10, typeWithFigures(6.75, *screen)};
         // Zoomed until there is less room than on any, it is as sharp as before.
         if (QGuiApplication::primaryScreen()->size().width() < 1024)
             for (double& pixels : least)
