@@ -39,9 +39,9 @@ QAccessibleInterface* makeAccessible(const QString&, QObject* object)
 } // namespace
 
 RadioGroup::RadioGroup(QWidget* box)
-    : QWidget(box)
 {
     QAccessible::installFactory(makeAccessible); // a second time does nothing
+    setParent(box); // last: newer toolkits ask for what is above as soon as there is a parent
 }
 
 } // namespace ui
