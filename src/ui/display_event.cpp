@@ -27,6 +27,16 @@ bool isRequest(const void* message)
     return word(1) != 0 && word(2) == 0 && word(3) == 0 && word(4) == 0;
 }
 
+/// While no window has the keyboard, the one under the pointer is told that it has it, and then
+/// that it has lost it: nobody has activated it.
+DisplayEvent focusEvent(Kind kind, const void* message)
+{
+    constexpr quint8 BecauseOfThePointer = 5;
+    if (numberAt<quint8>(message, 1) == BecauseOfThePointer)
+        return {};
+    return {kind, numberAt<quint32>(message, 4)};
+}
+
 /// By the X11 protocol: the window stands at another place in each kind of event.
 DisplayEvent readX11(const void* message)
 {
@@ -41,9 +51,9 @@ DisplayEvent readX11(const void* message)
     case ButtonPress:
         return {Kind::Press, numberAt<quint32>(message, 12)};
     case FocusIn:
-        return {Kind::Activation, numberAt<quint32>(message, 4)};
+        return focusEvent(Kind::Activation, message);
     case FocusOut:
-        return {Kind::Deactivation, numberAt<quint32>(message, 4)};
+        return focusEvent(Kind::Deactivation, message);
     case Message:
         if (isRequest(message))
             return {Kind::Activation, numberAt<quint32>(message, 4)};

@@ -78,6 +78,8 @@ private slots:
     {
         compare(x11(Message().put<quint8>(0, 9).put(4, Window)), Kind::Activation);
         compare(x11(Message().put<quint8>(0, 10).put(4, Window)), Kind::Deactivation);
+        for (const quint8 type : {quint8{9}, quint8{10}}) // of who is under the pointer
+            compare(x11(Message().put(0, type).put<quint8>(1, 5).put(4, Window)), Kind::Other);
     }
 
     void x11EventSentByAnotherProgramCountsToo()
