@@ -208,6 +208,7 @@ private slots:
         ui::Screen& activity = loaded(u"Form4"_s);
         minimise(activity);
         if (clicked) {
+            QTRY_COMPARE(activeOnDisplay(), menu->winId()); // else the click may come too early
             clickMenu();
         } else {
             minimise(*menu);
@@ -359,11 +360,19 @@ private:
         display({u"mousemove"_s, QString::number(place.x()), QString::number(place.y()),
             u"click"_s, u"1"_s});
     }
+    /// The window that has the keyboard, as the window manager tells.
+    static WId activeOnDisplay()
+    {
+        QProcess asked;
+        asked.start(u"xdotool"_s, {u"getactivewindow"_s});
+        asked.waitForFinished();
+        return asked.readAllStandardOutput().trimmed().toULongLong();
+    }
     static void minimise(const QWidget& window)
     {
         QGuiApplication::sync(); // it may still be asking to be activated
         display({u"windowminimize"_s, QString::number(window.winId())});
-        QTRY_VERIFY(window.isMinimized());
+        QTRY_VERIFY2(window.isMinimized(), qPrintable(window.objectName()));
     }
 
     std::unique_ptr<ProgramBench> program;
