@@ -3,6 +3,7 @@
 #include "core/random.h"
 #include "core/system.h"
 #include "shell/main_menu_screen.h"
+#include "shell/pictograms.h"
 #include "ui/application.h"
 #include "ui/desktop_contrast.h"
 #include "ui/fonts.h"
@@ -23,6 +24,8 @@ int main(int argc, char* argv[])
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
     QApplication application(nameAlone, argv);
     const std::jthread fonts = ui::look::readFontList(std::move(fontSettings));
+    const shell::PictogramsAhead pictograms(
+        shell::Form1::pictogramSide(*QGuiApplication::primaryScreen()));
     ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
 

@@ -3,10 +3,13 @@
 #include "core/defect.h"
 #include "shell/main_menu.h"
 #include "shell/pictograms.h"
+#include "ui/control_painting.h"
 #include "ui/ground.h"
+#include "ui/opening_factor.h"
 #include "ui/screens.h"
 
 #include <QAction>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 using ui::look::Family;
@@ -27,6 +30,13 @@ constexpr ui::look::Font ButtonFont{Family::Arial, 16, true}; // 12 points
 QString Form1::screenName()
 {
     return u"Form1"_s;
+}
+
+int Form1::pictogramSide(const QScreen& display)
+{
+    const QSizeF window(ClientWidth / ui::TwipsPerPixel, WindowHeight / ui::TwipsPerPixel);
+    const double factor = ui::openingFactor(window, display.availableGeometry().size());
+    return qRound(ui::iconSide(factor) * display.devicePixelRatio());
 }
 
 Form1::Form1(ui::Screens& screens, std::vector<Activity> activities)

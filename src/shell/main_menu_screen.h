@@ -5,12 +5,16 @@
 
 #include <vector>
 
+class QScreen;
+
 namespace shell {
 
 /// The main menu: one button an activity, and "&Salir", which ends the program.
 class Form1 : public ui::Screen {
 public:
     static QString screenName();
+    /// The side of the pictograms, in a display's own pixels, when the menu comes up on it.
+    static int pictogramSide(const QScreen& display);
 
     Form1(ui::Screens& screens, std::vector<Activity> activities);
 

@@ -15,6 +15,32 @@ namespace {
 
 constexpr QRgb Accent = 0xFFD2500F;
 
+PictogramsAhead* ahead = nullptr;
+
+void drawInto(QImage& picture, Pictogram id)
+{
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawPictogram(painter, id, QRectF(picture.rect()));
+}
+
+/// A picture of a sheet, in the sheet's own memory.
+QImage pictureIn(QImage& sheet, Pictogram id)
+{
+    const int side = sheet.width();
+    return {sheet.scanLine(static_cast<int>(id) * side), side, side, sheet.bytesPerLine(),
+        sheet.format()};
+}
+
+void paintPicture(QPainter& painter, const QRectF& target, Pictogram id, int side)
+{
+    if (ahead != nullptr && ahead->paint(painter, target, id, side))
+        return;
+    QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
+    drawInto(picture, id);
+    painter.drawImage(target, picture);
+}
+
 class PictogramEngine : public QIconEngine {
 public:
     explicit PictogramEngine(Pictogram pictogram)
@@ -27,7 +53,13 @@ public:
         const qreal side = std::min(rect.width(), rect.height());
         QRectF square(0, 0, side, side);
         square.moveCenter(QRectF(rect).center());
-        drawPictogram(*painter, m_pictogram, square, mode != QIcon::Disabled);
+        const QRectF place = painter->deviceTransform().mapRect(square);
+        const QRect pixels = place.toRect();
+        const bool whole = place == QRectF(pixels) && pixels.width() == pixels.height();
+        if (whole && mode != QIcon::Disabled) // by a picture even if it was not drawn ahead
+            paintPicture(*painter, square, m_pictogram, pixels.width());
+        else
+            drawPictogram(*painter, m_pictogram, square, mode != QIcon::Disabled);
     }
 
     // The inherited one paints on a pixmap that nobody cleared.
@@ -68,6 +100,38 @@ void drawPictogram(QPainter& painter, Pictogram id, const QRectF& square, bool e
 QIcon pictogramIcon(Pictogram id)
 {
     return QIcon(new PictogramEngine(id));
+}
+
+PictogramsAhead::PictogramsAhead(int side)
+    : m_side(side)
+    , m_sheet(side, side * PictogramCount, QImage::Format_ARGB32_Premultiplied)
+    , m_drawing([this] {
+        for (int i = 0; i < PictogramCount; ++i) {
+            QImage picture = pictureIn(m_sheet, Pictogram(i));
+            drawInto(picture, Pictogram(i));
+        }
+    })
+{
+    ahead = this;
+}
+
+PictogramsAhead::~PictogramsAhead()
+{
+    ahead = nullptr;
+}
+
+bool PictogramsAhead::paint(QPainter& painter, const QRectF& target, Pictogram id, int side)
+{
+    const auto index = static_cast<std::size_t>(id);
+    if (side != m_side || m_taken.test(index))
+        return false;
+    if (m_drawing.joinable())
+        m_drawing.join();
+    painter.drawImage(target, pictureIn(m_sheet, id));
+    m_taken.set(index);
+    if (m_taken.all())
+        m_sheet = {};
+    return true;
 }
 
 } // namespace shell

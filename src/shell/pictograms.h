@@ -1,6 +1,10 @@
 #pragma once
 
 #include <QIcon>
+#include <QImage>
+
+#include <bitset>
+#include <thread>
 
 class QPainter;
 class QRectF;
@@ -22,12 +26,34 @@ enum class Pictogram {
     Race,
     Exit
 };
+inline constexpr int PictogramCount = static_cast<int>(Pictogram::Exit) + 1;
 
 /// Draws a pictogram into a square, crisp at any size: ink with one accent colour on nothing,
 /// quiet when disabled.
 void drawPictogram(QPainter& painter, Pictogram id, const QRectF& square, bool enabled = true);
 
-/// An icon that draws a pictogram anew at every size and pixel ratio.
+/// An icon that draws a pictogram anew at every size and pixel ratio, but for one drawn ahead.
 QIcon pictogramIcon(Pictogram id);
+
+/// Draws all pictograms on a thread of its own, while the program gets ready. As long as one is
+/// there, an icon that is first painted at that size takes its picture, for which it waits; what
+/// is painted is the same. When all are taken, their memory is free again.
+class PictogramsAhead {
+public:
+    /// side: of each picture, in pixels of the display.
+    explicit PictogramsAhead(int side);
+    ~PictogramsAhead();
+    PictogramsAhead(const PictogramsAhead&) = delete;
+    PictogramsAhead& operator=(const PictogramsAhead&) = delete;
+
+    /// Paints a picture of that side (pixels) into target, once; false where it is not there.
+    bool paint(QPainter& painter, const QRectF& target, Pictogram id, int side);
+
+private:
+    const int m_side;
+    QImage m_sheet; ///< one below the other
+    std::bitset<PictogramCount> m_taken;
+    std::jthread m_drawing; ///< ends before the sheet goes
+};
 
 } // namespace shell

@@ -57,7 +57,7 @@ int drawIconCard(
     drawRounded(painter, card, look::paper(),
         look::edgeOf(option.palette.color(QPalette::Button)),
         look::thick(look::EdgeWidth) * factor, ButtonRadius * factor);
-    QRect icon(0, 0, qRound(IconSize * factor), qRound(IconSize * factor));
+    QRect icon(0, 0, iconSide(factor), iconSide(factor));
     icon.moveCenter(card.center());
     option.icon.paint(&painter, icon, Qt::AlignCenter,
         option.state & QStyle::State_Enabled ? QIcon::Normal : QIcon::Disabled);
@@ -117,6 +117,11 @@ void drawButton(QPainter& painter, const QStyleOption& option, double factor, bo
     if (showsFocus && (option.state & QStyle::State_HasFocus))
         drawRounded(painter, rect, Qt::NoBrush, option.palette.color(QPalette::Highlight),
             look::thick(look::RingWidth) * factor, ButtonRadius * factor);
+}
+
+int iconSide(double factor)
+{
+    return qRound(IconSize * factor);
 }
 
 void drawButtonLabel(

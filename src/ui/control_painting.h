@@ -27,6 +27,9 @@ QRect buttonFace(const QRect& place, bool hasIcon, double factor);
 /// A button without its caption; showsFocus: with a ring of its own while it has the focus.
 void drawButton(QPainter& painter, const QStyleOption& option, double factor, bool showsFocus);
 
+/// The side of the square in which a button's icon is painted, in pixels.
+int iconSide(double factor);
+
 /// A button's caption; where it has an icon, that on a paper card at its left.
 void drawButtonLabel(
     QPainter& painter, const QStyleOptionButton& option, double factor, bool showsAccessKey);

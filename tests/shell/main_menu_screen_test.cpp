@@ -154,6 +154,22 @@ private slots:
         QCOMPARE(about->menu(), nullptr);
     }
 
+    void itsPictogramsAreDrawnAheadAtTheSideThatItNeeds()
+    {
+        const QImage expected = menu->grab().toImage();
+        const int side = Form1::pictogramSide(*menu->screen());
+        shell::PictogramsAhead ahead(side);
+        QCOMPARE(menu->grab().toImage(), expected);
+        QImage canvas(side, side, QImage::Format_ARGB32_Premultiplied);
+        QPainter painter(&canvas);
+        const auto isThere = [&](shell::Pictogram pictogram) {
+            return ahead.paint(painter, canvas.rect(), pictogram, side);
+        };
+        QVERIFY(!isThere(shell::Pictogram::Gap));
+        QVERIFY(!isThere(shell::Pictogram::Exit));
+        QVERIFY(isThere(shell::Pictogram::Race)); // the menu has none here
+    }
+
 private:
     QPushButton& button(int index) const
     {

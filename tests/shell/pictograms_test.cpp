@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cstdlib>
 
 using namespace shell;
 
@@ -42,6 +43,44 @@ QImage strayInk(const QIcon& icon, int side)
     painter.setCompositionMode(QPainter::CompositionMode_Clear);
     painter.fillRect(middle, Qt::transparent);
     return canvas;
+}
+
+/// A pictogram on paper, painted as its icon or drawn without a picture in between.
+QImage onPaper(Pictogram pictogram, int side, int ratio, bool asIcon)
+{
+    QImage canvas(QSize(side, side) * ratio, QImage::Format_ARGB32_Premultiplied);
+    canvas.setDevicePixelRatio(ratio);
+    canvas.fill(ui::look::Paper);
+    QPainter painter(&canvas);
+    const QRect square(0, 0, side, side);
+    if (asIcon)
+        pictogramIcon(pictogram).paint(&painter, square);
+    else
+        drawPictogram(painter, pictogram, square);
+    return canvas;
+}
+
+/// The largest difference of a channel.
+int difference(const QImage& a, const QImage& b)
+{
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QColor one = a.pixelColor(x, y);
+            const QColor other = b.pixelColor(x, y);
+            largest = std::max({largest, std::abs(one.red() - other.red()),
+                std::abs(one.green() - other.green()), std::abs(one.blue() - other.blue())});
+        }
+    }
+    return largest;
+}
+
+/// Whether a picture of that side is still there; it is gone then.
+bool takeFrom(PictogramsAhead& ahead, Pictogram pictogram, int side)
+{
+    QImage canvas(side, side, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&canvas);
+    return ahead.paint(painter, canvas.rect(), pictogram, side);
 }
 
 } // namespace
@@ -116,6 +155,52 @@ private slots:
         icon.paint(&painter, wide.rect());
         painter.end();
         QCOMPARE(wide.copy(32, 0, 32, 32), image(icon, 32));
+    }
+
+    void looksLikeItsDrawing_data() { everyPictogram(); }
+    void looksLikeItsDrawing()
+    {
+        QFETCH(Pictogram, pictogram);
+        for (const int ratio : {1, 2}) {
+            for (const int side : {30, 44, 55, 71})
+                QVERIFY(difference(onPaper(pictogram, side, ratio, true),
+                            onPaper(pictogram, side, ratio, false))
+                    <= 2);
+        }
+    }
+
+    void looksTheSameDrawnAhead_data() { everyPictogram(); }
+    void looksTheSameDrawnAhead()
+    {
+        QFETCH(Pictogram, pictogram);
+        for (const int ratio : {1, 2}) {
+            for (const int side : {30, 44, 55, 71}) {
+                const QImage expected = onPaper(pictogram, side, ratio, true);
+                PictogramsAhead ahead(side * ratio);
+                QCOMPARE(onPaper(pictogram, side, ratio, true), expected);
+                QVERIFY(!takeFrom(ahead, pictogram, side * ratio));
+                QCOMPARE(onPaper(pictogram, side, ratio, true), expected); // drawn anew
+            }
+        }
+    }
+
+    void isDrawnAnewAtAnotherSizeOrDisabled()
+    {
+        const QIcon icon = pictogramIcon(Pictogram::Rain);
+        const QImage normal = image(icon, 40);
+        const QImage disabled = image(icon, 64, QIcon::Disabled);
+        PictogramsAhead ahead(64);
+        QCOMPARE(image(icon, 40), normal);
+        QCOMPARE(image(icon, 64, QIcon::Disabled), disabled);
+        QVERIFY(!takeFrom(ahead, Pictogram::Rain, 40));
+        QVERIFY(takeFrom(ahead, Pictogram::Rain, 64));
+    }
+
+    void goesWhileItIsDrawnAhead()
+    {
+        for (int i = 0; i < 20; ++i)
+            const PictogramsAhead ahead(64);
+        QVERIFY(!image(pictogramIcon(Pictogram::Exit), 64).isNull());
     }
 
 private:
