@@ -31,11 +31,6 @@ constexpr ui::look::Font StartFont{ui::look::Family::Arial, 30, true};
 
 } // namespace
 
-QString Form5::screenName()
-{
-    return u"Form5"_s;
-}
-
 Form5::Form5(ui::Screens& screens)
     : Screen(screens, screenName(), u"Lluvia de números - Fase 1"_s, Width, Height)
     , m_model(screens.random(), RainGrid::lastRow(static_cast<int>(Height)))

@@ -13,7 +13,7 @@ class RainField;
 /// Number rain: shoot the falling numbers that obey the rule of the phase.
 class Form5 : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Form5"); }
 
     explicit Form5(ui::Screens& screens);
 

@@ -43,11 +43,6 @@ constexpr ui::look::Font LaneName{ui::look::Family::Andika, 18, true};
 
 } // namespace
 
-QString DlgCarrera::screenName()
-{
-    return u"DlgCarrera"_s;
-}
-
 DlgCarrera::DlgCarrera(ui::Screens& screens)
     : Screen(screens, screenName(), u"Opciones"_s, Width, Height)
 {

@@ -13,7 +13,7 @@ namespace games {
 /// it: it remembers what was accepted last.
 class DlgCarrera : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("DlgCarrera"); }
 
     explicit DlgCarrera(ui::Screens& screens);
 

@@ -38,11 +38,6 @@ constexpr int LastOfRow = RacePanel::RowBoxes - 1;
 
 } // namespace
 
-QString FrmCarrera::screenName()
-{
-    return u"FrmCarrera"_s;
-}
-
 FrmCarrera::FrmCarrera(ui::Screens& screens)
     : Screen(screens, screenName(), u"La gran carrera"_s, Width, Height)
     , m_race(screens.random())

@@ -15,7 +15,7 @@ namespace games {
 /// timed rival.
 class FrmCarrera : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("FrmCarrera"); }
 
     explicit FrmCarrera(ui::Screens& screens);
 

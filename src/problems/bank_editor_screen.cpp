@@ -29,11 +29,6 @@ constexpr double Height = ActionsBottom + EditorButtons::BelowActions;
 
 } // namespace
 
-QString DLGProblemas::screenName()
-{
-    return u"DLGProblemas"_s;
-}
-
 DLGProblemas::DLGProblemas(ui::Screens& screens)
     : Screen(screens, screenName(), u"Gestión de problemas"_s, Width, Height)
     , m_evaluator(u"VBScript"_s)

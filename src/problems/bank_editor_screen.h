@@ -12,7 +12,7 @@ namespace problems {
 /// The editor of the problem bank: browse, add, change, delete and try out its templates.
 class DLGProblemas : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("DLGProblemas"); }
 
     /// Loading it throws core::FileError when there is a bank that cannot be read, so that
     /// it is never saved over.

@@ -60,11 +60,6 @@ constexpr ui::look::Font UnitFont{Family::Andika, 20};
 
 } // namespace
 
-QString FormProblemas::screenName()
-{
-    return u"FormProblemas"_s;
-}
-
 FormProblemas::FormProblemas(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Problemas"_s, Width, Height)
 {

@@ -10,7 +10,7 @@ class StatementBox;
 /// The practice of word problems: one problem of the bank at a time, drawn with fresh data.
 class FormProblemas : public shell::DrillScreen<ProblemSession> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("FormProblemas"); }
 
     explicit FormProblemas(ui::Screens& screens);
 

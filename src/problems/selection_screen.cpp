@@ -39,11 +39,6 @@ constexpr double Height = CommandTop + CommandHeight + StripMargin;
 
 } // namespace
 
-QString DLGSelProb::screenName()
-{
-    return u"DLGSelProb"_s;
-}
-
 DLGSelProb::DLGSelProb(ui::Screens& screens)
     : Screen(screens, screenName(), u"Selección de problemas"_s, Width, Height)
 {

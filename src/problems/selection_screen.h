@@ -16,7 +16,7 @@ namespace problems {
 /// The dialog that restricts which problems are drawn, by the operations they exercise.
 class DLGSelProb : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("DLGSelProb"); }
 
     explicit DLGSelProb(ui::Screens& screens);
 

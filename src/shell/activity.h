@@ -25,7 +25,8 @@ struct Activity {
 };
 
 /// A row for the screen S. Everything is to be given: a row that lacks something does not
-/// compile.
+/// compile. Screens are asked for their names at the start: with these in their headers, no code
+/// of theirs is loaded for it.
 template <typename S>
 Activity activity(
     const QString& caption, Activity::Shown shown, Pictogram pictogram, const QString& source)

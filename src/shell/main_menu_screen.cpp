@@ -27,11 +27,6 @@ constexpr ui::look::Font ButtonFont{Family::Arial, 16, true}; // 12 points
 
 } // namespace
 
-QString Form1::screenName()
-{
-    return u"Form1"_s;
-}
-
 int Form1::pictogramSide(const QScreen& display)
 {
     const QSizeF window(ClientWidth / ui::TwipsPerPixel, WindowHeight / ui::TwipsPerPixel);

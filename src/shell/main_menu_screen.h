@@ -12,7 +12,7 @@ namespace shell {
 /// The main menu: one button an activity, and "&Salir", which ends the program.
 class Form1 : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Form1"); }
     /// The side of the pictograms, in a display's own pixels, when the menu comes up on it.
     static int pictogramSide(const QScreen& display);
 

@@ -24,11 +24,6 @@ constexpr ui::look::Font CounterFont{Family::Andika, 9}; // this screen opens la
 
 } // namespace
 
-QString FrmMultHuecos::screenName()
-{
-    return u"FrmMultHuecos"_s;
-}
-
 FrmMultHuecos::FrmMultHuecos(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Completa el hueco"_s, Width, Height)
 {

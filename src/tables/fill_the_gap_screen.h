@@ -8,7 +8,7 @@ namespace tables {
 /// The gap: a multiplication whose second factor is missing.
 class FrmMultHuecos : public shell::DrillScreen<FillTheGap> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("FrmMultHuecos"); }
 
     explicit FrmMultHuecos(ui::Screens& screens);
 

@@ -19,11 +19,6 @@ constexpr int MenuType = 12;
 
 } // namespace
 
-QString Form2::screenName()
-{
-    return u"Form2"_s;
-}
-
 Form2::Form2(ui::Screens& screens)
     : DrillScreen(screens, screenName(), QString(), TablesBoard::Width, TablesBoard::Height)
     , m_board(*this)

@@ -9,7 +9,7 @@ namespace tables {
 /// The multiplication tables: study a table, review it in order, review it shuffled.
 class Form2 : public shell::DrillScreen<MultiplicationTables> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Form2"); }
 
     explicit Form2(ui::Screens& screens);
 

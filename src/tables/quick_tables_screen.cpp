@@ -33,11 +33,6 @@ QColor fade(int secondsLeft)
 
 } // namespace
 
-QString Form8::screenName()
-{
-    return u"Form8"_s;
-}
-
 Form8::Form8(ui::Screens& screens)
     : Screen(screens, screenName(), u"TABLAS RÁPIDAS"_s, Width, Height)
     , m_model(screens.random())

@@ -15,7 +15,7 @@ class VerdictPatch;
 /// The quick tables: products against the clock, until a limit or "&Salir".
 class Form8 : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Form8"); }
 
     explicit Form8(ui::Screens& screens);
 

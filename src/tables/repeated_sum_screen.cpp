@@ -42,11 +42,6 @@ public:
 
 } // namespace
 
-QString Form4::screenName()
-{
-    return u"Form4"_s;
-}
-
 Form4::Form4(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"SUMA REPETIDA"_s, Width, Height)
 {

@@ -10,7 +10,7 @@ class BoardText;
 /// The repeated sum: a sum of equal addends, to be written as a multiplication.
 class Form4 : public shell::DrillScreen<RepeatedSum> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Form4"); }
 
     explicit Form4(ui::Screens& screens);
 

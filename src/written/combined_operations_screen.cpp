@@ -49,11 +49,6 @@ constexpr ui::look::Font LabelFont{Family::Andika, 18, true};
 
 } // namespace
 
-QString FRMCombi::screenName()
-{
-    return u"FRMCombi"_s;
-}
-
 // The blank at the end of the caption is meant.
 FRMCombi::FRMCombi(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Operaciones combinadas "_s, Width, Height)

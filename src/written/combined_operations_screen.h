@@ -14,7 +14,7 @@ class ScratchArea;
 /// Combined operations: an expression to solve by precedence, with room to work in.
 class FRMCombi : public shell::DrillScreen<CombinedOperations> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("FRMCombi"); }
 
     explicit FRMCombi(ui::Screens& screens);
 

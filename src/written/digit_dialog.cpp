@@ -29,11 +29,6 @@ constexpr double Height = CommandTop + CommandHeight + StripMargin;
 
 } // namespace
 
-QString Dialog::screenName()
-{
-    return u"Dialog"_s;
-}
-
 Dialog::Dialog(ui::Screens& screens)
     : Screen(screens, screenName(), u"Tablas a usar"_s, Width, Height)
 {

@@ -12,7 +12,7 @@ namespace written {
 /// way only hides it: it remembers its check boxes and the last digits accepted.
 class Dialog : public ui::Screen {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Dialog"); }
 
     explicit Dialog(ui::Screens& screens);
 

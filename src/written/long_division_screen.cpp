@@ -19,11 +19,6 @@ QSizeF firstCanvas()
 
 } // namespace
 
-QString Form6::screenName()
-{
-    return u"Form6"_s;
-}
-
 Form6::Form6(ui::Screens& screens)
     : DrillScreen(
         screens, screenName(), u"DIVISIONES"_s, firstCanvas().width(), firstCanvas().height())

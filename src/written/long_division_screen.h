@@ -12,7 +12,7 @@ namespace written {
 /// divisor and, under that, the quotient.
 class Form6 : public shell::DrillScreen<LongDivision> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Form6"); }
 
     explicit Form6(ui::Screens& screens);
 

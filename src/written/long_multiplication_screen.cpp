@@ -11,11 +11,6 @@ using ui::SquaredBox;
 
 namespace written {
 
-QString Form3::screenName()
-{
-    return u"Form3"_s;
-}
-
 Form3::Form3(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Multiplicaciones"_s,
         MultiplicationColumn::canvasFor(0).width(), MultiplicationColumn::canvasFor(0).height())

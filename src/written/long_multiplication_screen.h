@@ -12,7 +12,7 @@ namespace written {
 /// Written multiplication on squared paper, typed from the units leftwards.
 class Form3 : public shell::DrillScreen<LongMultiplication> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("Form3"); }
 
     explicit Form3(ui::Screens& screens);
 

@@ -49,11 +49,6 @@ constexpr ui::look::Font AnswerFont{Family::CourierNew, 30, true};
 
 } // namespace
 
-QString FrmMultidivi::screenName()
-{
-    return u"FrmMultidivi"_s;
-}
-
 FrmMultidivi::FrmMultidivi(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Múltiplos y divisores"_s, Width, Height)
 {

@@ -8,7 +8,7 @@ namespace written {
 /// Multiples and divisors: three of either, of a given number.
 class FrmMultidivi : public shell::DrillScreen<MultiplesDivisors> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("FrmMultidivi"); }
 
     explicit FrmMultidivi(ui::Screens& screens);
 

@@ -12,11 +12,6 @@ constexpr double Height = 3600;
 
 } // namespace
 
-QString FrmSuma::screenName()
-{
-    return u"FrmSuma"_s;
-}
-
 FrmSuma::FrmSuma(ui::Screens& screens)
     : DrillScreen(screens, screenName(), u"Suma"_s, Width, Height)
 {

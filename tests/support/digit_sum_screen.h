@@ -6,7 +6,7 @@
 /// The screen of the smallest activity.
 class FrmSuma : public shell::DrillScreen<DigitSum> {
 public:
-    static QString screenName();
+    static QString screenName() { return QStringLiteral("FrmSuma"); }
 
     explicit FrmSuma(ui::Screens& screens);
 
