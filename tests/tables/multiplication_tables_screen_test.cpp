@@ -292,6 +292,16 @@ private slots:
         QCOMPARE(bench->focusName(), u"TbOperación(4)"_s);
     }
 
+    void continueRefocusesAfterAWrongAnswerToo()
+    {
+        startReview();
+        bench->type(u"TbOperación(4)"_s, u"2"_s);
+        bench->click(u"Command2(0)"_s);
+        QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto "_s);
+        QCOMPARE(line(), u"1 × 1 = "_s);
+        QCOMPARE(bench->focusName(), u"TbOperación(4)"_s);
+    }
+
     void clearEmptiesTheAnswer()
     {
         startReview();
