@@ -262,6 +262,34 @@ private slots:
         QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto "_s);
     }
 
+    void theAnswerIsReadAsANumber_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("isRight");
+
+        QTest::newRow("blank before it") << u" 7"_s << true;
+        QTest::newRow("zero before it") << u"07"_s << true;
+        QTest::newRow("decimals of nothing") << u"7,0"_s << true;
+        QTest::newRow("word behind it") << u"7 veces"_s << true;
+        QTest::newRow("more than it") << u"7,5"_s << false;
+        QTest::newRow("word before it") << u"x7"_s << false;
+        QTest::newRow("word") << u"siete"_s << false;
+        QTest::newRow("sign") << u"-"_s << false;
+    }
+    void theAnswerIsReadAsANumber()
+    {
+        QFETCH(QString, typed);
+        QFETCH(bool, isRight);
+        bench->pick(u"MnuOpcTabLis(7)"_s);
+        startReview();
+        QCOMPARE(line(), u"7 × 1 = "_s);
+        BoxAnswerer noBox;
+        answer(typed);
+        QCOMPARE(bench->text(u"Text1"_s),
+            isRight ? u"Resultado correcto"_s : u"resultado incorrecto "_s);
+        QCOMPARE(line(), isRight ? u"7 × 2 = "_s : u"7 × 1 = "_s);
+    }
+
     void rightAnswerBringsTheNextQuestion()
     {
         startReview();
