@@ -524,6 +524,14 @@ private slots:
         bench->control<QMenu>(u"MnuOpc"_s).close();
     }
 
+    void noKeyIsFiltered()
+    {
+        startReview();
+        bench->type(u"TbOperación(4)"_s, u"a ñ-3,5/x"_s);
+        QCOMPARE(bench->text(u"TbOperación(4)"_s), u"a ñ-3,5/x"_s);
+        QCOMPARE(bench->text(u"Text1"_s), QString());
+    }
+
     void escapeDoesNothing()
     {
         startReview();
