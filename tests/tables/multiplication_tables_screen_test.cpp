@@ -458,6 +458,27 @@ private slots:
         QVERIFY(bench->control<QAction>(u"MnuOpcTabLis(1)"_s).isChecked());
     }
 
+    void theVerdictStandsUntilTheNextTableOrActivity()
+    {
+        const auto verdict = [&] { return bench->text(u"Text1"_s); };
+        for (const QString& next : {u"Command3(0)"_s, u"Command3(1)"_s}) {
+            startReview();
+            answer(u"999"_s);
+            for (const QString& button : {u"Command2(1)"_s, u"Command2(2)"_s}) {
+                bench->click(button);
+                QCOMPARE(verdict(), u"resultado incorrecto "_s);
+            }
+            scriptShuffle();
+            for (const QString& item : {u"MnuOpcTabLis(4)"_s, u"MnuOpcActLis(2)"_s,
+                     u"MnuOpcActLis(0)"_s, u"MnuOpcTabLis(0)"_s}) {
+                bench->pick(item);
+                QCOMPARE(verdict(), u"resultado incorrecto "_s);
+            }
+            bench->click(next);
+            QCOMPARE(verdict(), QString());
+        }
+    }
+
     void pickingTheCheckedTableKeepsItChecked()
     {
         bench->pick(u"MnuOpcTabLis(0)"_s);
