@@ -230,6 +230,14 @@ private slots:
         verifySigns(false);
     }
 
+    void enterRemovesTheHighlightToo()
+    {
+        startReview();
+        bench->key(u"TbOperación(4)"_s, Qt::Key_Return);
+        QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto "_s);
+        verifySigns(false);
+    }
+
     void wrongAnswerKeepsTheQuestion()
     {
         startReview();
