@@ -519,6 +519,17 @@ private slots:
         QCOMPARE(bench->focusName(), u"TBResultado"_s);
     }
 
+    void everyChangeAlignsTheResultToTheRight()
+    {
+        auto& result = focusOn(u"TBResultado"_s);
+        result.setAlignment(Qt::AlignLeft);
+        type(u"7"_s);
+        QVERIFY(result.alignment().testFlag(Qt::AlignRight));
+        result.setAlignment(Qt::AlignHCenter);
+        bench->click(u"Command2(1)"_s);
+        QVERIFY(result.alignment().testFlag(Qt::AlignRight));
+    }
+
     void accessKeysPressTheButtons()
     {
         type(u"7"_s);
