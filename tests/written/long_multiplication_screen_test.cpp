@@ -84,6 +84,31 @@ private slots:
         QVERIFY(!action(u"MnuOpcSelLis"_s, 1).isChecked());
     }
 
+    void menuItemsHaveTheirOrder()
+    {
+        QStringList order;
+        for (const QAction* item : bench->control<QMenu>(u"MnuOpc"_s).actions())
+            order << item->objectName();
+        QCOMPARE(order,
+            (QStringList{u"MnuOpcCi1"_s, u"MnuOpcCi2"_s, u"MnuOpcSel"_s, u"MnuOpcOcu"_s,
+                u"MnuOpcIn1"_s, u"MnuOpcIn2"_s, u"MnuOpcSal"_s}));
+    }
+
+    void menuListsEndAtTheirLastItem()
+    {
+        const QMap<QString, int> lengths{
+            {u"MnuOpcCi1"_s, 10}, {u"MnuOpcCi2"_s, 10}, {u"MnuOpcSel"_s, 2}};
+        for (const auto& [list, length] : lengths.asKeyValueRange()) {
+            QStringList expected;
+            for (int i = 0; i < length; ++i)
+                expected << u"%1Lis(%2)"_s.arg(list).arg(i);
+            QStringList items;
+            for (const QAction* item : bench->control<QMenu>(list).actions())
+                items << item->objectName();
+            QCOMPARE(items, expected);
+        }
+    }
+
     void buttonsHaveTheirColours() { bench->verifyCommandColours(); }
 
     void aWholeExerciseTypedFromTheUnits()
