@@ -875,6 +875,35 @@ private slots:
         QCOMPARE(bench->screens.loaded(u"Form3"_s), nullptr);
     }
 
+    void reopeningStartsAfresh()
+    {
+        setResult(u"69104"_s);
+        bench->click(u"Command1"_s);
+        bench->pick(u"MnuOpcCi1Lis(1)"_s);
+        bench->pick(u"MnuOpcCi2Lis(2)"_s);
+        appendFactor(43, 2);
+        appendFactor(205, 3);
+        bench->pick(u"MnuOpcOcu"_s);
+        bench->pick(u"MnuOpcSelLis(1)"_s);
+        tick({2});
+        appendFactor(43, 2);
+        bench->random.append({0.0f, 0.99f, 0.0f});
+        accept();
+        QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     202"_s);
+        bench->pick(u"MnuOpcSal"_s);
+
+        appendFactor(4321, 4);
+        appendFactor(70, 2);
+        screen = &bench->open<Form3>();
+        QCOMPARE(bench->text(u"TbFactor(0)"_s), u"4321"_s);
+        QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     70"_s);
+        QCOMPARE(rowTexts().size(), 2); // one of them for the zero
+        captionsAreExact();
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  0; Errores:  0"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  1; Errores:  1"_s);
+    }
+
 private:
     void expectBoxes(std::initializer_list<BoxAnswerer::Answer> answers)
     {
