@@ -715,6 +715,7 @@ private slots:
         bench->pick(u"MnuOpcIn2"_s);
         QCOMPARE(boxes->texts.value(1), u"desajuste"_s);
         QCOMPARE(boxes->titles.value(1), u"Pizarrin"_s);
+        QCOMPARE(boxes->icons.value(1), QMessageBox::NoIcon);
         QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     0"_s);
         QCOMPARE(rowTexts(), QStringList{QString()});
         focusOn(u"TbParcial(0)"_s);
