@@ -55,6 +55,11 @@ bool asksForHighContrast()
         && (asked.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
+bool readersUseAtSpi()
+{
+    return false;
+}
+
 #else
 
 QString commonBankFolder()
@@ -67,6 +72,11 @@ void writeUtf8ToTerminal() { }
 bool asksForHighContrast()
 {
     return false;
+}
+
+bool readersUseAtSpi()
+{
+    return true;
 }
 
 #endif

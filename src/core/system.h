@@ -22,6 +22,9 @@ void writeUtf8ToTerminal();
 /// the desktop that has to be asked.
 bool asksForHighContrast();
 
+/// Whether screen readers here read by way of AT-SPI, as on all but Windows.
+bool readersUseAtSpi();
+
 /// Has all threads take memory from one heap, where each would get its own: worth it where they
 /// hardly allocate.
 void shareOneHeap();

@@ -1,24 +1,27 @@
 #include "ui/radio_group.h"
 
+#include "core/system.h"
+
 #include <QAccessibleWidget>
 
 namespace ui {
 
 namespace {
 
-// Those that come with the newer toolkit look for the caption farther up too, not beyond a list.
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0) && defined(Q_OS_UNIX)
-constexpr auto GroupRole = QAccessible::List;
-#else
-constexpr auto GroupRole = QAccessible::Client;
-#endif
+// Readers that come with the newer toolkit look for the caption farther up too, not beyond a
+// list.
+QAccessible::Role groupRole()
+{
+    const bool farther = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0) && core::readersUseAtSpi();
+    return farther ? QAccessible::List : QAccessible::Client;
+}
 
 /// Without what the toolkit gives all that stands in a group box: its caption as a name and as
 /// a label. Readers say the label of a button, after the caption of the box around it.
 class RadioGroupAccessible final : public QAccessibleWidget {
 public:
     explicit RadioGroupAccessible(RadioGroup* group)
-        : QAccessibleWidget(group, GroupRole)
+        : QAccessibleWidget(group, groupRole())
     {
     }
 

@@ -3,9 +3,11 @@
 #include "ui/look.h"
 #include "ui/text_box_accessible.h"
 
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -32,6 +34,7 @@ TextBox::TextBox(Kind kind, QWidget* parent)
         setFocusPolicy(Qt::NoFocus);
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setPalette(look::displayed());
+        parent->installEventFilter(this);
     }
 }
 
@@ -81,6 +84,20 @@ bool TextBox::event(QEvent* event)
     if (event->type() == QEvent::WindowActivate)
         return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call)
     return QLineEdit::event(event);
+}
+
+/// What is deaf to the mouse is never under it: its parent is asked for the tool tip.
+bool TextBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::ToolTip && isVisible()
+        && testAttribute(Qt::WA_TransparentForMouseEvents) && !toolTip().isEmpty()) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (geometry().contains(help->pos())) {
+            QToolTip::showText(help->globalPos(), toolTip(), this);
+            return true;
+        }
+    }
+    return QLineEdit::eventFilter(watched, event);
 }
 
 void TextBox::focusInEvent(QFocusEvent* event)

@@ -10,7 +10,8 @@
 namespace ui {
 
 /// A line of text: an entry box, or a text that is only shown. A selected text stays
-/// highlighted while the box has no focus and while its window is not the active one.
+/// highlighted while the box has no focus and while its window is not the active one. A tool tip
+/// comes up over a text that is deaf to the mouse too.
 class TextBox : public QLineEdit, public Scalable {
 public:
     enum class Kind {
@@ -38,6 +39,8 @@ public:
     /// Whether what is selected was selected by whoever writes in the box, not for them: screen
     /// readers say every change of a selection that they are told of.
     bool isSelectedByHand() const { return m_byHand && hasSelectedText(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     bool event(QEvent* event) override;

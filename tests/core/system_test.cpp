@@ -49,6 +49,11 @@ private slots:
         QCOMPARE(folder.endsWith(u"/Pizarrin/Recursos"_s), isWindows());
     }
 
+    void onlyOnWindowsReadersUseSomethingElse()
+    {
+        QCOMPARE(core::readersUseAtSpi(), !isWindows());
+    }
+
     void contrastIsAskedOfTheDesktop()
     {
         if (isWindows())

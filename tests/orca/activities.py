@@ -3,6 +3,9 @@ answer is worked out from the words of the reader, so that a word too few ends t
 
 from games import race, rain
 
+# Of a group whose caption has been said, newer readers say that its options are a list.
+OPTIONS = ["list"]
+
 
 def repeated_sum(pupil):
     pupil.open("Suma repetida", names=["SUMA REPETIDA", "Primer factor", "Segundo factor", "Hecho", "Continuar"])
@@ -76,7 +79,7 @@ def quick_tables_to_a_limit(pupil):
     pupil.hears("Empezar (?:push )?button.*", "Escribe el resultado correcto y pulsa enter")
     pupil.press("shift+Tab")
     pupil.hears("Acabar la actividad panel")
-    pupil.hears_whole("Al pulsar Salir selected radio button")
+    pupil.hears_whole("Al pulsar Salir selected radio button", before=OPTIONS)
     for option in ("Tiempo", "Operaciones", "Errores"):
         pupil.press("Down")
         pupil.hears_whole(f"{option} selected radio button")
@@ -189,7 +192,7 @@ def select_problems(pupil):
     pupil.hears("Operaciones panel", "Multiplicaciones check box.*")
     pupil.press("shift+Tab")
     pupil.hears("Tipo de problemas panel")
-    pupil.hears_whole("Todos los tipos not selected radio button")
+    pupil.hears_whole("Todos los tipos not selected radio button", before=OPTIONS)
     pupil.press("alt+F4")
     pupil.hears(r".+\?(?: Respuesta en .+)?")
 
@@ -217,7 +220,8 @@ def value_of(spoken):
 
 
 PLACES = ["unidades", "decenas", "centenas"]
-UNTIL_READY = ["desde las unidades", "F2 repite", "unidades"]
+# A reader that says announcements first comes to what the solution wrote when the pupil is past it.
+UNTIL_READY = ["desde las unidades", "F2 repite", "unidades", r"\d+$"]
 
 ALL = [repeated_sum, tables, quick_tables, gap, multiples, multiplication, division, problems,
        combined, rain, race]

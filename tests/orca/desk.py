@@ -46,6 +46,9 @@ CHATTER = re.compile(r"(.* )?(un)?selected|Selection .*|Cielo.*|panel|unknown")
 # One word group twice in a row, in one breath. A bracket may well stand in another one.
 DOUBLED = re.compile(r"\b(?!(?:abre|cierra) paréntesis)([^\W\d_]+(?: [^\W\d_]+)*)[ .,:;]+\1\b")
 
+# What the reader says first, in the language that it is started in.
+GREETINGS = {"en": "Screen reader on", "es": "Lector de pantalla activado"}
+
 FIRST_FUNCTION_KEY = 67  # the code of F1
 
 # The last that the reader writes before it does nothing but listen, in old words and in new ones.
@@ -68,8 +71,9 @@ class Chatter(AssertionError):
 class Desk:
     """Use as a context: everything that it has started ends with it."""
 
-    def __init__(self, reader=True):
+    def __init__(self, reader=True, language="en"):
         self.has_reader = reader
+        self.language = language
 
     def __enter__(self):
         self.folder = Path(tempfile.mkdtemp(prefix="desk-"))
@@ -83,6 +87,7 @@ class Desk:
             HOME=str(self.folder),
             XDG_RUNTIME_DIR=str(self.folder / "run"),
             LC_ALL="C.UTF-8",
+            LANGUAGE=self.language,
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             QT_QPA_PLATFORM="xcb",
         )
@@ -160,7 +165,7 @@ class Desk:
         threading.Thread(target=self._listen, args=[terminal], daemon=True).start()
         self._hide_other_readers()
         self.start("orca", f"--debug-file={os.ttyname(log)}")
-        self.hear("Screen reader on")  # which it says before it listens to programs
+        self.hear(GREETINGS[self.language])  # which it says before it listens to programs
         if not self.listening.wait(LIMIT):
             raise Silence("the reader does not listen")
 

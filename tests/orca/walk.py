@@ -70,10 +70,14 @@ class Pupil:
         self._note("", self.desk.passed)
         return match
 
-    def hears_whole(self, words):
-        """Hears this, in however many breaths the reader says it, and nothing else."""
+    def hears_whole(self, words, before=()):
+        """Hears this, in however many breaths the reader says it, and nothing else but what a
+        reader may say before it."""
         self.hears(f".*{words.split()[-1]}")
-        if " ".join(self.desk.passed) != words:
+        said = self.desk.passed
+        while said[0] in before:
+            said = said[1:]
+        if " ".join(said) != words:
             raise Silence(f"heard {self.desk.passed} instead of {words!r}")
 
     def does(self, *keys, says, also=()):

@@ -230,6 +230,14 @@ private slots:
         verifySigns(false);
     }
 
+    void enterRemovesTheHighlightToo()
+    {
+        startReview();
+        bench->key(u"TbOperación(4)"_s, Qt::Key_Return);
+        QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto "_s);
+        verifySigns(false);
+    }
+
     void wrongAnswerKeepsTheQuestion()
     {
         startReview();
@@ -262,6 +270,34 @@ private slots:
         QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto "_s);
     }
 
+    void theAnswerIsReadAsANumber_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("isRight");
+
+        QTest::newRow("blank before it") << u" 7"_s << true;
+        QTest::newRow("zero before it") << u"07"_s << true;
+        QTest::newRow("decimals of nothing") << u"7,0"_s << true;
+        QTest::newRow("word behind it") << u"7 veces"_s << true;
+        QTest::newRow("more than it") << u"7,5"_s << false;
+        QTest::newRow("word before it") << u"x7"_s << false;
+        QTest::newRow("word") << u"siete"_s << false;
+        QTest::newRow("sign") << u"-"_s << false;
+    }
+    void theAnswerIsReadAsANumber()
+    {
+        QFETCH(QString, typed);
+        QFETCH(bool, isRight);
+        bench->pick(u"MnuOpcTabLis(7)"_s);
+        startReview();
+        QCOMPARE(line(), u"7 × 1 = "_s);
+        BoxAnswerer noBox;
+        answer(typed);
+        QCOMPARE(bench->text(u"Text1"_s),
+            isRight ? u"Resultado correcto"_s : u"resultado incorrecto "_s);
+        QCOMPARE(line(), isRight ? u"7 × 2 = "_s : u"7 × 1 = "_s);
+    }
+
     void rightAnswerBringsTheNextQuestion()
     {
         startReview();
@@ -289,6 +325,16 @@ private slots:
         bench->type(u"TbOperación(4)"_s, u"1"_s);
         bench->click(u"Command2(0)"_s);
         QCOMPARE(line(), u"1 × 2 = "_s);
+        QCOMPARE(bench->focusName(), u"TbOperación(4)"_s);
+    }
+
+    void continueRefocusesAfterAWrongAnswerToo()
+    {
+        startReview();
+        bench->type(u"TbOperación(4)"_s, u"2"_s);
+        bench->click(u"Command2(0)"_s);
+        QCOMPARE(bench->text(u"Text1"_s), u"resultado incorrecto "_s);
+        QCOMPARE(line(), u"1 × 1 = "_s);
         QCOMPARE(bench->focusName(), u"TbOperación(4)"_s);
     }
 
@@ -420,6 +466,27 @@ private slots:
         QVERIFY(bench->control<QAction>(u"MnuOpcTabLis(1)"_s).isChecked());
     }
 
+    void theVerdictStandsUntilTheNextTableOrActivity()
+    {
+        const auto verdict = [&] { return bench->text(u"Text1"_s); };
+        for (const QString& next : {u"Command3(0)"_s, u"Command3(1)"_s}) {
+            startReview();
+            answer(u"999"_s);
+            for (const QString& button : {u"Command2(1)"_s, u"Command2(2)"_s}) {
+                bench->click(button);
+                QCOMPARE(verdict(), u"resultado incorrecto "_s);
+            }
+            scriptShuffle();
+            for (const QString& item : {u"MnuOpcTabLis(4)"_s, u"MnuOpcActLis(2)"_s,
+                     u"MnuOpcActLis(0)"_s, u"MnuOpcTabLis(0)"_s}) {
+                bench->pick(item);
+                QCOMPARE(verdict(), u"resultado incorrecto "_s);
+            }
+            bench->click(next);
+            QCOMPARE(verdict(), QString());
+        }
+    }
+
     void pickingTheCheckedTableKeepsItChecked()
     {
         bench->pick(u"MnuOpcTabLis(0)"_s);
@@ -484,6 +551,14 @@ private slots:
         altKey(Qt::Key_O);
         QVERIFY(QTest::qWaitFor([&] { return bench->control<QMenu>(u"MnuOpc"_s).isVisible(); }));
         bench->control<QMenu>(u"MnuOpc"_s).close();
+    }
+
+    void noKeyIsFiltered()
+    {
+        startReview();
+        bench->type(u"TbOperación(4)"_s, u"a ñ-3,5/x"_s);
+        QCOMPARE(bench->text(u"TbOperación(4)"_s), u"a ñ-3,5/x"_s);
+        QCOMPARE(bench->text(u"Text1"_s), QString());
     }
 
     void escapeDoesNothing()

@@ -335,12 +335,15 @@ private:
 
     static QColor textColour(const QLineEdit& box) { return box.palette().color(QPalette::Text); }
 
-    static QString toolTip(QWidget& widget)
+    /// As the display has it: of whatever is under the mouse there.
+    QString toolTip(const QWidget& widget) const
     {
         QToolTip::hideText();
         const QPoint middle = widget.rect().center();
-        QHelpEvent event(QEvent::ToolTip, middle, widget.mapToGlobal(middle));
-        QCoreApplication::sendEvent(&widget, &event);
+        QWidget* under = screen->childAt(widget.mapTo(screen, middle));
+        const QPoint global = widget.mapToGlobal(middle);
+        QHelpEvent event(QEvent::ToolTip, under->mapFromGlobal(global), global);
+        QCoreApplication::sendEvent(under, &event);
         return QToolTip::text();
     }
 

@@ -36,6 +36,7 @@ private slots:
     void solutionIsShownAndNotCounted();
     void solutionWithProductsAndDecimals();
     void clearKeepsTheExercise();
+    void clearKeepsASolvedExerciseSolved();
     void continueBringsAPendingExercise();
     void continueGoesToTheWork();
 
@@ -328,6 +329,17 @@ void LongDivisionScreenTest::clearKeepsTheExercise()
     QCOMPARE(m_bench->focusName(), u"Text3"_s);
     answer(u"99"_s);
     QCOMPARE(text("tbResultados"), u"Ejercicios:  2; Errores:  2"_s);
+}
+
+void LongDivisionScreenTest::clearKeepsASolvedExerciseSolved()
+{
+    writeLine(1, 1, u"0"_s);
+    answer(u"12"_s);
+    QCOMPARE(text("tbResultados"), u"Ejercicios:  1; Errores:  0"_s);
+    m_bench->click(u"Command2(1)"_s);
+    answer(u"99"_s);
+    QCOMPARE(text("Text4"), u"Resultado incorrecto"_s);
+    QCOMPARE(text("tbResultados"), u"Ejercicios:  1; Errores:  0"_s);
 }
 
 void LongDivisionScreenTest::continueBringsAPendingExercise()

@@ -84,6 +84,31 @@ private slots:
         QVERIFY(!action(u"MnuOpcSelLis"_s, 1).isChecked());
     }
 
+    void menuItemsHaveTheirOrder()
+    {
+        QStringList order;
+        for (const QAction* item : bench->control<QMenu>(u"MnuOpc"_s).actions())
+            order << item->objectName();
+        QCOMPARE(order,
+            (QStringList{u"MnuOpcCi1"_s, u"MnuOpcCi2"_s, u"MnuOpcSel"_s, u"MnuOpcOcu"_s,
+                u"MnuOpcIn1"_s, u"MnuOpcIn2"_s, u"MnuOpcSal"_s}));
+    }
+
+    void menuListsEndAtTheirLastItem()
+    {
+        const QMap<QString, int> lengths{
+            {u"MnuOpcCi1"_s, 10}, {u"MnuOpcCi2"_s, 10}, {u"MnuOpcSel"_s, 2}};
+        for (const auto& [list, length] : lengths.asKeyValueRange()) {
+            QStringList expected;
+            for (int i = 0; i < length; ++i)
+                expected << u"%1Lis(%2)"_s.arg(list).arg(i);
+            QStringList items;
+            for (const QAction* item : bench->control<QMenu>(list).actions())
+                items << item->objectName();
+            QCOMPARE(items, expected);
+        }
+    }
+
     void buttonsHaveTheirColours() { bench->verifyCommandColours(); }
 
     void aWholeExerciseTypedFromTheUnits()
@@ -519,6 +544,17 @@ private slots:
         QCOMPARE(bench->focusName(), u"TBResultado"_s);
     }
 
+    void everyChangeAlignsTheResultToTheRight()
+    {
+        auto& result = focusOn(u"TBResultado"_s);
+        result.setAlignment(Qt::AlignLeft);
+        type(u"7"_s);
+        QVERIFY(result.alignment().testFlag(Qt::AlignRight));
+        result.setAlignment(Qt::AlignHCenter);
+        bench->click(u"Command2(1)"_s);
+        QVERIFY(result.alignment().testFlag(Qt::AlignRight));
+    }
+
     void accessKeysPressTheButtons()
     {
         type(u"7"_s);
@@ -679,6 +715,7 @@ private slots:
         bench->pick(u"MnuOpcIn2"_s);
         QCOMPARE(boxes->texts.value(1), u"desajuste"_s);
         QCOMPARE(boxes->titles.value(1), u"Pizarrin"_s);
+        QCOMPARE(boxes->icons.value(1), QMessageBox::NoIcon);
         QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     0"_s);
         QCOMPARE(rowTexts(), QStringList{QString()});
         focusOn(u"TbParcial(0)"_s);
@@ -837,6 +874,35 @@ private slots:
         QCOMPARE(bench->text(u"TbFactor(0)"_s), u"4321"_s);
         bench->pick(u"MnuOpcSal"_s);
         QCOMPARE(bench->screens.loaded(u"Form3"_s), nullptr);
+    }
+
+    void reopeningStartsAfresh()
+    {
+        setResult(u"69104"_s);
+        bench->click(u"Command1"_s);
+        bench->pick(u"MnuOpcCi1Lis(1)"_s);
+        bench->pick(u"MnuOpcCi2Lis(2)"_s);
+        appendFactor(43, 2);
+        appendFactor(205, 3);
+        bench->pick(u"MnuOpcOcu"_s);
+        bench->pick(u"MnuOpcSelLis(1)"_s);
+        tick({2});
+        appendFactor(43, 2);
+        bench->random.append({0.0f, 0.99f, 0.0f});
+        accept();
+        QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     202"_s);
+        bench->pick(u"MnuOpcSal"_s);
+
+        appendFactor(4321, 4);
+        appendFactor(70, 2);
+        screen = &bench->open<Form3>();
+        QCOMPARE(bench->text(u"TbFactor(0)"_s), u"4321"_s);
+        QCOMPARE(bench->text(u"TbFactor(1)"_s), u"x     70"_s);
+        QCOMPARE(rowTexts().size(), 2); // one of them for the zero
+        captionsAreExact();
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  0; Errores:  0"_s);
+        bench->click(u"Command1"_s);
+        QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  1; Errores:  1"_s);
     }
 
 private:
