@@ -48,10 +48,11 @@ std::vector<shell::Activity> activities()
     };
 }
 
-void addScreens(ui::ScreenSet& screens)
+void addScreens(ui::ScreenSet& screens, shell::PictogramsAhead* pictograms)
 {
-    screens.add(shell::Form1::screenName(),
-        [](ui::Screens& set) -> ui::Screen* { return new shell::Form1(set, activities()); });
+    screens.add(shell::Form1::screenName(), [pictograms](ui::Screens& set) -> ui::Screen* {
+        return new shell::Form1(set, activities(), pictograms);
+    });
     screens.setMainScreen(shell::Form1::screenName());
 
     for (const shell::Activity& activity : activities())

@@ -24,7 +24,7 @@ int main(int argc, char* argv[])
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
     QApplication application(nameAlone, argv);
     const std::jthread fonts = ui::look::readFontList(std::move(fontSettings));
-    const shell::PictogramsAhead pictograms(
+    shell::PictogramsAhead pictograms(
         shell::Form1::pictogramSide(*QGuiApplication::primaryScreen()));
     ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
@@ -33,7 +33,7 @@ int main(int argc, char* argv[])
     const core::SystemClock clock;
     ui::ScreenSet screens(random, clock, QCoreApplication::applicationDirPath() + u"/Recursos"_s,
         core::commonBankFolder());
-    addScreens(screens);
+    addScreens(screens, &pictograms);
     screens.show(shell::Form1::screenName());
     ui::followDesktopContrast();
     return QApplication::exec();

@@ -34,9 +34,10 @@ int Form1::pictogramSide(const QScreen& display)
     return qRound(ui::iconSide(factor) * display.devicePixelRatio());
 }
 
-Form1::Form1(ui::Screens& screens, std::vector<Activity> activities)
+Form1::Form1(ui::Screens& screens, std::vector<Activity> activities, PictogramsAhead* pictograms)
     : Screen(screens, screenName(), u"PIZARRIN"_s, ClientWidth, ClientHeight)
     , m_activities(std::move(activities))
+    , m_pictograms(pictograms)
 {
     canvas()->setPalette(ui::look::onSlate());
     QAction* about = barItem(u"MnuAce"_s, u"Acerca de..."_s);
@@ -54,8 +55,8 @@ void Form1::Form_Load()
             isExit ? u"&Salir"_s : core::at(m_activities, i).caption,
             {place.left, place.top, place.width, place.height},
             isExit ? ui::look::Red : ui::look::Green, ButtonFont);
-        button->setIcon(
-            pictogramIcon(isExit ? Pictogram::Exit : core::at(m_activities, i).pictogram));
+        button->setIcon(pictogramIcon(
+            isExit ? Pictogram::Exit : core::at(m_activities, i).pictogram, m_pictograms));
         on(button, &QPushButton::clicked, &Form1::Command1_Click, i);
         Command1.push_back(button);
     }

@@ -16,7 +16,9 @@ public:
     /// The side of the pictograms, in a display's own pixels, when the menu comes up on it.
     static int pictogramSide(const QScreen& display);
 
-    Form1(ui::Screens& screens, std::vector<Activity> activities);
+    /// What draws its pictograms ahead must outlive the menu.
+    Form1(ui::Screens& screens, std::vector<Activity> activities,
+        PictogramsAhead* pictograms = nullptr);
 
 protected:
     void Form_Load() override;
@@ -28,6 +30,7 @@ private:
     void exitProgram();
 
     std::vector<Activity> m_activities;
+    PictogramsAhead* m_pictograms;
     std::vector<ui::Button*> Command1; ///< the last one is "&Salir"
 };
 

@@ -15,8 +15,6 @@ namespace {
 
 constexpr QRgb Accent = 0xFFD2500F;
 
-PictogramsAhead* ahead = nullptr;
-
 void drawInto(QImage& picture, Pictogram id)
 {
     picture.fill(Qt::transparent);
@@ -32,19 +30,11 @@ QImage pictureIn(QImage& sheet, Pictogram id)
         sheet.format()};
 }
 
-void paintPicture(QPainter& painter, const QRectF& target, Pictogram id, int side)
-{
-    if (ahead != nullptr && ahead->paint(painter, target, id, side))
-        return;
-    QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
-    drawInto(picture, id);
-    painter.drawImage(target, picture);
-}
-
 class PictogramEngine : public QIconEngine {
 public:
-    explicit PictogramEngine(Pictogram pictogram)
+    PictogramEngine(Pictogram pictogram, PictogramsAhead* ahead)
         : m_pictogram(pictogram)
+        , m_ahead(ahead)
     {
     }
 
@@ -57,7 +47,7 @@ public:
         const QRect pixels = place.toRect();
         const bool whole = place == QRectF(pixels) && pixels.width() == pixels.height();
         if (whole && mode != QIcon::Disabled) // by a picture even if it was not drawn ahead
-            paintPicture(*painter, square, m_pictogram, pixels.width());
+            paintPicture(*painter, square, pixels.width());
         else
             drawPictogram(*painter, m_pictogram, square, mode != QIcon::Disabled);
     }
@@ -75,7 +65,17 @@ public:
     QIconEngine* clone() const override { return new PictogramEngine(*this); }
 
 private:
+    void paintPicture(QPainter& painter, const QRectF& target, int side) const
+    {
+        if (m_ahead != nullptr && m_ahead->paint(painter, target, m_pictogram, side))
+            return;
+        QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
+        drawInto(picture, m_pictogram);
+        painter.drawImage(target, picture);
+    }
+
     Pictogram m_pictogram;
+    PictogramsAhead* m_ahead;
 };
 
 } // namespace
@@ -97,9 +97,9 @@ void drawPictogram(QPainter& painter, Pictogram id, const QRectF& square, bool e
     painter.restore();
 }
 
-QIcon pictogramIcon(Pictogram id)
+QIcon pictogramIcon(Pictogram id, PictogramsAhead* ahead)
 {
-    return QIcon(new PictogramEngine(id));
+    return QIcon(new PictogramEngine(id, ahead));
 }
 
 PictogramsAhead::PictogramsAhead(int side)
@@ -112,12 +112,6 @@ PictogramsAhead::PictogramsAhead(int side)
         }
     })
 {
-    ahead = this;
-}
-
-PictogramsAhead::~PictogramsAhead()
-{
-    ahead = nullptr;
 }
 
 bool PictogramsAhead::paint(QPainter& painter, const QRectF& target, Pictogram id, int side)

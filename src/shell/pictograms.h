@@ -32,18 +32,15 @@ inline constexpr int PictogramCount = static_cast<int>(Pictogram::Exit) + 1;
 /// quiet when disabled.
 void drawPictogram(QPainter& painter, Pictogram id, const QRectF& square, bool enabled = true);
 
-/// An icon that draws a pictogram anew at every size and pixel ratio, but for one drawn ahead.
-QIcon pictogramIcon(Pictogram id);
-
-/// Draws all pictograms on a thread of its own, while the program gets ready. As long as one is
-/// there, an icon that is first painted at that size takes its picture, for which it waits; what
-/// is painted is the same. When all are taken, their memory is free again.
+/// Draws all pictograms on a thread of its own, while the program gets ready. An icon that is
+/// first painted at that size takes its picture, for which it waits; what is painted is the
+/// same. When all are taken, their memory is free again.
 class PictogramsAhead {
 public:
     /// side: of each picture, in pixels of the display.
     explicit PictogramsAhead(int side);
-    ~PictogramsAhead();
-    PictogramsAhead(const PictogramsAhead&) = delete;
+    ~PictogramsAhead() = default;
+    PictogramsAhead(const PictogramsAhead&) = delete; // the thread draws into this one
     PictogramsAhead& operator=(const PictogramsAhead&) = delete;
 
     /// Paints a picture of that side (pixels) into target, once; false where it is not there.
@@ -55,5 +52,9 @@ private:
     std::bitset<PictogramCount> m_taken;
     std::jthread m_drawing; ///< ends before the sheet goes
 };
+
+/// An icon that draws a pictogram anew at every size and pixel ratio, but for one drawn ahead;
+/// what does that must outlive the icon.
+QIcon pictogramIcon(Pictogram id, PictogramsAhead* ahead = nullptr);
 
 } // namespace shell

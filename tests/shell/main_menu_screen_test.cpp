@@ -159,7 +159,14 @@ private slots:
         const QImage expected = menu->grab().toImage();
         const int side = Form1::pictogramSide(*menu->screen());
         shell::PictogramsAhead ahead(side);
-        QCOMPARE(menu->grab().toImage(), expected);
+        ScreenBench other;
+        other.screens.add(u"Form1"_s, [&](ui::Screens& screens) -> ui::Screen* {
+            return new Form1(screens, Entries, &ahead);
+        });
+        other.screens.show(u"Form1"_s);
+        ui::Screen& same = *other.screens.loaded(u"Form1"_s);
+        makeActive(same);
+        QCOMPARE(same.grab().toImage(), expected);
         QImage canvas(side, side, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&canvas);
         const auto isThere = [&](shell::Pictogram pictogram) {

@@ -45,18 +45,28 @@ QImage strayInk(const QIcon& icon, int side)
     return canvas;
 }
 
-/// A pictogram on paper, painted as its icon or drawn without a picture in between.
-QImage onPaper(Pictogram pictogram, int side, int ratio, bool asIcon)
+QImage paper(int side, int ratio)
 {
     QImage canvas(QSize(side, side) * ratio, QImage::Format_ARGB32_Premultiplied);
     canvas.setDevicePixelRatio(ratio);
     canvas.fill(ui::look::Paper);
+    return canvas;
+}
+
+QImage onPaper(const QIcon& icon, int side, int ratio)
+{
+    QImage canvas = paper(side, ratio);
     QPainter painter(&canvas);
-    const QRect square(0, 0, side, side);
-    if (asIcon)
-        pictogramIcon(pictogram).paint(&painter, square);
-    else
-        drawPictogram(painter, pictogram, square);
+    icon.paint(&painter, QRect(0, 0, side, side));
+    return canvas;
+}
+
+/// A pictogram drawn without a picture in between.
+QImage drawnOnPaper(Pictogram pictogram, int side, int ratio)
+{
+    QImage canvas = paper(side, ratio);
+    QPainter painter(&canvas);
+    drawPictogram(painter, pictogram, QRect(0, 0, side, side));
     return canvas;
 }
 
@@ -163,8 +173,8 @@ private slots:
         QFETCH(Pictogram, pictogram);
         for (const int ratio : {1, 2}) {
             for (const int side : {30, 44, 55, 71})
-                QVERIFY(difference(onPaper(pictogram, side, ratio, true),
-                            onPaper(pictogram, side, ratio, false))
+                QVERIFY(difference(onPaper(pictogramIcon(pictogram), side, ratio),
+                            drawnOnPaper(pictogram, side, ratio))
                     <= 2);
         }
     }
@@ -175,21 +185,22 @@ private slots:
         QFETCH(Pictogram, pictogram);
         for (const int ratio : {1, 2}) {
             for (const int side : {30, 44, 55, 71}) {
-                const QImage expected = onPaper(pictogram, side, ratio, true);
+                const QImage expected = onPaper(pictogramIcon(pictogram), side, ratio);
                 PictogramsAhead ahead(side * ratio);
-                QCOMPARE(onPaper(pictogram, side, ratio, true), expected);
+                const QIcon icon = pictogramIcon(pictogram, &ahead);
+                QCOMPARE(onPaper(icon, side, ratio), expected);
                 QVERIFY(!takeFrom(ahead, pictogram, side * ratio));
-                QCOMPARE(onPaper(pictogram, side, ratio, true), expected); // drawn anew
+                QCOMPARE(onPaper(icon, side, ratio), expected); // drawn anew
             }
         }
     }
 
     void isDrawnAnewAtAnotherSizeOrDisabled()
     {
-        const QIcon icon = pictogramIcon(Pictogram::Rain);
-        const QImage normal = image(icon, 40);
-        const QImage disabled = image(icon, 64, QIcon::Disabled);
+        const QImage normal = image(pictogramIcon(Pictogram::Rain), 40);
+        const QImage disabled = image(pictogramIcon(Pictogram::Rain), 64, QIcon::Disabled);
         PictogramsAhead ahead(64);
+        const QIcon icon = pictogramIcon(Pictogram::Rain, &ahead);
         QCOMPARE(image(icon, 40), normal);
         QCOMPARE(image(icon, 64, QIcon::Disabled), disabled);
         QVERIFY(!takeFrom(ahead, Pictogram::Rain, 40));
@@ -199,8 +210,9 @@ private slots:
     void goesWhileItIsDrawnAhead()
     {
         for (int i = 0; i < 20; ++i)
-            const PictogramsAhead ahead(64);
-        QVERIFY(!image(pictogramIcon(Pictogram::Exit), 64).isNull());
+            const PictogramsAhead gone(64);
+        PictogramsAhead ahead(64);
+        QVERIFY(takeFrom(ahead, Pictogram::Exit, 64));
     }
 
 private:
