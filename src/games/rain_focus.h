@@ -37,7 +37,7 @@ private:
     QWidget* focused() const;
 
     const core::Clock& m_clock;
-    QWidget* PbFoco;
+    QWidget* PbFoco; ///< outside the sky: has the focus while no number is to have it
     std::optional<std::chrono::milliseconds> m_taken; ///< when, from another number
 };
 
