@@ -93,7 +93,7 @@ bool TextBox::eventFilter(QObject* watched, QEvent* event)
         && testAttribute(Qt::WA_TransparentForMouseEvents) && !toolTip().isEmpty()) {
         const auto* help = static_cast<QHelpEvent*>(event);
         if (geometry().contains(help->pos())) {
-            QToolTip::showText(help->globalPos(), toolTip(), this);
+            QToolTip::showText(help->globalPos(), toolTip(), parentWidget(), geometry());
             return true;
         }
     }

@@ -58,6 +58,17 @@ private slots:
         QCOMPARE(toolTip(*scratch().viewport()), u"Haga aquí sus cálculos"_s);
     }
 
+    void theTipOfTheOperationGoesWhenTheMouseLeavesIt()
+    {
+        const auto& operation = bench->control<QWidget>(u"TBOperación"_s);
+        QCOMPARE(toolTip(operation), u"Operación a realizar"_s);
+        const QWidget& canvas = *operation.parentWidget();
+        const QPoint beside = operation.geometry().bottomLeft() + QPoint(0, 3);
+        QVERIFY(screen->childAt(canvas.mapTo(screen, beside)) == &canvas);
+        QTest::mouseMove(screen->windowHandle(), canvas.mapTo(screen, beside));
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
     void buttonsHaveTheirColours() { bench->verifyCommandColours(); }
 
     void onlyAnswerAndScratchAreaTakeText()
