@@ -22,7 +22,7 @@ void writeUtf8ToTerminal();
 /// the desktop that has to be asked.
 bool asksForHighContrast();
 
-/// Whether screen readers here read by way of AT-SPI, as on all but Windows.
+/// Whether screen readers are taken to read by way of AT-SPI: wherever this is not Windows.
 bool readersUseAtSpi();
 
 /// Has all threads take memory from one heap, where each would get its own: worth it where they
