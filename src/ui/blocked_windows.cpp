@@ -1,9 +1,6 @@
 #include "ui/blocked_windows.h"
 
-#include "ui/display_event.h"
-
 #include <QApplication>
-#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -34,52 +31,63 @@ void bringBack(QWidget& blocking)
     blocking.activateWindow();
 }
 
+/// Whether a modal window keeps another one from its keyboard and mouse.
+bool blocks(const QWidget& blocking, const QWindow& window)
+{
+    QWindow* own = blocking.windowHandle();
+    return own != nullptr && own != &window && window.type() != Qt::Popup
+        && !own->isAncestorOf(&window, QWindow::IncludeTransients);
+}
+
 } // namespace
 
 BlockedWindows::BlockedWindows(QObject* application)
     : QObject(application)
 {
+    m_settling.setObjectName(QStringLiteral("settling"));
+    m_settling.setInterval(Settling);
+    m_settling.setSingleShot(true);
+    connect(&m_settling, &QTimer::timeout, this, &BlockedWindows::settled);
     qApp->installNativeEventFilter(this);
 }
 
 bool BlockedWindows::nativeEventFilter(const QByteArray& type, void* message, qintptr*)
 {
-    QWidget* blocking = QApplication::activeModalWidget();
-    if (blocking == nullptr || blocking->windowHandle() == nullptr)
-        return false;
     const DisplayEvent event = readDisplayEvent(type, message);
     QWindow* window = event.kind != DisplayEvent::Kind::Other ? windowOf(event.window) : nullptr;
     if (window == nullptr)
         return false;
-    const bool isBlocked = window != blocking->windowHandle()
-        && !blocking->windowHandle()->isAncestorOf(window, QWindow::IncludeTransients)
-        && window->type() != Qt::Popup;
-    if (event.kind == DisplayEvent::Kind::Deactivation) {
-        m_sinceLoss.invalidate();
-        if (!isBlocked)
-            m_sinceLoss.start();
-    } else if (isBlocked && event.kind == DisplayEvent::Kind::Press) {
+    QWidget* blocking = QApplication::activeModalWidget();
+    const bool isBlocked = blocking != nullptr && blocks(*blocking, *window);
+    if (isBlocked && event.kind == DisplayEvent::Kind::Press) {
         bringBack(*blocking);
-    } else if (isBlocked) {
-        QTimer::singleShot(
-            Settling, this, [this, handedOn = isHandedOn()] { activated(handedOn); });
+    } else if (isBlocked && event.kind == DisplayEvent::Kind::Activation) {
+        m_isHandedOn = m_sinceLoss.isValid() && m_sinceLoss.elapsed() < HandingOn;
+        m_settling.start();
         return true; // else the toolkit would undo a minimising that it has not heard of yet
+    } else if (event.kind != DisplayEvent::Kind::Press) {
+        focusMoved(event.kind, blocking != nullptr && !isBlocked);
     }
     return false;
 }
 
-void BlockedWindows::activated(bool handedOn)
+// What a blocked window was told is past once the keyboard goes elsewhere: whoever minimises
+// the window that blocks it just then is not to be undone.
+void BlockedWindows::focusMoved(DisplayEvent::Kind kind, bool isOfBlocking)
 {
-    QWidget* blocking = QApplication::activeModalWidget();
-    if (blocking != nullptr && !(handedOn && blocking->isMinimized()))
-        bringBack(*blocking);
+    m_settling.stop();
+    m_sinceLoss.invalidate();
+    if (isOfBlocking && kind == DisplayEvent::Kind::Deactivation)
+        m_sinceLoss.start();
 }
 
 // A window manager that minimises a window hands the focus on: then nobody has activated the
 // window that gets it.
-bool BlockedWindows::isHandedOn() const
+void BlockedWindows::settled()
 {
-    return m_sinceLoss.isValid() && m_sinceLoss.elapsed() < HandingOn;
+    QWidget* blocking = QApplication::activeModalWidget();
+    if (blocking != nullptr && !(m_isHandedOn && blocking->isMinimized()))
+        bringBack(*blocking);
 }
 
 } // namespace ui

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "ui/display_event.h"
+
 #include <QAbstractNativeEventFilter>
 #include <QElapsedTimer>
 #include <QObject>
-
-class QWindow;
+#include <QTimer>
 
 namespace ui {
 
@@ -19,10 +20,12 @@ public:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
 private:
-    bool isHandedOn() const;
-    void activated(bool handedOn);
+    void focusMoved(DisplayEvent::Kind kind, bool isOfBlocking);
+    void settled();
 
+    QTimer m_settling{this}; ///< runs before a blocked window is judged that has the keyboard
     QElapsedTimer m_sinceLoss; ///< of the focus by the blocking window; invalid: by another
+    bool m_isHandedOn = false; ///< nobody activated the blocked window: it got what was left
 };
 
 } // namespace ui

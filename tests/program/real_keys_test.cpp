@@ -62,7 +62,7 @@ private slots:
     {
         button(*menu, u"Command1(0)"_s).setFocus();
         display({u"keydown"_s, u"Return"_s});
-        QTRY_VERIFY(isActive(u"Form4"_s));
+        QTRY_VERIFY(screenHasKeyboard(u"Form4"_s));
         seeRepeats();
         release();
         QCOMPARE(text(u"Form4"_s, u"tbResultados"_s), u"Ejercicios:  0; Errores:  0"_s);
@@ -81,7 +81,7 @@ private slots:
         startDrill(u"Option1(2)"_s);
         BoxAnswerer boxes{u"Aceptar"_s};
         boxes.whileOpen = [&](QDialog& box) {
-            QTRY_VERIFY(box.isActiveWindow());
+            QTRY_VERIFY(hasKeyboard(box));
             seeRepeats();
             release();
             QVERIFY(box.isVisible());
@@ -96,13 +96,13 @@ private slots:
         startDrill(u"Option1(2)"_s);
         BoxAnswerer boxes{u"Aceptar"_s};
         boxes.whileOpen = [&](QDialog& box) {
-            QTRY_VERIFY(box.isActiveWindow());
+            QTRY_VERIFY(hasKeyboard(box));
             release();
             display({u"keydown"_s, u"Return"_s});
             QTRY_VERIFY(!box.isVisible());
         };
         display({u"keydown"_s, u"Return"_s});
-        QTRY_VERIFY(menu->isActiveWindow());
+        QTRY_VERIFY(hasKeyboard(*menu));
         seeRepeats();
         release();
         QVERIFY(!program->screens.loaded(u"Form8"_s));
@@ -114,7 +114,7 @@ private slots:
         bool answer = false;
         BoxAnswerer boxes{u"No"_s};
         boxes.whileOpen = [&](QDialog& box) {
-            QTRY_VERIFY(box.isActiveWindow());
+            QTRY_VERIFY(hasKeyboard(box));
             seeRepeats();
             release();
             QVERIFY(box.isVisible());
@@ -124,7 +124,7 @@ private slots:
             [&] { answer = ui::MessageBox::ask(*menu, u"¿Otra vez?"_s); });
         display({u"keydown"_s, u"Return"_s});
         QTRY_COMPARE(boxes.texts.size(), 1);
-        QTRY_VERIFY(menu->isActiveWindow());
+        QTRY_VERIFY(hasKeyboard(*menu));
         QVERIFY(!answer);
     }
 
@@ -165,7 +165,7 @@ private slots:
         pressEnter();
         loseRace();
         const QString operation = text(u"FrmCarrera"_s, u"TBOperación"_s);
-        QTRY_VERIFY(isActive(u"FrmCarrera"_s));
+        QTRY_VERIFY(screenHasKeyboard(u"FrmCarrera"_s));
         pressEnter();
         QCOMPARE(text(u"FrmCarrera"_s, u"TBOperación"_s), operation);
         QVERIFY(
@@ -204,7 +204,7 @@ private slots:
     {
         QFETCH(bool, clicked);
         button(*menu, u"Command1(0)"_s).click();
-        QTRY_VERIFY(isActive(u"Form4"_s));
+        QTRY_VERIFY(screenHasKeyboard(u"Form4"_s));
         ui::Screen& activity = loaded(u"Form4"_s);
         minimise(activity);
         if (clicked) {
@@ -214,7 +214,7 @@ private slots:
             minimise(*menu);
             display({u"windowactivate"_s, QString::number(menu->winId())});
         }
-        QTRY_VERIFY(!activity.isMinimized() && activity.isActiveWindow());
+        QTRY_VERIFY(!activity.isMinimized() && hasKeyboard(activity));
         QCOMPARE(menu->isVisible(), true);
     }
 
@@ -222,10 +222,10 @@ private slots:
     {
         BoxAnswerer boxes{u"Aceptar"_s};
         boxes.whileOpen = [&](QDialog& box) {
-            QTRY_VERIFY(box.isActiveWindow());
+            QTRY_VERIFY(hasKeyboard(box));
             minimise(box);
             display({u"windowactivate"_s, QString::number(menu->winId())});
-            QTRY_VERIFY(box.isActiveWindow() && !box.isMinimized());
+            QTRY_VERIFY(hasKeyboard(box) && !box.isMinimized());
         };
         ScreenBench::find<QAction>(*menu, u"MnuAce"_s).trigger();
         QCOMPARE(boxes.texts.size(), 1);
@@ -247,10 +247,10 @@ private:
         makeActive(loaded(name));
         return loaded(name);
     }
-    bool isActive(const QString& name) const
+    bool screenHasKeyboard(const QString& name) const
     {
         const ui::Screen* screen = program->screens.loaded(name);
-        return screen != nullptr && screen->isActiveWindow();
+        return screen != nullptr && hasKeyboard(*screen);
     }
     static QPushButton& button(const ui::Screen& screen, const QString& name)
     {
@@ -296,7 +296,7 @@ private:
     /// Answers a box too early, by key and by click; then it is old enough to be answered.
     void hurry(QDialog& box) const
     {
-        QTRY_VERIFY(box.isActiveWindow());
+        QTRY_VERIFY(hasKeyboard(box));
         watch->comeFirst();
         pressEnter();
         const auto* accept = box.findChild<QPushButton*>();
@@ -319,7 +319,7 @@ private:
     {
         button(*menu, u"Command1(2)"_s).setFocus();
         button(*menu, u"Command1(2)"_s).click();
-        QTRY_VERIFY(isActive(u"Form8"_s));
+        QTRY_VERIFY(screenHasKeyboard(u"Form8"_s));
         const ui::Screen& drill = loaded(u"Form8"_s);
         ScreenBench::find<QAbstractButton>(drill, option).click();
         ScreenBench::find<QLineEdit>(drill, u"Text1"_s).setText(u"2"_s);
@@ -331,9 +331,9 @@ private:
     void startRace() const
     {
         button(*menu, u"Command1(10)"_s).click();
-        QTRY_VERIFY(isActive(u"DlgCarrera"_s));
+        QTRY_VERIFY(screenHasKeyboard(u"DlgCarrera"_s));
         loaded(u"DlgCarrera"_s).close();
-        QTRY_VERIFY(isActive(u"FrmCarrera"_s));
+        QTRY_VERIFY(screenHasKeyboard(u"FrmCarrera"_s));
     }
     void typeResult() const
     {
@@ -370,7 +370,7 @@ private:
     }
     static void minimise(const QWidget& window)
     {
-        QGuiApplication::sync(); // it may still be asking to be activated
+        settleWindows(); // it may still be asking to be activated
         display({u"windowminimize"_s, QString::number(window.winId())});
         QTRY_VERIFY2(window.isMinimized(), qPrintable(window.objectName()));
     }

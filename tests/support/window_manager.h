@@ -33,14 +33,20 @@ inline void settleWindows()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
+/// Whether a window has the keyboard. That it counts as active is less: a box does as soon as
+/// the window behind it is active.
+inline bool hasKeyboard(const QWidget& window)
+{
+    return window.windowHandle() != nullptr
+        && QGuiApplication::focusWindow() == window.windowHandle();
+}
+
 /// Makes a window the active one; ends the test program when it does not become it.
 inline void makeActive(QWidget& window)
 {
     settleWindows(); // a window that closes may still hold the focus
     window.activateWindow();
-    // A window counts as active while one of its dialogs is.
-    const auto hasFocus = [&] { return QGuiApplication::focusWindow() == window.windowHandle(); };
-    if (!QTest::qWaitFor(hasFocus))
+    if (!QTest::qWaitFor([&] { return hasKeyboard(window); }))
         giveUp("did not become active:", window.objectName());
     settleWindows();
 }
