@@ -18,14 +18,15 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
-    core::shareOneHeap(); // the toolkit's threads hardly allocate
+    core::shareTwoHeaps();
     ui::ignoreDesktopSettings();
     std::jthread fontSettings = ui::look::readFontSettings();
     int nameAlone = std::min(argc, 1); // the toolkit's own options are not the program's
     QApplication application(nameAlone, argv);
     const std::jthread fonts = ui::look::readFontList(std::move(fontSettings));
+    // Of two cores the thread that asks the desktop's bus is to get one at once.
     shell::PictogramsAhead pictograms(
-        shell::Form1::pictogramSide(*QGuiApplication::primaryScreen()));
+        shell::Form1::pictogramSide(*QGuiApplication::primaryScreen()), QThread::IdlePriority);
     ui::setUpApplication();
     QApplication::setDesktopFileName(u"org.pizarrin.Pizarrin"_s);
 

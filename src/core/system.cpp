@@ -26,10 +26,10 @@ bool canWrite(const QString& file)
     return QFile(file).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
 }
 
-void shareOneHeap()
+void shareTwoHeaps()
 {
 #ifdef __GLIBC__
-    mallopt(M_ARENA_MAX, 1);
+    mallopt(M_ARENA_MAX, 2);
 #endif
 }
 

@@ -25,8 +25,8 @@ bool asksForHighContrast();
 /// Whether screen readers are taken to read by way of AT-SPI: wherever this is not Windows.
 bool readersUseAtSpi();
 
-/// Has all threads take memory from one heap, where each would get its own: worth it where they
-/// hardly allocate.
-void shareOneHeap();
+/// Has all threads take memory from two heaps, where each would get its own: they wait for one
+/// another a little, and the program stays small.
+void shareTwoHeaps();
 
 } // namespace core

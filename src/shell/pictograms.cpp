@@ -102,27 +102,37 @@ QIcon pictogramIcon(Pictogram id, PictogramsAhead* ahead)
     return QIcon(new PictogramEngine(id, ahead));
 }
 
-PictogramsAhead::PictogramsAhead(int side)
+PictogramsAhead::PictogramsAhead(int side, QThread::Priority priority)
     : m_side(side)
     , m_sheet(side, side * PictogramCount, QImage::Format_ARGB32_Premultiplied)
-    , m_drawing([this] {
-        for (int i = 0; i < PictogramCount; ++i) {
-            QImage picture = pictureIn(m_sheet, Pictogram(i));
-            drawInto(picture, Pictogram(i));
-        }
+    , m_drawing([this, priority](const std::stop_token& stop) {
+        QThread::currentThread()->setPriority(priority);
+        drawAll(stop);
     })
 {
 }
 
+void PictogramsAhead::drawAll(const std::stop_token& stop)
+{
+    for (int i = 0; i < PictogramCount && !stop.stop_requested(); ++i) {
+        QImage picture = pictureIn(m_sheet, Pictogram(i));
+        drawInto(picture, Pictogram(i));
+        m_drawn = i + 1;
+    }
+}
+
+bool PictogramsAhead::has(Pictogram id, int side) const
+{
+    const auto index = static_cast<int>(id);
+    return side == m_side && index < m_drawn && !m_taken.test(static_cast<std::size_t>(index));
+}
+
 bool PictogramsAhead::paint(QPainter& painter, const QRectF& target, Pictogram id, int side)
 {
-    const auto index = static_cast<std::size_t>(id);
-    if (side != m_side || m_taken.test(index))
+    if (!has(id, side))
         return false;
-    if (m_drawing.joinable())
-        m_drawing.join();
     painter.drawImage(target, pictureIn(m_sheet, id));
-    m_taken.set(index);
+    m_taken.set(static_cast<std::size_t>(id));
     if (m_taken.all())
         m_sheet = {};
     return true;
