@@ -154,14 +154,14 @@ def division(pupil):
     pupil.does("alt+h", says=["Resultado incorrecto"])
     quotient, rest = divmod(int(dividend), int(divisor))
     pupil.does("alt+v", says=[f"Solución: cociente {quotient}, resto {rest}"])
-    dividend, divisor = pupil.goes_on("alt+c", asked, also=[first_square]).groups()
+    dividend, divisor = pupil.goes_on("alt+c", asked, also=[first_square, WRITTEN]).groups()
     quotient, rest = divmod(int(dividend), int(divisor))
     for digit in str(rest):
-        pupil.does(digit, "Right", says=["línea 1.*"])
-    pupil.does("Tab", says=["Divisor read only text", divisor])
-    pupil.does("Tab", says=["Cociente.*"])
-    pupil.does(*str(quotient), "alt+h", says=["resultado correcto"])
-    pupil.goes_on("alt+c", asked, also=[first_square])
+        pupil.does(digit, "Right", says=["línea 1.*"], also=[WRITTEN])
+    pupil.does("Tab", says=["Divisor read only text", divisor], also=[WRITTEN])
+    pupil.does("Tab", says=["Cociente.*"], also=[WRITTEN])
+    pupil.does(*str(quotient), "alt+h", says=["resultado correcto"], also=[WRITTEN])
+    pupil.goes_on("alt+c", asked, also=[first_square, WRITTEN])
     pupil.close()
 
 
@@ -220,8 +220,10 @@ def value_of(spoken):
 
 
 PLACES = ["unidades", "decenas", "centenas"]
-# A reader that says announcements first comes to what the solution wrote when the pupil is past it.
-UNTIL_READY = ["desde las unidades", "F2 repite", "unidades", r"\d+$"]
+# A reader that says announcements first comes to what the solution or the next exercise wrote when
+# the pupil is past it.
+WRITTEN = r"\d+$"
+UNTIL_READY = ["desde las unidades", "F2 repite", "unidades", WRITTEN]
 
 ALL = [repeated_sum, tables, quick_tables, gap, multiples, multiplication, division, problems,
        combined, rain, race]
