@@ -154,14 +154,14 @@ def division(pupil):
     pupil.does("alt+h", says=["Resultado incorrecto"])
     quotient, rest = divmod(int(dividend), int(divisor))
     pupil.does("alt+v", says=[f"Solución: cociente {quotient}, resto {rest}"])
-    dividend, divisor = pupil.goes_on("alt+c", asked, also=[first_square, WRITTEN]).groups()
+    dividend, divisor = pupil.goes_on("alt+c", asked, also=[first_square]).groups()
     quotient, rest = divmod(int(dividend), int(divisor))
     for digit in str(rest):
-        pupil.does(digit, "Right", says=["línea 1.*"], also=[WRITTEN])
-    pupil.does("Tab", says=["Divisor read only text", divisor], also=[WRITTEN])
-    pupil.does("Tab", says=["Cociente.*"], also=[WRITTEN])
-    pupil.does(*str(quotient), "alt+h", says=["resultado correcto"], also=[WRITTEN])
-    pupil.goes_on("alt+c", asked, also=[first_square, WRITTEN])
+        pupil.does(digit, "Right", says=["línea 1.*"])
+    pupil.does("Tab", says=["Divisor read only text", divisor])
+    pupil.does("Tab", says=["Cociente.*"])
+    pupil.does(*str(quotient), "alt+h", says=["resultado correcto"])
+    pupil.goes_on("alt+c", asked, also=[first_square])
     pupil.close()
 
 
@@ -205,10 +205,9 @@ def combined(pupil):
     pupil.does(*str(result + 1), "Return", says=["Resultado incorrecto"])
     pupil.does("Return", says=["Resultado incorrecto"])
     pupil.does("alt+v", says=[f"Solución: {result}"])
-    # The answer stays in the box until the next one is typed: the reader says what is in it.
-    result = value_of(pupil.goes_on("alt+c", operation, also=[str(result)]).group())
+    result = value_of(pupil.goes_on("alt+c", operation).group())
     pupil.does(*str(result), "Return", says=["Resultado correcto"])
-    pupil.goes_on("alt+c", operation, also=[str(result)])
+    pupil.goes_on("alt+c", operation)
     pupil.close()
 
 
@@ -220,10 +219,7 @@ def value_of(spoken):
 
 
 PLACES = ["unidades", "decenas", "centenas"]
-# A reader that says announcements first comes to what the solution or the next exercise wrote when
-# the pupil is past it.
-WRITTEN = r"\d+$"
-UNTIL_READY = ["desde las unidades", "F2 repite", "unidades", WRITTEN]
+UNTIL_READY = ["desde las unidades", "F2 repite", "unidades"]
 
 ALL = [repeated_sum, tables, quick_tables, gap, multiples, multiplication, division, problems,
        combined, rain, race]

@@ -85,7 +85,7 @@ class Pupil:
         self.desk.press(*keys)
         matches = self.desk.hear(*says)
         self._note(" ".join(keys))
-        self._again([*says], [*also, *typed_by(keys)])
+        self._again([*says], also)
         return matches
 
     def close(self):
@@ -101,7 +101,8 @@ class Pupil:
 
     def _again(self, expected, also=()):
         """F2 says the exercise again; what was said before it was all expected, but for a
-        character that the reader spells out."""
+        character that the reader spells out, and for what stands in a box: a reader that says
+        announcements first comes to what was typed or written when the pupil is past it."""
         said = list(self.desk.passed)
         self.desk.press("F2")
         self.desk.hear(re.escape(self.heard_exercise.group()))
@@ -110,15 +111,10 @@ class Pupil:
             said.remove(next(one for one in said if re.fullmatch(words, one)))
         own = [*self.names, "F2 repite el ejercicio", *also]
         chatter = [one for one in said
-                   if len(one) > 1 and not any(re.match(name, one) for name in own)]
+                   if len(one) > 1 and not re.fullmatch(r"[\d ]+", one)
+                   and not any(re.match(name, one) for name in own)]
         if chatter:
             raise Silence(f"heard {chatter} besides {expected}")
-
-
-def typed_by(keys):
-    """What stands in the boxes meanwhile: whoever looks late finds more than a key in one."""
-    runs = "".join(key if len(key) == 1 else " " for key in keys).split()
-    return [run[:length] + "$" for run in runs for length in range(2, len(run) + 1)]
 
 
 def play(pupil, wanted):
