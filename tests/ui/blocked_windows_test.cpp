@@ -49,6 +49,15 @@ private slots:
         QTRY_VERIFY(!settling->isActive());
         QVERIFY(activity->isMinimized());
     }
+    void menuActivatedAfterAnotherProgramBringsTheActivityBackAtOnce()
+    {
+        lost(*activity);
+        activity->setWindowState(Qt::WindowMinimized);
+        activated(*menu);
+        lost(*menu);
+        activated(*menu);
+        QTRY_VERIFY(!activity->isMinimized());
+    }
     void minimisingIsNotUndoneOnceTheActivityHasTheKeyboardAgain()
     {
         activated(*menu);
