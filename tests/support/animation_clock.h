@@ -2,12 +2,27 @@
 
 #include <QAnimationDriver>
 #include <QCoreApplication>
+#include <QVariantAnimation>
 
 /// While it lives, the toolkit's animations stand still until a test lets time pass.
 class AnimationClock final : public QAnimationDriver {
 public:
-    AnimationClock() { install(); }
-    ~AnimationClock() override { uninstall(); }
+    AnimationClock()
+    {
+        install();
+        // While the first animation begins, the toolkit goes by the real time for a moment: here
+        // one begins that never ends.
+        m_endless.setStartValue(0);
+        m_endless.setEndValue(1);
+        m_endless.setLoopCount(-1);
+        m_endless.start();
+        pass(0);
+    }
+    ~AnimationClock() override
+    {
+        m_endless.stop();
+        uninstall();
+    }
 
     /// One frame, this many milliseconds after the one before.
     void pass(int milliseconds)
@@ -29,5 +44,6 @@ protected:
     }
 
 private:
+    QVariantAnimation m_endless;
     qint64 m_elapsed = 0; ///< since the clock was last started, in milliseconds
 };
