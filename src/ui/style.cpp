@@ -151,6 +151,15 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
+QRect Style::subElementRect(
+    SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    // A press beside the caption takes the focus: it picks the option, too.
+    if (element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect)
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
 int Style::pixelMetric(
     PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {

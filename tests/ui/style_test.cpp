@@ -4,8 +4,10 @@
 #include "ui/look.h"
 #include "ui/style.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QStyleOptionButton>
 
@@ -137,6 +139,27 @@ private slots:
                     indicator(draw, factor, QStyle::State_Enabled | QStyle::State_On);
                 QVERIFY(marked != empty);
             }
+        }
+    }
+
+    void optionsArePickedAnywhereInTheirPlace_data()
+    {
+        QTest::addColumn<QPointF>("place");
+        QTest::newRow("top left") << QPointF(0, 0);
+        QTest::newRow("top right") << QPointF(1, 0);
+        QTest::newRow("bottom left") << QPointF(0, 1);
+        QTest::newRow("bottom right") << QPointF(1, 1);
+    }
+    void optionsArePickedAnywhereInTheirPlace()
+    {
+        QFETCH(QPointF, place);
+        for (QAbstractButton* option : std::initializer_list<QAbstractButton*>{
+                 new QCheckBox(u"Uno"_s, screen), new QRadioButton(u"Otro"_s, screen)}) {
+            option->resize(200, 60);
+            option->show();
+            const QPoint corner(qRound(place.x() * 199), qRound(place.y() * 59));
+            QTest::mouseClick(option, Qt::LeftButton, {}, corner);
+            QVERIFY(option->isChecked());
         }
     }
 
