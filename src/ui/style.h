@@ -22,8 +22,8 @@ public:
         QPainter* painter, const QWidget* widget) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
         SubControl part, const QWidget* widget) const override;
-    QRect subElementRect(SubElement element, const QStyleOption* option,
-        const QWidget* widget) const override;
+    QRect subElementRect(
+        SubElement element, const QStyleOption* option, const QWidget* widget) const override;
     int pixelMetric(
         PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     QIcon standardIcon(
