@@ -21,6 +21,8 @@ SetCompressor /SOLID lzma
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${UNINSTALL_KEY}"
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME InstallLocation
 !define MULTIUSER_USE_PROGRAMFILES64
+; With an answer of its own: nobody sees the box of a silent one, which would wait for ever.
+!define MULTIUSER_INIT_TEXT_ALLUSERSNOTPOSSIBLE '$(NEEDS_ADMIN)" /SD "IDOK'
 !include MultiUser.nsh
 !include MUI2.nsh
 !include FileFunc.nsh
@@ -59,12 +61,18 @@ VIAddVersionKey /LANG=${LANG_SPANISH} LegalCopyright "© 2026 The Pizarrin autho
 LangString WHO ${LANG_SPANISH} "¿Quién va a usar Pizarrin en este ordenador?"
 LangString FOR_ALL ${LANG_SPANISH} "Todos los usuarios (hace falta ser administrador)"
 LangString FOR_ONE ${LANG_SPANISH} "Solo yo"
-LangString IS_OPEN ${LANG_SPANISH} "Pizarrin está abierto. Ciérrelo y vuelva a intentarlo."
+LangString NEEDS_ADMIN ${LANG_SPANISH} "Para instalar o quitar Pizarrin para todos los usuarios hace falta ser administrador."
+LangString IS_OPEN ${LANG_SPANISH} "No se puede cambiar pizarrin.exe: Pizarrin está abierto, o hace falta ser administrador. Ciérrelo y vuelva a intentarlo."
 LangString BANK_STAYS ${LANG_SPANISH} "El banco de problemas ha cambiado: se queda en $INSTDIR\Recursos"
 
 Function .onInit
   SetRegView 64
+  Push $INSTDIR ; empty but for /D, which the next line would forget
   !insertmacro MULTIUSER_INIT
+  Pop $0
+  ${If} $0 != ""
+    StrCpy $INSTDIR $0
+  ${EndIf}
 FunctionEnd
 
 Function un.onInit

@@ -11,13 +11,15 @@ package_name() { # what the archive and the installer are called, but for their 
 }
 
 configure_windows() { # packages that the caller needs too
-  local toolkit
+  local toolkit fresh=()
   need_packages "${windows_packages[@]}" "$@"
   toolkit=$(packaging/windows/toolkit.sh folder)
   [ -e "$toolkit/complete" ] ||
     echo "Compilo Qt para Windows; solo esta vez, y puede durar una hora: $toolkit"
   quietly "compilar Qt para Windows" packaging/windows/toolkit.sh build
-  quietly "configurar windows" cmake -S . -B "$windows_build" -G Ninja \
+  # What is remembered of another toolkit would be found before this one.
+  grep -qsF "$toolkit/" "$windows_build/CMakeCache.txt" || fresh=(--fresh)
+  quietly "configurar windows" cmake ${fresh+"${fresh[@]}"} -S . -B "$windows_build" -G Ninja \
     -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE="$toolkit/lib/cmake/Qt6/qt.toolchain.cmake" \
     -DQT_CHAINLOAD_TOOLCHAIN_FILE="$PWD/packaging/windows/toolchain.cmake" \
     -DCMAKE_CROSSCOMPILING_EMULATOR="$PWD/packaging/windows/wine.sh" \

@@ -42,6 +42,7 @@ fetch_source() {
   local apt
   mkdir -p apt/lists/partial
   list_sources >apt/sources.list
+  [ -s apt/sources.list ] || { echo "Falta la lista de paquetes: sudo apt-get update" && exit 1; }
   apt=(apt-get -q -o Dir::Etc::SourceList="$PWD/apt/sources.list"
     -o Dir::Etc::SourceParts=/dev/null -o Dir::State::Lists="$PWD/apt/lists"
     -o Dir::Cache="$PWD/apt" -o APT::Sandbox::User="$(id -un)")

@@ -200,8 +200,8 @@ walk_archive() {
   [ ! -e "$shared" ] || fail "the bank was saved to the shared folder"
 }
 
-install_silently() { # switch for whom
-  "$here/wine.sh" "$installer" /S "$1"
+install_silently() { # switch for whom, and for where
+  "$here/wine.sh" "$installer" /S "$@"
 }
 
 show_installer() {
@@ -251,6 +251,11 @@ walk_uninstaller() {
   install_silently /CurrentUser # over it
   uninstall /CurrentUser "$own"
   tail -n 1 "$own/Recursos/Problemas3.dat" | grep -q 'Uno m' || fail "a changed bank went"
+
+  own=$drive/Aula/Pizarrin
+  install_silently /CurrentUser '/D=C:\Aula\Pizarrin'
+  [ -e "$own/pizarrin.exe" ] || fail "installed elsewhere than it was told"
+  uninstall /CurrentUser "$own"
 }
 
 setxkbmap es
