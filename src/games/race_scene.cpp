@@ -32,7 +32,6 @@ RaceScene::RaceScene(ui::ControlFactory& factory, QPointF corner, QSizeF canvas,
           this))
 {
     Picture1->setAccessibleName(u"Pista"_s);
-    Picture1->setFocusPolicy(Qt::ClickFocus); // for the end of a race
     const std::array<QString, 2> names{u"Tu coche"_s, u"El coche de tu rival"_s};
     for (std::size_t i = 0; i < Image1.size(); ++i) {
         Image1[i] = factory.add(

@@ -120,7 +120,8 @@ bool RainField::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyPress:
         playBy(true);
         break;
-    case QEvent::MouseButtonPress: {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: { // the second of two hurried presses
         playBy(false);
         const auto* press = static_cast<QMouseEvent*>(event);
         const bool onSky = watched == m_canvas && press->button() == Qt::LeftButton;

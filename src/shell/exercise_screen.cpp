@@ -70,6 +70,12 @@ void ExerciseScreen::enterChecks(QWidget* answerBox)
     onEnter(answerBox, [this] { Command1_Click(); });
 }
 
+void ExerciseScreen::leaveContinue(QWidget* work)
+{
+    if (Command2[0]->hasFocus())
+        work->setFocus();
+}
+
 bool ExerciseScreen::askToRepeat()
 {
     return ui::MessageBox::ask(*this,

@@ -46,6 +46,10 @@ protected:
     /// Enter in this box does what "&Hecho" does.
     void enterChecks(QWidget* answerBox);
 
+    /// Takes the focus to where an exercise that a menu has brought is worked out, from
+    /// "&Continuar", where the next key would be lost or bring another one.
+    void leaveContinue(QWidget* work);
+
     /// "Actividad terminada": true when the pupil wants to repeat the series.
     bool askToRepeat();
 

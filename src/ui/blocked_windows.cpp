@@ -20,10 +20,14 @@ QWindow* windowOf(quintptr id)
     return nullptr;
 }
 
+// A box can come up over a minimised activity: that stays so as long as the box is open, though
+// the toolkit would think otherwise, and comes back behind it.
 void bringBack(QWidget& blocking)
 {
     QWindow* window = blocking.windowHandle();
-    for (QWindow* behind = window; behind != nullptr; behind = behind->transientParent()) {
+    const bool isMinimised = window->windowStates() & Qt::WindowMinimized;
+    for (QWindow* behind = isMinimised ? window : nullptr; behind != nullptr;
+         behind = behind->transientParent()) {
         if (behind->windowStates() & Qt::WindowMinimized)
             behind->setWindowStates(behind->windowStates() & ~Qt::WindowMinimized);
     }
@@ -37,6 +41,15 @@ bool blocks(const QWidget& blocking, const QWindow& window)
     QWindow* own = blocking.windowHandle();
     return own != nullptr && own != &window && window.type() != Qt::Popup
         && !own->isAncestorOf(&window, QWindow::IncludeTransients);
+}
+
+/// Whether a message to a blocked window means the one that blocks it. The first key of Alt+F4
+/// does not: the second one would close what came back.
+bool asksForIt(DisplayEvent::Kind kind)
+{
+    return kind == DisplayEvent::Kind::Press
+        || (kind == DisplayEvent::Kind::Key
+            && QGuiApplication::queryKeyboardModifiers() == Qt::NoModifier);
 }
 
 } // namespace
@@ -59,13 +72,14 @@ bool BlockedWindows::nativeEventFilter(const QByteArray& type, void* message, qi
         return false;
     QWidget* blocking = QApplication::activeModalWidget();
     const bool isBlocked = blocking != nullptr && blocks(*blocking, *window);
-    if (isBlocked && event.kind == DisplayEvent::Kind::Press) {
-        bringBack(*blocking);
+    if (event.kind == DisplayEvent::Kind::Press || event.kind == DisplayEvent::Kind::Key) {
+        if (isBlocked && asksForIt(event.kind))
+            bringBack(*blocking);
     } else if (isBlocked && event.kind == DisplayEvent::Kind::Activation) {
         m_isHandedOn = m_sinceLoss.isValid() && m_sinceLoss.elapsed() < HandingOn;
         m_settling.start();
         return true; // else the toolkit would undo a minimising that it has not heard of yet
-    } else if (event.kind != DisplayEvent::Kind::Press) {
+    } else {
         focusMoved(event.kind, blocking != nullptr && !isBlocked);
     }
     return false;

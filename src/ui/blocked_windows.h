@@ -10,8 +10,9 @@
 namespace ui {
 
 /// Brings the window that blocks all others back in front, restored, when another one is
-/// activated, clicked or given a key. The toolkit asks for its activation, but leaves it
-/// minimised, and tells nobody: so this listens to the display itself. On X11 and Windows.
+/// activated, clicked or given a key that is no part of a chord. The toolkit asks for its
+/// activation, but leaves it minimised, and tells nobody: so this listens to the display itself.
+/// On X11 and Windows.
 class BlockedWindows final : public QObject, public QAbstractNativeEventFilter {
 public:
     /// Watches the application for as long as it lives.

@@ -46,8 +46,10 @@ DisplayEvent readX11(const void* message)
     constexpr quint8 FocusOut = 10;
     constexpr quint8 Message = 33;
     constexpr quint8 OfAnExtension = 35;
+    constexpr quint16 TouchBegin = 18;
     switch (numberAt<quint8>(message, 0) & 0x7F) {
     case KeyPress:
+        return {Kind::Key, numberAt<quint32>(message, 12)};
     case ButtonPress:
         return {Kind::Press, numberAt<quint32>(message, 12)};
     case FocusIn:
@@ -59,7 +61,8 @@ DisplayEvent readX11(const void* message)
             return {Kind::Activation, numberAt<quint32>(message, 4)};
         break;
     case OfAnExtension: // the mouse's buttons have the same number in theirs
-        if (numberAt<quint16>(message, 8) == ButtonPress)
+        if (const auto event = numberAt<quint16>(message, 8);
+            event == ButtonPress || event == TouchBegin)
             return {Kind::Press, numberAt<quint32>(message, 24)};
         break;
     default:

@@ -6,7 +6,7 @@ namespace ui {
 
 /// What the display tells of a window, read from the messages of its system.
 struct DisplayEvent {
-    enum class Kind { Other, Press, Activation, Deactivation };
+    enum class Kind { Other, Press, Key, Activation, Deactivation };
 
     Kind kind = Kind::Other;
     quintptr window = 0; ///< the system's number of the window

@@ -62,6 +62,11 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
     if (!watched->isWindowType())
         return false;
     switch (event->type()) {
+    case QEvent::Close:
+        if (!event->spontaneous() || closeCounts())
+            return false;
+        event->ignore();
+        return true;
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
         if (pressCounts(*static_cast<QKeyEvent*>(event)))
@@ -80,6 +85,7 @@ bool HeldKeys::pressCounts(const QKeyEvent& event)
     const quint32 key = physicalKey(event);
     QObject* control = controlWithKeyboard();
     if (!isRepeat(event)) {
+        m_closedWithAlt = m_closedWithAlt && event.key() != Qt::Key_Alt;
         m_presses[key] = {.control = control, .pressedAt = event.timestamp(), .releasedAt = {}};
         return true;
     }
@@ -93,12 +99,20 @@ bool HeldKeys::pressCounts(const QKeyEvent& event)
 
 bool HeldKeys::releaseCounts(const QKeyEvent& event)
 {
-    const auto found = m_presses.find(physicalKey(event));
-    if (event.isAutoRepeat() || found == m_presses.end() || !found->second.down)
+    if (event.isAutoRepeat())
         return false;
+    const auto [found, isUnknown] = m_presses.try_emplace(physicalKey(event));
     Press& press = found->second;
-    press.down = false;
-    return !std::exchange(press.releasedAt, event.timestamp()) && !press.dead;
+    const bool wasDown = std::exchange(press.down, false) && !isUnknown;
+    const bool isFirst = !std::exchange(press.releasedAt, event.timestamp());
+    return wasDown && isFirst && !press.dead;
+}
+
+// A window manager that takes Alt+F4 for itself asks for the next window while F4 repeats.
+bool HeldKeys::closeCounts()
+{
+    const bool isAltDown = QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier;
+    return !std::exchange(m_closedWithAlt, isAltDown) || !isAltDown;
 }
 
 // X11 repeats a key as a release and a press of the same time. When the toolkit reads the

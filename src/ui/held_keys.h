@@ -12,7 +12,8 @@ namespace ui {
 
 /// Lets a key that is held down act once, in every window of the application. Its repeats
 /// only move a caret or erase, and only in the control that it was pressed in. A key that is
-/// down when another window gets the keyboard means nothing until it has been released.
+/// down when another window gets the keyboard means nothing until it has been released, and
+/// Alt+F4 closes one window.
 class HeldKeys final : public QObject {
 public:
     /// Watches the application for as long as it lives.
@@ -32,8 +33,10 @@ private:
     bool pressCounts(const QKeyEvent& event);
     bool releaseCounts(const QKeyEvent& event);
     bool isRepeat(const QKeyEvent& event) const;
+    bool closeCounts();
 
     std::unordered_map<quint32, Press> m_presses; ///< by key
+    bool m_closedWithAlt = false; ///< a window has been asked to close, and Alt is down since
 };
 
 } // namespace ui

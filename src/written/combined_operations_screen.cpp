@@ -146,6 +146,7 @@ void FRMCombi::clearAnswer()
 
 void FRMCombi::showSolution()
 {
+    showAnswerAsPast(false);
     TBResultado->setText(QString::number(m_model.showSolution()));
     say(m_model.spokenSolution());
 }

@@ -34,17 +34,23 @@ Form6::Form6(ui::Screens& screens)
 
 DivisionMenu::Callbacks Form6::menuCallbacks()
 {
-    return {.showExercise = [this] { showExercise(); },
+    return {.showExercise =
+                [this] {
+                    showExercise();
+                    leaveContinue(m_board.Text1);
+                },
         .showTypedDividend =
             [this] {
                 showWork();
                 showOperation();
+                leaveContinue(m_board.Text1);
             },
         .showTypedDivisor =
             [this] {
                 fitSheet();
                 showDivisor();
                 showOperation();
+                leaveContinue(m_board.Text1);
             },
         .leave = [this] { unload(); }};
 }

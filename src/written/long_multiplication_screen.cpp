@@ -31,8 +31,16 @@ MultiplicationMenu::Callbacks Form3::menuCallbacks()
     const auto chooseDigits = [this](const Dialog& dialog) {
         m_menu.chooseDigits(dialog.TablasSeleccionadas());
     };
-    return {.newExercise = [this] { NuevaMultiplicacion(); },
-        .showTypedFactors = [this] { showExercise(); },
+    return {.newExercise =
+                [this] {
+                    NuevaMultiplicacion();
+                    leaveContinue(m_board.row(0));
+                },
+        .showTypedFactors =
+            [this] {
+                showExercise();
+                leaveContinue(m_board.row(0));
+            },
         .showVerdict = [this] { showVerdict(*m_column->Text1, m_model.verdict()); },
         .openDigits = [this, chooseDigits] { screens().showModal<Dialog>(*this, chooseDigits); },
         .leave = [this] { unload(); }};

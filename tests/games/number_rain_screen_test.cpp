@@ -676,6 +676,18 @@ private slots:
         QVERIFY(hit < 0 || !drop(hit).isVisible());
     }
 
+    void theSecondOfTwoHurriedPressesBesideANumberCountsToo()
+    {
+        run();
+        launch(5, 1, 1);
+        const QRect number = drop(0).geometry();
+        QTest::mouseDClick(
+            drop(0).parentWidget(), Qt::LeftButton, {}, {number.right() + 2, number.top() + 5});
+        model->rain.click(0);
+        compare();
+        QVERIFY(!drop(0).isVisible());
+    }
+
     void everyFateOfANumberSplashesItsOwnWay()
     {
         QApplication::setStyle(new ui::Style);

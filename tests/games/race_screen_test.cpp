@@ -304,6 +304,13 @@ private slots:
         verifyEnded();
     }
 
+    void aPressOnTheTrackLeavesTheKeysToTheAnswer()
+    {
+        openRace(7, 5);
+        QTest::mouseClick(&control<QWidget>(u"Picture1"_s), Qt::LeftButton);
+        QCOMPARE(screen->focusWidget()->objectName(), u"TBResultado"_s);
+    }
+
     void afterTheEndNothingCounts()
     {
         win();

@@ -1,7 +1,9 @@
 #include "support/box_answerer.h"
 #include "support/program_bench.h"
 #include "support/screen_bench.h"
+#include "ui/display_event.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +29,8 @@ public:
             releases += static_cast<QKeyEvent*>(event)->isAutoRepeat() ? 0 : 1;
         else if (event->type() == QEvent::MouseButtonRelease)
             ++clicks;
+        else if (event->type() == QEvent::Close)
+            ++requestsToClose;
         return false;
     }
 
@@ -34,6 +38,30 @@ public:
     int repeats = 0;
     int releases = 0;
     int clicks = 0;
+    int requestsToClose = 0;
+};
+
+/// Counts the presses on a window that is blocked: the toolkit keeps them to itself.
+class PressWatch final : public QAbstractNativeEventFilter {
+public:
+    explicit PressWatch(const QWidget& window)
+        : m_window(window.winId())
+    {
+        qApp->installNativeEventFilter(this);
+    }
+
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr*) override
+    {
+        const ui::DisplayEvent event = ui::readDisplayEvent(type, message);
+        if (event.window == m_window && event.kind == ui::DisplayEvent::Kind::Press)
+            ++count;
+        return false;
+    }
+
+    int count = 0;
+
+private:
+    quintptr m_window;
 };
 
 } // namespace
@@ -145,6 +173,18 @@ private slots:
         QCOMPARE(text(u"Form4"_s, u"tbResultados"_s), u"Ejercicios:  1; Errores:  1"_s);
     }
 
+    void altF4HeldClosesOneWindow()
+    {
+        button(*menu, u"Command1(0)"_s).click();
+        QTRY_VERIFY(screenHasKeyboard(u"Form4"_s));
+        watch->comeFirst();
+        display({u"keydown"_s, u"Alt_L"_s, u"keydown"_s, u"F4"_s});
+        QTRY_VERIFY(watch->requestsToClose >= 4); // the window manager's, one a repeat
+        display({u"keyup"_s, u"F4"_s, u"keyup"_s, u"Alt_L"_s});
+        QVERIFY(program->screens.loaded(u"Form4"_s) == nullptr);
+        QVERIFY(program->screens.loaded(u"Form1"_s) != nullptr);
+    }
+
     // --- boxes that come up by themselves
 
     void theEndOfADrillByTimeIsNotAnsweredByAnAnswersEnter()
@@ -209,13 +249,35 @@ private slots:
         minimise(activity);
         if (clicked) {
             QTRY_COMPARE(activeOnDisplay(), menu->winId()); // else the click may come too early
-            clickMenu();
+            clickMenu(menu->rect().center());
         } else {
             minimise(*menu);
             display({u"windowactivate"_s, QString::number(menu->winId())});
         }
         QTRY_VERIFY(!activity.isMinimized() && hasKeyboard(activity));
         QCOMPARE(menu->isVisible(), true);
+    }
+
+    void aRaceThatIsLostWhileMinimisedComesBackBehindItsBox()
+    {
+        startRace();
+        typeResult();
+        pressEnter();
+        minimise(loaded(u"FrmCarrera"_s));
+        BoxAnswerer boxes{u"Aceptar"_s};
+        boxes.whileOpen = [&](QDialog& box) {
+            QTRY_VERIFY(hasKeyboard(box));
+            const PressWatch presses(*menu);
+            clickMenu(menu->rect().bottomLeft() + QPoint(8, -8));
+            QTRY_VERIFY(presses.count > 0);
+            program->clock.passed += 800ms;
+            pressEnter();
+            QVERIFY(!box.isVisible());
+        };
+        tickUntilLost();
+        QCOMPARE(boxes.texts.size(), 1);
+        QTRY_VERIFY(screenHasKeyboard(u"FrmCarrera"_s));
+        QVERIFY(!loaded(u"FrmCarrera"_s).isMinimized());
     }
 
     void theMenuBringsTheAboutBoxBack()
@@ -347,16 +409,20 @@ private:
     {
         BoxAnswerer boxes{u"Aceptar"_s};
         boxes.whileOpen = [&](QDialog& box) { hurry(box); };
+        tickUntilLost();
+        QCOMPARE(boxes.texts.size(), 1);
+    }
+    void tickUntilLost() const
+    {
         program->clock.passingWithEachLook = 0ms;
         ScreenBench::find<QTimer>(loaded(u"FrmCarrera"_s), u"Timer2"_s).stop();
         for (int step = 0; step < 60; ++step)
             tick(u"FrmCarrera"_s, u"Timer2"_s);
-        QCOMPARE(boxes.texts.size(), 1);
     }
 
-    void clickMenu() const
+    void clickMenu(const QPoint& where) const
     {
-        const QPoint place = menu->mapToGlobal(QPoint(menu->width() / 2, menu->height() / 2));
+        const QPoint place = menu->mapToGlobal(where);
         display({u"mousemove"_s, QString::number(place.x()), QString::number(place.y()),
             u"click"_s, u"1"_s});
     }

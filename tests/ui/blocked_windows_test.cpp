@@ -41,6 +41,38 @@ private slots:
         activated(*menu);
         QTRY_VERIFY(!activity->isMinimized());
     }
+    void pressOrKeyOnTheMenuBringsTheMinimisedActivityBack()
+    {
+        for (const char kind : {ButtonPress, KeyPress}) {
+            activity->setWindowState(Qt::WindowMinimized);
+            pressed(kind, *menu);
+            QVERIFY(!isMinimised(*activity));
+        }
+    }
+    void keyOfAChordLeavesTheActivityMinimised()
+    {
+        activity->setWindowState(Qt::WindowMinimized);
+        QTest::simulateEvent(
+            activity->windowHandle(), true, Qt::Key_Alt, Qt::AltModifier, {}, false);
+        pressed(KeyPress, *menu);
+        QVERIFY(isMinimised(*activity));
+        QTest::simulateEvent(
+            activity->windowHandle(), false, Qt::Key_Alt, Qt::NoModifier, {}, false);
+        pressed(KeyPress, *menu);
+        QVERIFY(!isMinimised(*activity));
+    }
+    void boxOverAMinimisedActivityLeavesItSo()
+    {
+        activity->setWindowState(Qt::WindowMinimized);
+        QDialog box(activity.get());
+        box.setModal(true);
+        box.show();
+        pressed(ButtonPress, *menu);
+        QVERIFY(isMinimised(*activity));
+        box.setWindowState(Qt::WindowMinimized);
+        pressed(ButtonPress, *menu);
+        QVERIFY(!isMinimised(box) && !isMinimised(*activity));
+    }
     void keyboardThatIsLeftOverLeavesTheActivityMinimised()
     {
         lost(*activity);
@@ -80,16 +112,26 @@ private slots:
     }
 
 private:
+    /// Asked at once: the toolkit tells the control of it later.
+    static bool isMinimised(const QWidget& window)
+    {
+        return window.windowHandle()->windowStates() & Qt::WindowMinimized;
+    }
+
+    static constexpr char KeyPress = 2;
+    static constexpr char ButtonPress = 4;
     static constexpr char FocusIn = 9;
     static constexpr char FocusOut = 10;
 
-    void activated(const QWidget& window) { tell(FocusIn, window); }
-    void lost(const QWidget& window) { tell(FocusOut, window); }
-    void tell(char kind, const QWidget& window)
+    void activated(const QWidget& window) { tell(FocusIn, window, 4); }
+    void lost(const QWidget& window) { tell(FocusOut, window, 4); }
+    void pressed(char kind, const QWidget& window) { tell(kind, window, 12); }
+    /// The number of the window stands at a place of its own in each kind of message.
+    void tell(char kind, const QWidget& window, std::size_t place)
     {
         std::array<char, 32> message{kind};
         const auto number = static_cast<quint32>(window.winId());
-        std::memcpy(message.data() + 4, &number, sizeof number);
+        std::memcpy(message.data() + place, &number, sizeof number);
         watch->nativeEventFilter("xcb_generic_event_t", message.data(), nullptr);
     }
 

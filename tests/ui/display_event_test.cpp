@@ -60,17 +60,18 @@ class DisplayEventTest : public QObject {
 private slots:
     void x11KeysAndButtonsPress()
     {
-        compare(x11(Message().put<quint8>(0, 2).put(12, Window)), Kind::Press);
+        compare(x11(Message().put<quint8>(0, 2).put(12, Window)), Kind::Key);
         compare(x11(Message().put<quint8>(0, 4).put(12, Window)), Kind::Press);
         compare(x11(Message().put<quint8>(0, 3).put(12, Window)), Kind::Other);
     }
 
-    void x11ButtonsOfTheMousesExtensionPress()
+    void x11ButtonsAndTouchesOfTheMousesExtensionPress()
     {
         const auto ofExtension = [](quint16 event) {
             return Message().put<quint8>(0, 35).put(8, event).put(24, Window);
         };
         compare(x11(ofExtension(4)), Kind::Press);
+        compare(x11(ofExtension(18)), Kind::Press);
         compare(x11(ofExtension(6)), Kind::Other);
     }
 

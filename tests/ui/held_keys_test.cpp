@@ -158,6 +158,23 @@ private slots:
         QCOMPARE(clicks, 2);
     }
 
+    void aReleaseOfAnUnknownPressAndAPressOfTheSameTimeAreARepeat()
+    {
+        screen->command->setFocus();
+        constexpr ulong Time = 1000;
+        sendAt(Time, QEvent::KeyRelease, Qt::Key_Enter); // pressed in another program
+        sendAt(Time, QEvent::KeyPress, Qt::Key_Enter);
+        QCOMPARE(clicks, 0);
+        sendAt(Time + 500, QEvent::KeyRelease, Qt::Key_Enter);
+        sendAt(Time + 501, QEvent::KeyPress, Qt::Key_Enter);
+        QCOMPARE(clicks, 1);
+        sendAt(Time + 502, QEvent::KeyRelease, Qt::Key_Enter);
+
+        sendAt(Time + 900, QEvent::KeyRelease, Qt::Key_Enter); // pressed where a box took no keys
+        sendAt(Time + 900, QEvent::KeyPress, Qt::Key_Enter);
+        QCOMPARE(clicks, 1);
+    }
+
     void aProgramMayPressAKeyAgainInTheSameInstant()
     {
         screen->command->setFocus();
@@ -201,13 +218,13 @@ private:
         repeat(key, text, modifiers);
         up(key, modifiers);
     }
-    static void sendAt(ulong time, QEvent::Type type)
+    static void sendAt(ulong time, QEvent::Type type, Qt::Key key = Qt::Key_Return)
     {
         QList<QEvent::Type> types{type};
         if (type == QEvent::KeyPress)
             types.prepend(QEvent::ShortcutOverride);
         for (const QEvent::Type each : types) {
-            QKeyEvent event(each, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
+            QKeyEvent event(each, key, Qt::NoModifier, u"\r"_s);
             event.setTimestamp(time);
             QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &event);
         }

@@ -216,6 +216,19 @@ private slots:
         QVERIFY(textColour(verdict) != fresh); // until the next check
     }
 
+    void aSolutionThatEqualsTheLastAnswerIsNotFaded()
+    {
+        const auto& result = bench->control<QLineEdit>(u"TBResultado"_s);
+        answer(u"10"_s);
+        const QColor fresh = textColour(result);
+        script({5, 3, 4, 2, 6, 3}, {1, 3, 4}); // 10 again
+        bench->click(u"Command2(0)"_s);
+        QVERIFY(textColour(result) != fresh);
+        bench->click(u"Command2(2)"_s);
+        QCOMPARE(bench->text(u"TBResultado"_s), u"10"_s);
+        QCOMPARE(textColour(result), fresh);
+    }
+
     void clearEmptiesTheAnswerAlone()
     {
         answer(u"11"_s);

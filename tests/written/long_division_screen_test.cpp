@@ -39,6 +39,7 @@ private slots:
     void clearKeepsASolvedExerciseSolved();
     void continueBringsAPendingExercise();
     void continueGoesToTheWork();
+    void aMenusExerciseTakesTheFocusFromContinueAlone();
 
     void aPressBesideTheStripWritesInIt_data();
     void aPressBesideTheStripWritesInIt();
@@ -366,6 +367,18 @@ void LongDivisionScreenTest::continueGoesToTheWork()
     QCOMPARE(line(0), u" 60   "_s);
     QTest::keyClick(QApplication::focusWidget(), '1');
     QCOMPARE(line(1), u" 1    "_s);
+}
+
+void LongDivisionScreenTest::aMenusExerciseTakesTheFocusFromContinueAlone()
+{
+    script(60, 5);
+    m_bench->control<QPushButton>(u"Command2(0)"_s).setFocus();
+    m_bench->pick(u"MnuOpcDecLis(1)"_s);
+    QCOMPARE(m_bench->focusName(), u"Text1"_s);
+    script(60, 5);
+    m_bench->control<QLineEdit>(u"Text3"_s).setFocus();
+    m_bench->pick(u"MnuOpcDecLis(0)"_s);
+    QCOMPARE(m_bench->focusName(), u"Text3"_s);
 }
 
 // --- the work area

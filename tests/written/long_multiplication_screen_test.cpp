@@ -428,6 +428,20 @@ private slots:
         QCOMPARE(bench->text(u"Text2"_s), u"Ejercicios:  1; Errores:  0"_s);
     }
 
+    void aMenusExerciseTakesTheFocusFromContinueAlone()
+    {
+        for (int i = 0; i < 2; ++i) {
+            appendFactor(4321, 4);
+            appendFactor(76, 2);
+        }
+        bench->control<QPushButton>(u"Command2(0)"_s).setFocus();
+        bench->pick(u"MnuOpcSelLis(0)"_s);
+        QCOMPARE(bench->focusName(), u"TbParcial(0)"_s);
+        bench->control<QLineEdit>(u"TBResultado"_s).setFocus();
+        bench->pick(u"MnuOpcSelLis(0)"_s);
+        QCOMPARE(bench->focusName(), u"TBResultado"_s);
+    }
+
     void digitListsWaitForTheNextExercise()
     {
         type(u"1"_s);
