@@ -15,6 +15,7 @@ namespace {
 
 /// In milliseconds; no keyboard is set to repeat a key sooner.
 constexpr quint64 ShortestRepeatDelay = 100;
+constexpr int LongestRepeatDelay = 3000; // on a busy machine
 
 QObject* controlWithKeyboard()
 {
@@ -49,6 +50,9 @@ bool movesOrErases(const QKeyEvent& event)
 HeldKeys::HeldKeys(QObject* application)
     : QObject(application)
 {
+    m_altF4.setObjectName(QStringLiteral("altF4"));
+    m_altF4.setInterval(LongestRepeatDelay);
+    m_altF4.setSingleShot(true);
     application->installEventFilter(this);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] {
         for (auto& [key, press] : m_presses)
@@ -84,8 +88,9 @@ bool HeldKeys::pressCounts(const QKeyEvent& event)
 {
     const quint32 key = physicalKey(event);
     QObject* control = controlWithKeyboard();
+    if (event.key() == Qt::Key_Alt)
+        m_altF4.stop(); // even if it seems to repeat: its release may have gone elsewhere
     if (!isRepeat(event)) {
-        m_closedWithAlt = m_closedWithAlt && event.key() != Qt::Key_Alt;
         m_presses[key] = {.control = control, .pressedAt = event.timestamp(), .releasedAt = {}};
         return true;
     }
@@ -111,8 +116,13 @@ bool HeldKeys::releaseCounts(const QKeyEvent& event)
 // A window manager that takes Alt+F4 for itself asks for the next window while F4 repeats.
 bool HeldKeys::closeCounts()
 {
-    const bool isAltDown = QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier;
-    return !std::exchange(m_closedWithAlt, isAltDown) || !isAltDown;
+    const bool isRepeat = m_altF4.isActive();
+    if (!(QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier)) {
+        m_altF4.stop();
+        return true;
+    }
+    m_altF4.start();
+    return !isRepeat;
 }
 
 // X11 repeats a key as a release and a press of the same time. When the toolkit reads the

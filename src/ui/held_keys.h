@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 #include <optional>
 #include <unordered_map>
@@ -36,7 +37,7 @@ private:
     bool closeCounts();
 
     std::unordered_map<quint32, Press> m_presses; ///< by key
-    bool m_closedWithAlt = false; ///< a window has been asked to close, and Alt is down since
+    QTimer m_altF4{this}; ///< runs while the next request to close would be of the same keys
 };
 
 } // namespace ui

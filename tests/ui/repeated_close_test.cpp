@@ -46,7 +46,17 @@ private slots:
     {
         press(true, Qt::AltModifier);
         QVERIFY(isAskedToClose());
-        press(true, Qt::AltModifier); // its release went elsewhere
+        press(true, Qt::AltModifier, true); // its release went elsewhere
+        QVERIFY(isAskedToClose());
+        press(false, Qt::NoModifier);
+    }
+    void aPressOfAltThatWentElsewhereIsNotWaitedForLong()
+    {
+        press(true, Qt::AltModifier);
+        QVERIFY(isAskedToClose());
+        auto* repeats = qApp->findChild<QTimer*>(u"altF4"_s);
+        QVERIFY(repeats->isActive());
+        repeats->stop(); // as when its time is over
         QVERIFY(isAskedToClose());
         press(false, Qt::NoModifier);
     }
@@ -57,9 +67,9 @@ private slots:
     }
 
 private:
-    void press(bool down, Qt::KeyboardModifiers modifiers) const
+    void press(bool down, Qt::KeyboardModifiers modifiers, bool repeated = false) const
     {
-        QTest::simulateEvent(window->windowHandle(), down, Qt::Key_Alt, modifiers, {}, false);
+        QTest::simulateEvent(window->windowHandle(), down, Qt::Key_Alt, modifiers, {}, repeated);
     }
     /// Whether a request of the display gets through to the window; which stays open.
     bool isAskedToClose() const
