@@ -113,11 +113,13 @@ bool HeldKeys::releaseCounts(const QKeyEvent& event)
     return wasDown && isFirst && !press.dead;
 }
 
-// A window manager that takes Alt+F4 for itself asks for the next window while F4 repeats.
+// A window manager that takes Alt+F4 for itself asks for the next window while F4 repeats. On
+// Windows it comes to the program, whose keys these are then.
 bool HeldKeys::closeCounts()
 {
     const bool isRepeat = m_altF4.isActive();
-    if (!(QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier)) {
+    const bool isAltDown = QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier;
+    if (!isAltDown || QGuiApplication::platformName() == u"windows") {
         m_altF4.stop();
         return true;
     }
