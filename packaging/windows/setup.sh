@@ -17,10 +17,10 @@ configure_windows() { # packages that the caller needs too
   [ -e "$toolkit/complete" ] ||
     echo "Compilo Qt para Windows; solo esta vez, y puede durar una hora: $toolkit"
   quietly "compilar Qt para Windows" packaging/windows/toolkit.sh build
-  # Debian 13 leaves the plug-ins out, which a static toolkit has nowhere else: without them no
-  # window comes up.
   # What is remembered of another toolkit would be found before this one.
   grep -qsF "$toolkit/" "$windows_build/CMakeCache.txt" || fresh=(--fresh)
+  # Debian 13 would leave the plug-ins out, which a static toolkit has nowhere else: without them
+  # no window comes up.
   quietly "configurar windows" cmake ${fresh+"${fresh[@]}"} -S . -B "$windows_build" -G Ninja \
     -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE="$toolkit/lib/cmake/Qt6/qt.toolchain.cmake" \
     -DQT_CHAINLOAD_TOOLCHAIN_FILE="$PWD/packaging/windows/toolchain.cmake" \
