@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/pending_events.h"
+#include "support/window_manager.h"
 #include "ui/handler_guard.h"
 
 #include <QCoreApplication>
@@ -56,7 +57,11 @@ private:
             return;
         const QPointer<QDialog> box = *up;
         m_expected.erase(up);
-        m_isUp(*box);
+        // To the toolkit a window is active as soon as it has asked to be. A box that goes
+        // before the window manager has seen to that leaves the keyboard to none, it believes.
+        settleWindows();
+        if (box)
+            m_isUp(*box);
         remindOuterLoops(); // keys that a test sends let events run
     }
 
