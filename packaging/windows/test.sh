@@ -47,5 +47,6 @@ WINE_ERRORS=$PWD/$windows_build/errors.txt QT_FORCE_STDERR_LOGGING=1 \
 grep -E 'tests passed|^[0-9]+: SKIP' build/probar-wine.log
 WINDOW_PLATFORM=windows quietly "recorrer wine" tests/support/on_display.sh \
   packaging/windows/walk.sh \
-  "$packed-windows.zip" "$packed-setup.exe" "$windows_build/pictures"
+  "$packed-windows.zip" "$packed-setup.exe" "$windows_build/bin/without_rights.exe" \
+  "$windows_build/pictures"
 tail -n 1 build/recorrer-wine.log

@@ -2,25 +2,27 @@
 # Uses the archive and the installer under Wine as a school does: opens every activity in real
 # windows, with the keyboard alone, and saves a problem, beside the program where that can be
 # written and in the shared folder where not; installs and uninstalls.
-#   walk.sh ARCHIVE INSTALLER PICTURES
-# on the display DISPLAY, which has a window manager. PICTURES is a folder for pictures of the
-# windows.
+#   walk.sh ARCHIVE INSTALLER WITHOUT_RIGHTS PICTURES
+# on the display DISPLAY, which has a window manager. WITHOUT_RIGHTS is a program that runs another
+# one as no administrator, PICTURES a folder for pictures of the windows.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 archive=$1
 installer=$2
-pictures=$3
+without_rights=$3
+pictures=$4
 
 # Permissions stop nothing where root runs this: then a copy of it goes on as somebody else.
 if [ "$(id -u)" -eq 0 ]; then
   work=$(mktemp -d)
   trap 'rm -rf "$work"' EXIT
-  cp "$archive" "$installer" "$here/walk.sh" "$here/wine.sh" "$work"
+  cp "$archive" "$installer" "$without_rights" "$here/walk.sh" "$here/wine.sh" "$work"
   mkdir -p "$work/pictures"
   chown -R 65534:65534 "$work"
   status=0
   HOME=$work setpriv --reuid 65534 --regid 65534 --clear-groups "$work/walk.sh" \
-    "$work/$(basename "$archive")" "$work/$(basename "$installer")" "$work/pictures" || status=$?
+    "$work/$(basename "$archive")" "$work/$(basename "$installer")" \
+    "$work/$(basename "$without_rights")" "$work/pictures" || status=$?
   mkdir -p "$pictures"
   cp "$work"/pictures/* "$pictures" || true
   exit "$status"
@@ -204,6 +206,17 @@ install_silently() { # switch for whom, and for where
   "$here/wine.sh" "$installer" /S "$@"
 }
 
+install_without_rights() { # the same
+  timeout 120 "$here/wine.sh" "$without_rights" "Z:${installer//\//\\}" /S "$@"
+}
+
+refuse_all_users() {
+  local status=0
+  install_without_rights /AllUsers || status=$?
+  [ "$status" -eq 2 ] || fail "installing for all without rights ends with $status"
+  [ ! -e "$installed" ] || fail "installed for all without rights"
+}
+
 show_installer() {
   "$here/wine.sh" "$installer" &
   until_so "the installer does not come up" is_other none
@@ -245,10 +258,10 @@ walk_uninstaller() {
   [ -e "$shared/Problemas3.dat" ] || fail "the shared bank went"
 
   local own
-  install_silently /CurrentUser
+  install_without_rights /CurrentUser
   own=$(dirname "$(find "$drive/users" -name pizarrin.exe)")
   echo 'Uno más|1||*' >>"$own/Recursos/Problemas3.dat"
-  install_silently /CurrentUser # over it
+  install_without_rights /CurrentUser # over it
   uninstall /CurrentUser "$own"
   tail -n 1 "$own/Recursos/Problemas3.dat" | grep -q 'Uno m' || fail "a changed bank went"
 
@@ -261,6 +274,7 @@ walk_uninstaller() {
 setxkbmap es
 walk_archive
 show_installer
+refuse_all_users
 walk_installed
 walk_uninstaller
 echo "Windows: 11 actividades abiertas, banco guardado, instalado y desinstalado"
