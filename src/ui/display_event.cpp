@@ -17,14 +17,15 @@ template <typename Number> Number numberAt(const void* message, std::size_t offs
 
 // --- X11
 
-/// A window manager's request to take the focus or to close: of all messages to a window it
-/// alone says nothing after what it wants and the time.
+/// A request to take the focus or to close: of all messages to a window it alone says nothing
+/// after what it wants and the time, but for the one that takes a state from a window. That
+/// begins with 0.
 bool isRequest(const void* message)
 {
     const auto word = [&](std::size_t index) {
         return numberAt<quint32>(message, 12 + 4 * index);
     };
-    return word(1) != 0 && word(2) == 0 && word(3) == 0 && word(4) == 0;
+    return word(0) != 0 && word(1) != 0 && word(2) == 0 && word(3) == 0 && word(4) == 0;
 }
 
 /// While no window has the keyboard, the one under the pointer is told that it has it, and then

@@ -90,9 +90,16 @@ private slots:
 
     void x11RequestOfTheWindowManagerActivates()
     {
-        Message request = Message().put<quint8>(0, 33).put(4, Window).put<quint32>(16, 1234);
+        Message request = Message().put<quint8>(0, 33).put(4, Window);
+        request.put<quint32>(12, 241).put<quint32>(16, 1234);
         compare(x11(request), Kind::Activation);
         compare(x11(request.put<quint32>(20, 1)), Kind::Other);
+    }
+
+    void x11StateThatIsTakenFromAWindowDoesNotActivate()
+    {
+        compare(
+            x11(Message().put<quint8>(0, 33).put(4, Window).put<quint32>(16, 277)), Kind::Other);
     }
 
     void windowsActivates()
