@@ -1,7 +1,6 @@
 #include "ui/blocked_windows.h"
 
 #include <QApplication>
-#include <QWidget>
 #include <QWindow>
 
 namespace ui {
@@ -76,7 +75,8 @@ bool BlockedWindows::nativeEventFilter(const QByteArray& type, void* message, qi
         if (isBlocked && asksForIt(event.kind))
             bringBack(*blocking);
     } else if (isBlocked && event.kind == DisplayEvent::Kind::Activation) {
-        m_isHandedOn = m_sinceLoss.isValid() && m_sinceLoss.elapsed() < HandingOn;
+        const bool isHandedOn = m_sinceLoss.isValid() && m_sinceLoss.elapsed() < HandingOn;
+        m_handedOnBy = isHandedOn ? blocking : nullptr;
         m_settling.start();
         return true; // else the toolkit would undo a minimising that it has not heard of yet
     } else {
@@ -100,7 +100,7 @@ void BlockedWindows::focusMoved(DisplayEvent::Kind kind, bool isOfBlocking)
 void BlockedWindows::settled()
 {
     QWidget* blocking = QApplication::activeModalWidget();
-    if (blocking != nullptr && !(m_isHandedOn && blocking->isMinimized()))
+    if (blocking != nullptr && !(m_handedOnBy == blocking && blocking->isMinimized()))
         bringBack(*blocking);
 }
 

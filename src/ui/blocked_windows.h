@@ -5,7 +5,9 @@
 #include <QAbstractNativeEventFilter>
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
+#include <QWidget>
 
 namespace ui {
 
@@ -26,7 +28,7 @@ private:
 
     QTimer m_settling{this}; ///< runs before a blocked window is judged that has the keyboard
     QElapsedTimer m_sinceLoss; ///< of the focus by the blocking window; invalid: by another
-    bool m_isHandedOn = false; ///< nobody activated the blocked window: it got what was left
+    QPointer<QWidget> m_handedOnBy; ///< nobody activated the blocked window: this one's was left
 };
 
 } // namespace ui

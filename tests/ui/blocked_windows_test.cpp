@@ -73,6 +73,18 @@ private slots:
         pressed(ButtonPress, *menu);
         QVERIFY(!isMinimised(box) && !isMinimised(*activity));
     }
+    void boxThatIsAnsweredAtOnceLeavesTheKeyboardToTheMinimisedActivity()
+    {
+        activity->setWindowState(Qt::WindowMinimized);
+        QDialog box(activity.get());
+        box.setModal(true);
+        box.show();
+        lost(box);
+        activated(*menu);
+        box.close();
+        QVERIFY(settling->isActive());
+        QTRY_VERIFY(!activity->isMinimized());
+    }
     void keyboardThatIsLeftOverLeavesTheActivityMinimised()
     {
         lost(*activity);
