@@ -72,7 +72,7 @@ void ExerciseScreen::enterChecks(QWidget* answerBox)
 
 void ExerciseScreen::leaveContinue(QWidget* work)
 {
-    if (Command2[0]->hasFocus())
+    if (focusWidget() == Command2[0]) // behind a box that has just closed it has no keyboard yet
         work->setFocus();
 }
 

@@ -40,6 +40,8 @@ private slots:
     void continueBringsAPendingExercise();
     void continueGoesToTheWork();
     void aMenusExerciseTakesTheFocusFromContinueAlone();
+    void aTypedOperandTakesTheFocusFromContinue_data();
+    void aTypedOperandTakesTheFocusFromContinue();
 
     void aPressBesideTheStripWritesInIt_data();
     void aPressBesideTheStripWritesInIt();
@@ -379,6 +381,23 @@ void LongDivisionScreenTest::aMenusExerciseTakesTheFocusFromContinueAlone()
     m_bench->control<QLineEdit>(u"Text3"_s).setFocus();
     m_bench->pick(u"MnuOpcDecLis(0)"_s);
     QCOMPARE(m_bench->focusName(), u"Text3"_s);
+}
+
+void LongDivisionScreenTest::aTypedOperandTakesTheFocusFromContinue_data()
+{
+    QTest::addColumn<QString>("item");
+
+    QTest::newRow("dividend") << u"MnuOpcInt"_s;
+    QTest::newRow("divisor") << u"MnuOpcInd"_s;
+}
+
+void LongDivisionScreenTest::aTypedOperandTakesTheFocusFromContinue()
+{
+    QFETCH(QString, item);
+    m_bench->control<QPushButton>(u"Command2(0)"_s).setFocus();
+    BoxAnswerer boxes({{u"12"_s, u"Aceptar"_s}});
+    m_bench->pick(item);
+    QCOMPARE(m_screen->focusWidget()->objectName(), u"Text1"_s);
 }
 
 // --- the work area

@@ -442,6 +442,33 @@ private slots:
         QCOMPARE(bench->focusName(), u"TBResultado"_s);
     }
 
+    void aTypedFactorTakesTheFocusFromContinue_data()
+    {
+        QTest::addColumn<QString>("item");
+
+        QTest::newRow("first") << u"MnuOpcIn1"_s;
+        QTest::newRow("second") << u"MnuOpcIn2"_s;
+    }
+    void aTypedFactorTakesTheFocusFromContinue()
+    {
+        QFETCH(QString, item);
+        bench->control<QPushButton>(u"Command2(0)"_s).setFocus();
+        expectBoxes({{u"12"_s, u"Aceptar"_s}});
+        bench->pick(item);
+        QCOMPARE(screen->focusWidget()->objectName(), u"TbParcial(0)"_s);
+    }
+
+    void theDialogOfDigitsTakesTheFocusFromContinue()
+    {
+        bench->control<QPushButton>(u"Command2(0)"_s).setFocus();
+        bench->pick(u"MnuOpcSelLis(1)"_s);
+        tick({2});
+        appendFactor(4321, 4);
+        bench->random.append({0.0f, 0.0f});
+        accept();
+        QCOMPARE(screen->focusWidget()->objectName(), u"TbParcial(0)"_s);
+    }
+
     void digitListsWaitForTheNextExercise()
     {
         type(u"1"_s);
