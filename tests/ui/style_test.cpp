@@ -190,7 +190,8 @@ private slots:
         QScrollBar& bar = *screen->lines->verticalScrollBar();
         runPendingEvents();
         QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, bar.height() - 1});
-        QCOMPARE(bar.value(), bar.pageStep());
+        QVERIFY(bar.value() > 0);
+        QVERIFY(bar.value() < bar.maximum() / 2); // not to where it was pressed
         QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, 0});
         QCOMPARE(bar.value(), 0);
     }
