@@ -37,7 +37,7 @@ QString numberLine(int number, int right, int wrong, const QLocale& locale)
     return line + u"\r\n"_s;
 }
 
-/// What was typed, as it is quoted: a finger left on a key writes without end.
+/// What was typed, as it is quoted: a text that is pasted has no end.
 QString quoted(const QString& typed)
 {
     constexpr int Longest = 20;

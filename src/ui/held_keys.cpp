@@ -117,14 +117,14 @@ bool HeldKeys::releaseCounts(const QKeyEvent& event)
 // Windows it comes to the program, whose keys these are then.
 bool HeldKeys::closeCounts()
 {
-    const bool isRepeat = m_altF4.isActive();
+    const bool isHeld = m_altF4.isActive();
     const bool isAltDown = QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier;
     if (!isAltDown || QGuiApplication::platformName() == u"windows") {
         m_altF4.stop();
         return true;
     }
     m_altF4.start();
-    return !isRepeat;
+    return !isHeld;
 }
 
 // X11 repeats a key as a release and a press of the same time. When the toolkit reads the

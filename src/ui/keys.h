@@ -53,7 +53,7 @@ QChar typedCharacter(const QKeyEvent& event);
 
 /// Splits the key events of one control into the three that the rules tell apart. A press
 /// calls down, then, when it types a character, press; a release calls up. A key held down
-/// repeats down and press, never up.
+/// repeats down and press where its repeats come through (HeldKeys), never up.
 class KeyFilter : public QObject {
 public:
     using DownHandler = std::function<KeyResult(int keyCode, Qt::KeyboardModifiers modifiers)>;

@@ -188,6 +188,15 @@ private slots:
         QCOMPARE(drop(0).pos(), at(13 * 500, velocidad == 5 ? 1280 : 780));
     }
 
+    void clickingAWrongNumberRestsTheFocusToo()
+    {
+        run();
+        launch(5, 1, 8);
+        click(0);
+        QCOMPARE(bench->focusName(), u"PbFoco"_s);
+        compare();
+    }
+
     void clickingARightNumberRemovesIt()
     {
         run();
@@ -408,6 +417,7 @@ private slots:
         QCOMPARE(boxes.buttons, (QStringList{u"Sí"_s, u"No"_s}));
         QCOMPARE(bench->text(u"Text2(0)"_s), u"100"_s);
         QCOMPARE(bench->text(u"Text2(1)"_s), u"Vidas : 3"_s);
+        QCOMPARE(screen->focusWidget()->objectName(), u"CbEmpezar"_s);
         compare();
     }
 
@@ -466,6 +476,7 @@ private slots:
         QCOMPARE(bench->text(u"Text2(0)"_s), u"100 puntos"_s);
         QCOMPARE(bench->control<QLineEdit>(u"Text1"_s).selectedText(),
             u"Elimina todos los números pares"_s);
+        QCOMPARE(screen->focusWidget()->objectName(), u"CbEmpezar"_s);
         compare();
     }
 

@@ -300,6 +300,16 @@ private slots:
         QCOMPARE(timer(1).interval(), 1000);
     }
 
+    void anAnswerLeavesTheSecondsAsTheyRun()
+    {
+        append(7, 8);
+        start();
+        timer(1).stop();
+        append(6, 9);
+        answer(u"56"_s);
+        QVERIFY(!timer(1).isActive());
+    }
+
     void aTickWithinTheTimeStartsNothing()
     {
         append(7, 8);
