@@ -7,10 +7,10 @@
 # one as no administrator, PICTURES a folder for pictures of the windows.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-archive=$1
-installer=$2
-without_rights=$3
-pictures=$4
+archive=$(realpath "$1")
+installer=$(realpath "$2")
+without_rights=$(realpath "$3")
+pictures=$(realpath "$4")
 
 # Permissions stop nothing where root runs this: then a copy of it goes on as somebody else.
 if [ "$(id -u)" -eq 0 ]; then
@@ -206,7 +206,7 @@ install_silently() { # switch for whom, and for where
   "$here/wine.sh" "$installer" /S "$@"
 }
 
-install_without_rights() { # the same
+install_without_rights() { # switch for whom
   timeout 120 "$here/wine.sh" "$without_rights" "Z:${installer//\//\\}" /S "$@"
 }
 

@@ -1,4 +1,4 @@
-// without_rights.exe PROGRAM ARGUMENT…: runs a program for Windows as somebody who is no
+// For Windows. without_rights.exe PROGRAM ARGUMENT…: runs a program as somebody who is no
 // administrator, and ends as that does; with 255 if it cannot be started.
 #include <windows.h>
 
