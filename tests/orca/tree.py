@@ -171,8 +171,9 @@ def tab_order(window):
 
 
 def goes_to(title):
-    """Waits for another window than that with this title."""
-    return wait(lambda: (window := window_in_front()) and window.get_name() != title and window,
+    """Waits for another window than that with this title. One that has just gone has no name."""
+    return wait(lambda: (window := window_in_front()) and window.get_name() not in ("", title)
+                and window,
                 f"nothing came up in front of {title!r}")
 
 

@@ -16,7 +16,7 @@ class AnnouncementsTest : public QObject {
 private slots:
     void initTestCase()
     {
-        QTRY_VERIFY(QAccessible::isActive());
+        QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 60000); // the desktop's bus starts
         listenToSpeech();
     }
     void init()

@@ -25,7 +25,7 @@ openbox --startup "sh -c 'echo >$XDG_RUNTIME_DIR/managed'" 2>/dev/null &
 read -r _ <"$XDG_RUNTIME_DIR/managed"
 
 # Asking where the accessibility bus is starts it.
-dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
+dbus-send --session --print-reply --reply-timeout=120000 --dest=org.a11y.Bus /org/a11y/bus \
   org.a11y.Bus.GetAddress >/dev/null
 
 QT_QPA_PLATFORM=${WINDOW_PLATFORM:-xcb} QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 LC_ALL=C.UTF-8 "$@"

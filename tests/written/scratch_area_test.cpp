@@ -120,6 +120,7 @@ private:
         area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         area.setCursorWidth(0); // the caret would hide parts of lines
         area.show();
+        settleWindows();
         QVERIFY(QTest::qWaitForWindowExposed(&area));
     }
 
